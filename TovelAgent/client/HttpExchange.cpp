@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "client/HttpExchange.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include <boost/asio/redirect_error.hpp>
+#include <boost/asio/this_coro.hpp>
+#include <boost/asio/use_awaitable.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http/empty_body.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/string_body.hpp>
+#include <boost/beast/http/write.hpp>
+
+namespace quillmark {
+namespace {
+
+namespace asio = boost::asio;
+namespace beast = boost::beast;
+namespace http = beast::http;
+
+using ErrorCode = boost::system::error_code;
+using Parser = http::response_parser<http::string_body>;
+
+constexpr std::size_t readSize = std::size_t{64} * 1024;
+constexpr int maxInterimAnswers = 16;
+
+http::request<http::empty_body> message(const HttpRequest& request) {
+  http::request<http::empty_body> result;
+  result.method_string(request.method);
+  result.target(request.target);
+  result.set(http::field::host, request.host);
+  result.set("X-Agent-Token", request.token);
+  // Owed to the server by a client that keeps no connection.
+  result.set(http::field::connection, "close");
+  return result;
+}
+
+/// Collects the final answer from the bytes of one connection.
+class AnswerReader final {
+ public:
+  explicit AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
+
+  enum class State { wantsMore, done, failed };
+
+  /// Where the next bytes of the connection go.
+  [[nodiscard]] auto space() { return buffer_.prepare(readSize); }
+
+  /// Takes `count` bytes that were written to `space()`.
+  [[nodiscard]] State received(std::size_t count) {
+    buffer_.commit(count);
+    for (;;) {
+      ErrorCode error;
+      const std::size_t used = parser_->put(buffer_.data(), error);
+      buffer_.consume(used);
+      if (error == http::error::need_more) {
+        // What the parser leaves is a header, a chunk's or the trailer's line.
+        return buffer_.size() > limits_.headerBytes ? State::failed : State::wantsMore;
+      }
+      if (error) {
+        return State::failed;
+      }
+      if (!parser_->is_done()) {
+        if (buffer_.size() == 0) {
+          return State::wantsMore;
+        }
+        continue;
+      }
+      if (!isInterim()) {
+        return State::done;
+      }
+      if (++interimAnswers_ > maxInterimAnswers) {
+        return State::failed;
+      }
+      startAnswer();
+    }
+  }
+
+  /// The server will send nothing more.
+  [[nodiscard]] State ended() {
+    ErrorCode error;
+    parser_->put_eof(error);
+    return !error && parser_->is_done() ? State::done : State::failed;
+  }
+
+  [[nodiscard]] std::string takeBody() { return std::move(parser_->get().body()); }
+
+ private:
+  void startAnswer() {
+    parser_.emplace();
+    parser_->eager(true);
+    parser_->header_limit(limits_.headerBytes);
+    parser_->body_limit(limits_.bodyBytes);
+  }
+
+  [[nodiscard]] bool isInterim() const {
+    const auto& answer = parser_->get();
+    return http::to_status_class(answer.result_int()) == http::status_class::informational &&
+           answer.result() != http::status::switching_protocols;
+  }
+
+  HttpLimits limits_;
+  beast::flat_buffer buffer_;
+  std::optional<Parser> parser_;
+  int interimAnswers_ = 0;
+};
+
+}  // namespace
+
+asio::awaitable<std::optional<std::string>> exchange(HttpRequest request, HttpLimits limits) {
+  ErrorCode error;
+  // A named token: GCC 12 destroys temporaries inside a co_await twice.
+  auto completion = asio::redirect_error(asio::use_awaitable, error);
+  const auto executor = co_await asio::this_coro::executor;
+  beast::tcp_stream stream(executor);
+
+  stream.expires_after(limits.silence);
+  co_await stream.async_connect(request.server, completion);
+  if (error) {
+    co_return std::nullopt;
+  }
+
+  const auto outgoing = message(request);
+  stream.expires_after(limits.silence);
+  co_await http::async_write(stream, outgoing, completion);
+  if (error) {
+    co_return std::nullopt;
+  }
+
+  AnswerReader answer(limits);
+  auto state = AnswerReader::State::wantsMore;
+  while (state == AnswerReader::State::wantsMore) {
+    const auto space = answer.space();
+    stream.expires_after(limits.silence);
+    const std::size_t count = co_await stream.async_read_some(space, completion);
+    if (error && error != asio::error::eof) {
+      co_return std::nullopt;
+    }
+    state = error ? answer.ended() : answer.received(count);
+  }
+  if (state == AnswerReader::State::failed) {
+    co_return std::nullopt;
+  }
+  co_return answer.takeBody();
+}
+
+}  // namespace quillmark

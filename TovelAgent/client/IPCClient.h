@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <boost/asio/awaitable.hpp>
+
+#include "model/AgentStatus.h"
+#include "model/InventoryData.h"
+#include "model/NetworkConnection.h"
+#include "model/ThreatAlert.h"
+
+namespace quillmark {
+
+/// The one connection to the agent: four reads over its loopback interface.
+///
+/// Every operation completes exactly once, with a value or with no value; the
+/// reason for no value (no token, no agent, silence, a body that does not
+/// decode) is told to nobody. An empty list is a value. The client is
+/// immutable once constructed, so all operations may run at once, from any
+/// thread, as long as it outlives them; each runs on its caller's executor.
+class IPCClient final {
+ public:
+  /// Reads the access token, once for the client's life.
+  IPCClient();
+  IPCClient(const IPCClient&) = delete;
+  IPCClient& operator=(const IPCClient&) = delete;
+
+  [[nodiscard]] boost::asio::awaitable<std::optional<AgentStatus>> getStatus() const;
+  [[nodiscard]] boost::asio::awaitable<std::optional<std::vector<ThreatAlert>>> getAlerts() const;
+  [[nodiscard]] boost::asio::awaitable<std::optional<std::vector<NetworkConnection>>> getNetwork()
+      const;
+  [[nodiscard]] boost::asio::awaitable<std::optional<InventoryData>> getInventory() const;
+
+ private:
+  void loadAuthToken();
+
+  template <class R>
+  [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string endpoint,
+                                                                     std::string method) const;
+
+  const std::string baseURL = "http://127.0.0.1:7823";
+  std::optional<std::string> authToken;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <boost/asio/any_io_executor.hpp>
+#include <boost/asio/thread_pool.hpp>
+
+namespace quillmark {
+
+/// The process's general-purpose executor, on which all network work runs.
+///
+/// Exactly one lives at a time: the entry point makes it before anything that
+/// starts tasks, and destroys it after. Its destruction waits for the handlers
+/// that are running at that moment and drops every task that is waiting.
+class TaskExecutor final {
+ public:
+  TaskExecutor();
+  ~TaskExecutor();
+  TaskExecutor(const TaskExecutor&) = delete;
+  TaskExecutor& operator=(const TaskExecutor&) = delete;
+
+  /// The executor of the one instance, which must exist. Any thread.
+  [[nodiscard]] static boost::asio::any_io_executor current();
+
+ private:
+  boost::asio::thread_pool pool_;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "main/QuillmarkAgentApp.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+
+#include "main/SingleInstance.h"
+#include "main/WindowGroup.h"
+#include "views/ViewEngine.h"
+
+namespace quillmark {
+
+int QuillmarkAgentApp::run() {
+  SingleInstance instance;
+  if (instance.handOver()) {
+    return 0;
+  }
+
+  QGuiApplication::setDesktopFileName(SingleInstance::applicationId);
+  // Without a window the panel goes on, and a second launch opens one.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+
+  QQmlEngine engine;
+  prepareForViews(engine);
+  QObject::connect(&engine, &QQmlEngine::quit, qGuiApp, &QCoreApplication::quit);
+
+  WindowGroup windows(engine);
+  QObject::connect(&instance, &SingleInstance::activated, &windows, &WindowGroup::present);
+
+  windows.open();
+  appDelegate.applicationDidFinishLaunching();
+  windows.present();
+  return QCoreApplication::exec();
+}
+
+}  // namespace quillmark

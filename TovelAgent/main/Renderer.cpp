@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "main/Renderer.h"
+
+#include <vector>
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+
+#include <unistd.h>
+
+namespace quillmark {
+namespace {
+
+constexpr auto backendVariable = "QT_QUICK_BACKEND";
+
+}  // namespace
+
+void chooseRenderer() {
+  if (!qEnvironmentVariableIsSet(backendVariable) &&
+      !qEnvironmentVariableIsSet("QSG_RHI_BACKEND")) {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  }
+}
+
+void restartInSoftware() {
+  qputenv(backendVariable, "software");
+  std::vector<QByteArray> texts;
+  for (const auto& argument : QCoreApplication::arguments()) {
+    texts.push_back(argument.toLocal8Bit());
+  }
+  std::vector<char*> arguments;
+  for (auto& text : texts) {
+    arguments.push_back(text.data());
+  }
+  arguments.push_back(nullptr);
+  execv("/proc/self/exe", arguments.data());
+}
+
+}  // namespace quillmark

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace quillmark {
+
+/// One panel per session: the first holds the application's name on the
+/// session bus, and later launches hand over to it there. Without a bus every
+/// launch is a first one, and nothing is said about it. UI thread only.
+class SingleInstance final : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+ public:
+  inline static const QString applicationId = QStringLiteral("org.quillmark.Agent");
+
+  /// Whether another panel took over this launch; if not, this one listens for
+  /// later launches from now on.
+  [[nodiscard]] bool handOver();
+
+ public Q_SLOTS:
+  // The methods of the desktop's interface for activatable applications.
+  Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
+  Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
+  Q_SCRIPTABLE void ActivateAction(const QString& action, const QVariantList& parameter,
+                                   const QVariantMap& platformData);
+
+ Q_SIGNALS:
+  /// Another launch asks the panel to come forward.
+  void activated();
+};
+
+}  // namespace quillmark

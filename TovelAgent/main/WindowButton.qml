@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Views
+
+/// One of the window's own glyphs.
+Pressable {
+    id: button
+
+    required property string icon
+
+    implicitWidth: 30
+    implicitHeight: 20
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 1
+        radius: Theme.focusRadius
+        color: Theme.windowGlyphHover
+        visible: button.hovered
+        Accessible.ignored: true
+    }
+
+    SymbolIcon {
+        anchors.centerIn: parent
+        name: button.icon
+        size: 12
+        color: Theme.windowGlyph
+    }
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// Minimise, maximise or restore, and close, in the top padding of the header.
+Row {
+    id: controls
+
+    required property bool isMaximized
+
+    signal minimizePressed
+    signal maximizePressed
+    signal closePressed
+
+    WindowButton {
+        label: qsTr("Minimize")
+        icon: "window.minimize"
+        onPressed: controls.minimizePressed()
+    }
+
+    WindowButton {
+        label: controls.isMaximized ? qsTr("Restore") : qsTr("Maximize")
+        icon: controls.isMaximized ? "window.restore" : "window.maximize"
+        onPressed: controls.maximizePressed()
+    }
+
+    WindowButton {
+        label: qsTr("Close")
+        icon: "window.close"
+        onPressed: controls.closePressed()
+    }
+}

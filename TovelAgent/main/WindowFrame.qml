@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Window
+import Quillmark.Views
+
+/// What a title bar and a frame would do: drag the window at its header band,
+/// resize it at its edges, minimise, maximise and close it.
+Item {
+    id: frame
+
+    required property Window window
+    required property real dragHeight
+
+    readonly property bool isMaximized: window.visibility === Window.Maximized
+                                        || window.visibility === Window.FullScreen
+    readonly property int handle: 5
+    readonly property int corner: 12
+
+    Accessible.ignored: true
+
+    Item {
+        width: parent.width
+        height: frame.dragHeight
+
+        Accessible.ignored: true
+
+        // Starts with the movement: a press alone may become a double click.
+        DragHandler {
+            target: null
+            onActiveChanged: {
+                if (active)
+                    frame.window.startSystemMove();
+            }
+        }
+
+        TapHandler {
+            onDoubleTapped: frame.toggleMaximized()
+        }
+    }
+
+    signal toggleMaximized
+    onToggleMaximized: isMaximized ? window.showNormal() : window.showMaximized()
+
+    WindowControls {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.rightMargin: frame.corner
+        isMaximized: frame.isMaximized
+        onMinimizePressed: frame.window.showMinimized()
+        onMaximizePressed: frame.toggleMaximized()
+        onClosePressed: frame.window.close()
+    }
+
+    Rectangle {
+        visible: !frame.isMaximized
+        anchors.fill: parent
+        color: "transparent"
+        border.width: 1
+        border.color: Theme.windowBorder
+        Accessible.ignored: true
+    }
+
+    Repeater {
+        model: frame.isMaximized ? [] : [
+            Qt.TopEdge, Qt.BottomEdge, Qt.LeftEdge, Qt.RightEdge,
+            Qt.TopEdge | Qt.LeftEdge, Qt.TopEdge | Qt.RightEdge,
+            Qt.BottomEdge | Qt.LeftEdge, Qt.BottomEdge | Qt.RightEdge
+        ]
+
+        ResizeEdge {
+            required property int modelData
+
+            window: frame.window
+            edges: modelData
+            thickness: frame.handle
+            corner: frame.corner
+        }
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QQmlComponent>
+
+class QQmlEngine;
+class QQuickWindow;
+
+namespace quillmark {
+
+/// The panel's windows, each with a content view and view model of its own.
+/// A window that is closed is gone. UI thread only.
+class WindowGroup final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit WindowGroup(QQmlEngine& engine);
+  ~WindowGroup() override;
+
+  /// Makes a window, not yet shown.
+  void open();
+
+  /// Brings the latest window forward; makes one first if none is there.
+  void present();
+
+ private:
+  QQmlComponent component_;
+  QList<QQuickWindow*> windows_;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <boost/system/result.hpp>
+
+#include "model/AgentStatus.h"
+#include "model/AlertsResponse.h"
+#include "model/DecodeError.h"
+#include "model/Field.h"
+#include "model/InventoryData.h"
+#include "model/NetworkResponse.h"
+
+namespace quillmark {
+
+template <Record R>
+using Decoded = boost::system::result<R, DecodeError>;
+
+/// Reads one JSON object into a record by its field table: the whole record,
+/// or the first failure in table order. Keys outside the table are ignored,
+/// whatever they hold. Throws `std::bad_alloc` only. Any thread.
+template <Record R>
+[[nodiscard]] Decoded<R> decode(std::string_view json);
+
+/// The record as a JSON object, its keys in table order; an optional without
+/// a value is left out. Strings are written as they are, so they must be
+/// UTF-8 for the result to be JSON. Any thread.
+template <Record R>
+[[nodiscard]] std::string encode(const R& record);
+
+// Defined for these seven, and for no other.
+#define QUILLMARK_CODEC(R)                             \
+  extern template Decoded<R> decode(std::string_view); \
+  extern template std::string encode(const R&);
+QUILLMARK_CODEC(AgentStatus)
+QUILLMARK_CODEC(ThreatAlert)
+QUILLMARK_CODEC(NetworkConnection)
+QUILLMARK_CODEC(InstalledApp)
+QUILLMARK_CODEC(InventoryData)
+QUILLMARK_CODEC(AlertsResponse)
+QUILLMARK_CODEC(NetworkResponse)
+#undef QUILLMARK_CODEC
+
+}  // namespace quillmark

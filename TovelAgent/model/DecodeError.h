@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+namespace quillmark {
+
+/// What kept a body from becoming a record.
+enum class DecodeFailure {
+  keyNotFound,    ///< a required key is missing
+  valueNotFound,  ///< a required key or an array element is null
+  typeMismatch,   ///< a value of another JSON type
+  dataCorrupted,  ///< no JSON, or a number out of its field's range
+};
+
+/// The first failure of a decode.
+struct DecodeError {
+  DecodeFailure kind = DecodeFailure::dataCorrupted;
+  std::string path;    ///< keys to the value, as in `connections[3].local_port`; empty for the body
+  std::string detail;  ///< in words, as in "string expected, number found"
+
+  friend bool operator==(const DecodeError&, const DecodeError&) = default;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <tuple>
+
+#include "model/Field.h"
+#include "model/Uuid.h"
+
+namespace quillmark {
+
+/// One installed application; an element of `InventoryData::apps`.
+struct InstalledApp {
+  std::string name;
+  std::optional<std::string> version;    ///< without a leading "v"
+  std::optional<std::string> publisher;  ///< who made or maintains it
+  std::optional<std::string> path;       ///< where it lies
+
+  static constexpr auto fields =
+      std::tuple{Field{"name", &InstalledApp::name}, Field{"version", &InstalledApp::version},
+                 Field{"publisher", &InstalledApp::publisher}, Field{"path", &InstalledApp::path}};
+
+  /// A fresh random identity at every read. Any thread.
+  [[nodiscard]] Uuid id() const { return randomUuid(); }
+
+  friend bool operator==(const InstalledApp&, const InstalledApp&) = default;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <tuple>
+
+#include "model/Field.h"
+#include "model/Uuid.h"
+
+namespace quillmark {
+
+/// One open socket of the machine; an element of `NetworkResponse::connections`.
+/// Ports and the process id are text on the wire, and a number there is an error.
+struct NetworkConnection {
+  std::string connectionProtocol;  ///< "protocol" on the wire
+  std::string local_address;
+  std::string local_port;
+  std::string remote_address;
+  std::string remote_port;
+  std::string state;                      ///< the state's name, free text
+  std::optional<std::string> pid;         ///< the owning process
+  std::optional<std::string> risk_level;  ///< free text
+
+  static constexpr auto fields =
+      std::tuple{Field{"protocol", &NetworkConnection::connectionProtocol},
+                 Field{"local_address", &NetworkConnection::local_address},
+                 Field{"local_port", &NetworkConnection::local_port},
+                 Field{"remote_address", &NetworkConnection::remote_address},
+                 Field{"remote_port", &NetworkConnection::remote_port},
+                 Field{"state", &NetworkConnection::state},
+                 Field{"pid", &NetworkConnection::pid},
+                 Field{"risk_level", &NetworkConnection::risk_level}};
+
+  /// A fresh random identity at every read. Any thread.
+  [[nodiscard]] Uuid id() const { return randomUuid(); }
+
+  friend bool operator==(const NetworkConnection&, const NetworkConnection&) = default;
+};
+
+}  // namespace quillmark

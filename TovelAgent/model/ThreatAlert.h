@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <tuple>
+
+#include "model/Field.h"
+#include "model/Uuid.h"
+
+namespace quillmark {
+
+/// One finding of the agent; an element of `AlertsResponse::alerts`.
+struct ThreatAlert {
+  std::string alert_type;                  ///< free text, the row's headline
+  std::string severity;                    ///< free text; how it is read is the view model's rule
+  std::optional<std::string> title;        ///< free text
+  std::optional<std::string> description;  ///< free text
+  std::optional<std::string> file_path;    ///< the file it is about
+  std::optional<std::string> timestamp;    ///< when it was found, as the agent writes it
+
+  static constexpr auto fields = std::tuple{Field{"alert_type", &ThreatAlert::alert_type},
+                                            Field{"severity", &ThreatAlert::severity},
+                                            Field{"title", &ThreatAlert::title},
+                                            Field{"description", &ThreatAlert::description},
+                                            Field{"file_path", &ThreatAlert::file_path},
+                                            Field{"timestamp", &ThreatAlert::timestamp}};
+
+  /// A fresh random identity at every read, in canonical text form: no alert
+  /// can be told to be that of an earlier poll. Any thread.
+  [[nodiscard]] std::string id() const { return canonicalText(randomUuid()); }
+
+  friend bool operator==(const ThreatAlert&, const ThreatAlert&) = default;
+};
+
+}  // namespace quillmark

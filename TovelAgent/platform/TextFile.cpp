@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/TextFile.h"
+
+#include <array>
+#include <cerrno>
+#include <string_view>
+
+#include <boost/scope_exit.hpp>
+#include <boost/system/errc.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Utf8.h"
+
+namespace quillmark {
+namespace {
+
+using boost::system::error_code;
+namespace errc = boost::system::errc;
+
+error_code lastError() { return {errno, boost::system::system_category()}; }
+
+error_code notRegular(int descriptor) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) {
+    return lastError();
+  }
+  return S_ISREG(status.st_mode) ? error_code{} : errc::make_error_code(errc::not_supported);
+}
+
+}  // namespace
+
+boost::system::result<std::string> readTextFile(const std::string& path, std::size_t maxBytes) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (descriptor < 0) {
+    return lastError();
+  }
+  BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
+  if (const auto error = notRegular(descriptor)) {
+    return error;
+  }
+
+  std::string text;
+  std::array<char, 4096> block{};
+  for (;;) {
+    const ssize_t count = read(descriptor, block.data(), block.size());
+    if (count == 0) {
+      break;
+    }
+    if (count < 0) {
+      if (errno == EINTR) {
+        continue;
+      }
+      return lastError();
+    }
+    text.append(block.data(), static_cast<std::size_t>(count));
+    if (text.size() > maxBytes) {
+      return errc::make_error_code(errc::file_too_large);
+    }
+  }
+  if (!isUtf8(text)) {
+    return errc::make_error_code(errc::illegal_byte_sequence);
+  }
+  return text;
+}
+
+}  // namespace quillmark

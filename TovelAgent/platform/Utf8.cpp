@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Utf8.h"
+
+#include <boost/locale/utf.hpp>
+
+namespace quillmark {
+namespace {
+
+namespace utf = boost::locale::utf;
+using Utf8 = utf::utf_traits<char>;
+
+bool isWhiteSpace(utf::code_point c) {
+  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
+         (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F ||
+         c == 0x3000;
+}
+
+}  // namespace
+
+bool isUtf8(std::string_view bytes) {
+  for (auto at = bytes.begin(); at != bytes.end();) {
+    if (!utf::is_valid_codepoint(Utf8::decode(at, bytes.end()))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto* first = text.end();
+  const auto* last = text.end();
+  for (const auto* at = text.begin(); at != text.end();) {
+    const auto* const start = at;
+    if (!isWhiteSpace(Utf8::decode(at, text.end()))) {
+      first = first == text.end() ? start : first;
+      last = at;
+    }
+  }
+  return {first, last};
+}
+
+}  // namespace quillmark

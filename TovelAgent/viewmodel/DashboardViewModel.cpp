@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/DashboardViewModel.h"
+
+#include <chrono>
+#include <utility>
+
+#include <QCoreApplication>
+
+#include <boost/asio/co_spawn.hpp>
+#include <boost/asio/detached.hpp>
+
+#include "client/TaskExecutor.h"
+
+namespace quillmark {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto pollInterval = 5s;
+constexpr std::size_t maxAlertRows = 100;
+constexpr std::size_t maxAppRows = 50;
+
+/// The elements of an answer, or an empty list where there was none.
+template <class T>
+Snapshot<std::vector<T>> listOf(std::optional<std::vector<T>> answer) {
+  return std::make_shared<const std::vector<T>>(std::move(answer).value_or(std::vector<T>()));
+}
+
+}  // namespace
+
+std::shared_ptr<DashboardViewModel> DashboardViewModel::create() {
+  return std::shared_ptr<DashboardViewModel>(new DashboardViewModel);
+}
+
+DashboardViewModel::DashboardViewModel()
+    : alerts_(listOf<ThreatAlert>({})),
+      networkConnections_(listOf<NetworkConnection>({})),
+      alertRows_("alert", maxAlertRows),
+      connectionRows_("connection"),
+      appRows_("app", maxAppRows),
+      cardRows_("card") {
+  connect(this, &DashboardViewModel::alertsChanged, this, [this] { alertRows_.show(alerts_); });
+  connect(this, &DashboardViewModel::networkConnectionsChanged, this,
+          [this] { connectionRows_.show(networkConnections_); });
+  connect(this, &DashboardViewModel::inventoryChanged, this, [this] {
+    appRows_.show(inventory_ ? Snapshot<std::vector<InstalledApp>>(inventory_, &inventory_->apps)
+                             : listOf<InstalledApp>({}));
+  });
+  for (const auto changed :
+       {&DashboardViewModel::alertsChanged, &DashboardViewModel::networkConnectionsChanged,
+        &DashboardViewModel::inventoryChanged}) {
+    connect(this, changed, this, &DashboardViewModel::showCards);
+  }
+  showCards();
+}
+
+void DashboardViewModel::startPolling() {
+  updateData();
+  // The event loop owns the timer and the timer the model. A timer of an
+  // earlier call goes on: who appears twice is polled for twice.
+  timer_ = new QTimer(QCoreApplication::instance());
+  timer_->setTimerType(Qt::PreciseTimer);
+  timer_->callOnTimeout([self = shared_from_this()] { self->updateData(); });
+  timer_->start(pollInterval);
+}
+
+void DashboardViewModel::updateData() {
+  boost::asio::co_spawn(TaskExecutor::current(), poll(shared_from_this()), boost::asio::detached);
+}
+
+boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardViewModel> self) {
+  PollResult result;
+  result.status = co_await self->client_.getStatus();
+  result.alerts = listOf(co_await self->client_.getAlerts());
+  result.networkConnections = listOf(co_await self->client_.getNetwork());
+  auto inventory = co_await self->client_.getInventory();
+  if (inventory) {
+    result.inventory = std::make_shared<const InventoryData>(std::move(*inventory));
+  }
+
+  auto* const receiver = self.get();
+  auto handOver = [self = std::move(self), result = std::move(result)]() mutable {
+    self->assign(std::move(result));
+  };
+  QMetaObject::invokeMethod(receiver, std::move(handOver), Qt::QueuedConnection);
+}
+
+void DashboardViewModel::assign(PollResult result) {
+  publish(status_, std::move(result.status), &DashboardViewModel::statusChanged);
+  publish(alerts_, std::move(result.alerts), &DashboardViewModel::alertsChanged);
+  publish(networkConnections_, std::move(result.networkConnections),
+          &DashboardViewModel::networkConnectionsChanged);
+  publish(inventory_, std::move(result.inventory), &DashboardViewModel::inventoryChanged);
+}
+
+template <class Value>
+void DashboardViewModel::publish(Value& field, Value value, void (DashboardViewModel::*changed)()) {
+  Q_EMIT objectWillChange();
+  field = std::move(value);
+  Q_EMIT(this->*changed)();
+}
+
+void DashboardViewModel::showCards() {
+  cardRows_.show(std::make_shared<const std::vector<StatsCard>>(
+      statsCards(inventory(), networkConnections(), alerts())));
+}
+
+}  // namespace quillmark

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QTimer>
+
+#include <boost/asio/awaitable.hpp>
+
+#include "client/IPCClient.h"
+#include "viewmodel/AlertPresentation.h"
+#include "viewmodel/AppPresentation.h"
+#include "viewmodel/ConnectionPresentation.h"
+#include "viewmodel/Snapshot.h"
+#include "viewmodel/SnapshotListModel.h"
+#include "viewmodel/StatsCard.h"
+#include "viewmodel/StatusPresentation.h"
+
+namespace quillmark {
+
+/// What the panel knows of the agent: the last completed poll, whole.
+///
+/// Four published fields (`status`, `alerts`, `networkConnections`,
+/// `inventory`) are assigned together after every poll, changed or not. Each
+/// assignment first emits `objectWillChange`, while the old value can still be
+/// read, then stores, then emits the field's own signal. The list models and
+/// presentations hold the same values in the shape views read.
+///
+/// Everything here is called on the UI thread; only the polls' network work
+/// runs on the task executor, which must exist.
+class DashboardViewModel final : public QObject,
+                                 public std::enable_shared_from_this<DashboardViewModel> {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by DashboardViewModelRef")
+  Q_PROPERTY(quillmark::StatusPresentation status READ statusPresentation NOTIFY statusChanged)
+  Q_PROPERTY(quillmark::ListModel* alerts READ alertRows CONSTANT)
+  Q_PROPERTY(quillmark::ListModel* networkConnections READ connectionRows CONSTANT)
+  Q_PROPERTY(bool hasInventory READ hasInventory NOTIFY inventoryChanged)
+  Q_PROPERTY(quillmark::ListModel* apps READ appRows CONSTANT)
+  Q_PROPERTY(quillmark::ListModel* statsCards READ cardRows CONSTANT)
+
+ public:
+  /// A model that has not polled yet. Its client reads the access token now.
+  [[nodiscard]] static std::shared_ptr<DashboardViewModel> create();
+
+  /// Polls once, and every 5 seconds from then on until the process ends; that
+  /// keeps the model alive as long. Each call adds a timer, stopping none.
+  Q_INVOKABLE void startPolling();
+
+  /// No value before the first poll and after one whose request failed.
+  [[nodiscard]] const std::optional<AgentStatus>& status() const { return status_; }
+  /// Empty where there is no value.
+  [[nodiscard]] const std::vector<ThreatAlert>& alerts() const { return *alerts_; }
+  /// Empty where there is no value.
+  [[nodiscard]] const std::vector<NetworkConnection>& networkConnections() const {
+    return *networkConnections_;
+  }
+  /// Null where there is no value.
+  [[nodiscard]] const InventoryData* inventory() const { return inventory_.get(); }
+
+  [[nodiscard]] StatusPresentation statusPresentation() const { return present(status_); }
+  [[nodiscard]] bool hasInventory() const { return inventory_ != nullptr; }
+  [[nodiscard]] ListModel* alertRows() { return &alertRows_; }
+  [[nodiscard]] ListModel* connectionRows() { return &connectionRows_; }
+  [[nodiscard]] ListModel* appRows() { return &appRows_; }
+  [[nodiscard]] ListModel* cardRows() { return &cardRows_; }
+
+ Q_SIGNALS:
+  void objectWillChange();
+  void statusChanged();
+  void alertsChanged();
+  void networkConnectionsChanged();
+  void inventoryChanged();
+
+ private:
+  /// What one poll brought. Lists are never null, the inventory may be.
+  struct PollResult {
+    std::optional<AgentStatus> status;
+    Snapshot<std::vector<ThreatAlert>> alerts;
+    Snapshot<std::vector<NetworkConnection>> networkConnections;
+    Snapshot<InventoryData> inventory;
+  };
+
+  DashboardViewModel();
+
+  void updateData();
+  [[nodiscard]] static boost::asio::awaitable<void> poll(std::shared_ptr<DashboardViewModel> self);
+  void assign(PollResult result);
+  void showCards();
+
+  template <class Value>
+  void publish(Value& field, Value value, void (DashboardViewModel::*changed)());
+
+  std::optional<AgentStatus> status_;
+  Snapshot<std::vector<ThreatAlert>> alerts_;
+  Snapshot<std::vector<NetworkConnection>> networkConnections_;
+  Snapshot<InventoryData> inventory_;
+  const IPCClient client_;
+  QPointer<QTimer> timer_;
+
+  SnapshotListModel<ThreatAlert> alertRows_;
+  SnapshotListModel<NetworkConnection> connectionRows_;
+  SnapshotListModel<InstalledApp> appRows_;
+  SnapshotListModel<StatsCard> cardRows_;
+};
+
+}  // namespace quillmark

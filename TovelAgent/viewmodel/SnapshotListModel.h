@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "viewmodel/ListModel.h"
+#include "viewmodel/Snapshot.h"
+
+namespace quillmark {
+
+/// A list that takes each poll's rows whole. `present(const Row&)`, found
+/// beside the presentation's type, makes of a row what the view shows; it runs
+/// for the rows on screen only. UI thread only.
+template <class Row>
+class SnapshotListModel final : public ListModel {
+ public:
+  using Rows = Snapshot<std::vector<Row>>;
+
+  /// Shows at most the first `maxRows` rows.
+  explicit SnapshotListModel(QByteArray roleName, std::size_t maxRows = unlimited)
+      : ListModel(std::move(roleName)), maxRows_(maxRows) {}
+
+  /// Takes `rows` in place of those before and tells views what differs.
+  void show(Rows rows) {
+    const int before = count();
+    const int after = static_cast<int>(std::min(rows->size(), maxRows_));
+    resize(after, [&] { std::swap(rows_, rows); });
+    announceChanges(*rows, std::min(before, after));
+    if (after != before) {
+      Q_EMIT countChanged();
+    }
+  }
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != presentationRole) {
+      return {};
+    }
+    return QVariant::fromValue(present((*rows_)[static_cast<std::size_t>(index.row())]));
+  }
+
+ private:
+  // As many as a Qt model can number.
+  static constexpr std::size_t unlimited{std::numeric_limits<int>::max()};
+
+  /// Names the span from the first to the last of the leading `common` rows
+  /// that differ: looking from both ends costs next to nothing when all do.
+  void announceChanges(const std::vector<Row>& old, int common) {
+    const auto oldEnd = old.begin() + common;
+    const auto first = std::mismatch(old.begin(), oldEnd, rows_->begin()).first;
+    if (first == oldEnd) {
+      return;
+    }
+    const auto unchangedAtEnd =
+        std::mismatch(std::make_reverse_iterator(oldEnd), std::make_reverse_iterator(first),
+                      std::make_reverse_iterator(rows_->begin() + common))
+            .first;
+    const auto last = unchangedAtEnd.base() - 1;
+    Q_EMIT dataChanged(index(static_cast<int>(first - old.begin())),
+                       index(static_cast<int>(last - old.begin())));
+  }
+
+  Rows rows_ = std::make_shared<const std::vector<Row>>();
+  const std::size_t maxRows_;
+};
+
+}  // namespace quillmark

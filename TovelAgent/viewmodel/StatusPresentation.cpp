@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/StatusPresentation.h"
+
+#include "viewmodel/FormatDate.h"
+
+namespace quillmark {
+
+StatusPresentation present(const std::optional<AgentStatus>& status) {
+  const auto threatCount = status ? status->threat_count : 0;
+
+  StatusPresentation header;
+  header.status =
+      status ? QString::fromStdString(status->status).toUpper() : QStringLiteral("OFFLINE");
+  header.statusIsHealthy = status && status->status == "ok";
+  header.threats = QString::number(threatCount);
+  header.threatsAreHealthy = threatCount == 0;
+  header.hasLastScan = status.has_value();
+  header.lastScan = status ? formatDate(QString::fromStdString(status->last_scan)) : QString();
+  return header;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.ViewModel
+
+/// The first alerts that the agent last reported.
+Item {
+    id: tab
+
+    required property DashboardViewModel viewModel
+
+    readonly property bool isEmpty: viewModel.alerts.count === 0
+
+    Accessible.ignored: true
+
+    Loader {
+        anchors.fill: parent
+        active: tab.isEmpty
+        sourceComponent: EmptyState {
+            icon: "checkmark.circle"
+            iconColor: Theme.green
+            text: qsTr("No threats detected")
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: !tab.isEmpty
+        sourceComponent: PlainList {
+            label: qsTr("Alerts")
+            model: tab.viewModel.alerts
+            delegate: PlainListRow {
+                id: row
+
+                required property alertPresentation alert
+
+                label: alert.accessibleName
+
+                AlertRow {
+                    width: parent.width
+                    alert: row.alert
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// Shows where the keyboard is, inside the edge of its parent.
+Rectangle {
+    required property Item target
+
+    anchors.fill: parent
+    anchors.margins: 1
+    visible: target.activeFocus
+    color: "transparent"
+    radius: Theme.focusRadius
+    border.width: 2
+    border.color: Theme.blue
+    z: 1
+
+    Accessible.ignored: true
+}

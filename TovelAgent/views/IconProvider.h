@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QQuickImageProvider>
+
+namespace quillmark {
+
+/// Draws the icons of symbolic names. The id is the name followed by the
+/// colour, as in `gear#0b5fd9`; the picture has exactly the size asked for, in
+/// device pixels. An unknown name gives no picture, and QML a warning.
+class IconProvider final : public QQuickImageProvider {
+ public:
+  IconProvider() : QQuickImageProvider(Image) {}
+
+  [[nodiscard]] QImage requestImage(const QString& id, QSize* size,
+                                    const QSize& requestedSize) override;
+};
+
+}  // namespace quillmark

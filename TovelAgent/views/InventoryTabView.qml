@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.ViewModel
+
+/// The first applications that the agent found. Blank while there is no
+/// inventory at all.
+Item {
+    id: tab
+
+    required property DashboardViewModel viewModel
+
+    readonly property bool isEmpty: viewModel.apps.count === 0
+
+    Accessible.ignored: true
+
+    Label {
+        visible: tab.viewModel.hasInventory && tab.isEmpty
+        anchors.centerIn: parent
+        text: qsTr("Loading applications...")
+        color: Theme.gray
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: !tab.isEmpty
+        sourceComponent: PlainList {
+            label: qsTr("Installed applications")
+            model: tab.viewModel.apps
+            delegate: PlainListRow {
+                id: row
+
+                required property appPresentation app
+
+                label: app.accessibleName
+
+                InstalledAppRow {
+                    width: parent.width
+                    app: row.app
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+import Quillmark.Views
+
+/// A plain list: rows on white with a line between them. It keeps its scroll
+/// position when the model's rows change.
+ListView {
+    id: list
+
+    required property string label
+
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    pixelAligned: true
+    reuseItems: true
+    activeFocusOnTab: true
+    // Rows are read, not chosen; and a highlight would cost frames at start.
+    keyNavigationEnabled: false
+    currentIndex: -1
+    T.ScrollBar.vertical: ScrollBar {}
+
+    Accessible.role: Accessible.List
+    Accessible.name: label
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+
+    Rectangle {
+        parent: list
+        anchors.fill: parent
+        z: -1
+        color: Theme.listGround
+        Accessible.ignored: true
+    }
+
+    ScrollKeys {
+        target: list
+    }
+
+    FocusRing {
+        parent: list
+        target: list
+    }
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// What can be pressed, by pointer, keyboard or assistive technology.
+Item {
+    id: pressable
+
+    required property string label
+    readonly property bool hovered: hover.hovered
+
+    signal pressed
+
+    activeFocusOnTab: true
+
+    Keys.onSpacePressed: pressed()
+    Keys.onReturnPressed: pressed()
+    Keys.onEnterPressed: pressed()
+
+    Accessible.role: Accessible.Button
+    Accessible.name: label
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: pressed()
+
+    TapHandler {
+        onTapped: pressable.pressed()
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    FocusRing {
+        target: pressable
+    }
+}

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+import Quillmark.Views
+
+/// A column of cards that scrolls vertically, by pointer and keyboard.
+Flickable {
+    id: page
+
+    default property alias content: column.data
+    property int padding: 20
+    property alias spacing: column.spacing
+
+    contentWidth: width
+    contentHeight: column.height + 2 * padding
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.VerticalFlick
+    pixelAligned: true
+    activeFocusOnTab: contentHeight > height
+    T.ScrollBar.vertical: ScrollBar {}
+
+    Accessible.role: Accessible.Pane
+
+    Column {
+        id: column
+
+        x: page.padding
+        y: page.padding
+        width: page.width - 2 * page.padding
+    }
+
+    ScrollKeys {
+        target: page
+    }
+
+    FocusRing {
+        parent: page
+        target: page
+    }
+}

@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// The agent's settings. Nothing can be set yet.
+Item {
+    Accessible.ignored: true
+}

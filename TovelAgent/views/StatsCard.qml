@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// A number with its title, as wide as there is room.
+Item {
+    id: card
+
+    required property string title
+    required property string value
+
+    implicitHeight: texts.height + 2 * 16
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    SoftShadow {
+        anchors.fill: parent
+        radius: Theme.cardRadius
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.cardRadius
+        color: Theme.white
+        Accessible.ignored: true
+    }
+
+    Column {
+        id: texts
+
+        x: 16
+        y: 16
+        spacing: 8
+
+        Label {
+            text: card.title
+            size: 13
+            color: Theme.gray
+        }
+
+        Label {
+            text: card.value
+            size: 32
+            font.weight: Font.Bold
+            color: Theme.blue
+        }
+    }
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma Singleton
+
+import QtQuick
+
+/// The look: every colour, radius and size that more than one view shares.
+/// Each text colour has a contrast of at least 4.5 to 1 on every ground it
+/// stands on, each icon colour 3 to 1.
+QtObject {
+    readonly property color blue: "#0B5FD9"
+    readonly property color gray: "#656B75"
+    readonly property color green: "#187A33"
+    readonly property color red: "#C4232B"
+    readonly property color orange: "#C75B00"
+    readonly property color yellow: "#A87B00"
+    readonly property color black: "#000000"
+    readonly property color white: "#FFFFFF"
+
+    readonly property color text: black
+    readonly property color panelTint: Qt.rgba(0.98, 0.98, 0.99, 1)
+    readonly property color listGround: white
+    readonly property color separator: "#E3E5EA"
+    readonly property color windowBorder: "#B9BDC6"
+    readonly property color windowGlyph: gray
+    readonly property color windowGlyphHover: "#E9EBEF"
+    readonly property color scrollBar: "#8A8F99"
+    readonly property color shadow: "#000000"
+    readonly property real shadowOpacity: 0.33
+    readonly property real shadowRadius: 2
+
+    readonly property int spacing: 8
+    readonly property int bodySize: 13
+    readonly property int cardRadius: 8
+    readonly property int focusRadius: 6
+    readonly property int underlineRadius: 2
+    readonly property int listInset: 20
+    readonly property int listRowInset: 4
+}

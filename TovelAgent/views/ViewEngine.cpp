@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "views/ViewEngine.h"
+
+#include <QQmlEngine>
+
+#include "views/IconProvider.h"
+#include "views/NetworkRefusal.h"
+
+namespace quillmark {
+
+void prepareForViews(QQmlEngine& engine) {
+  static NetworkRefusal refusal;
+  engine.setNetworkAccessManagerFactory(&refusal);
+  engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+  engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+class QQmlEngine;
+
+namespace quillmark {
+
+/// Makes `engine` one that can build this library's views: where their modules
+/// lie, the icons, and no network. Before the first component; UI thread.
+void prepareForViews(QQmlEngine& engine);
+
+}  // namespace quillmark

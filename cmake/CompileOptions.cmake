@@ -1,0 +1,64 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# How every target of this project is compiled: `quillmark_library` and
+# `quillmark_options` carry it, nothing else sets flags.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+
+add_library(quillmark_options INTERFACE)
+target_compile_options(
+  quillmark_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wsign-conversion
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wcast-align
+            -Wformat=2
+            -Wimplicit-fallthrough
+            -Werror)
+
+if(QUILLMARK_SANITIZE)
+  target_compile_options(
+    quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZE} -fno-omit-frame-pointer
+                                -fno-sanitize-recover=all)
+  target_link_options(quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZE})
+else()
+  target_compile_options(
+    quillmark_options INTERFACE -fstack-protector-strong
+                                $<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
+  target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
+endif()
+
+if(QUILLMARK_COVERAGE)
+  target_compile_options(quillmark_options INTERFACE --coverage)
+  target_link_options(quillmark_options INTERFACE --coverage)
+endif()
+
+# quillmark_library(<name> <file>...): a static library that sees the
+# TovelAgent folder as its include root ("model/AgentStatus.h").
+function(quillmark_library name)
+  add_library(${name} STATIC ${ARGN})
+  quillmark_configure(${name})
+endfunction()
+
+# What a library that another function made has in common with the others.
+function(quillmark_configure name)
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/TovelAgent")
+  target_link_libraries(${name} PRIVATE quillmark_options)
+endfunction()

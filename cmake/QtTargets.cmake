@@ -1,0 +1,44 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+include_guard(GLOBAL)
+
+# How libraries with Qt in them are made: one QML module each.
+
+set(QUILLMARK_QML_PREFIX "/qt/qml")
+
+# quillmark_qml_library(<name> URI <uri> [SOURCES <file>...] [QML_FILES <file>...])
+#
+# A static library that is a QML module as well. Whoever links <name> also
+# needs <name>plugin, which `quillmark_use_qml` links.
+function(quillmark_qml_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "URI" "SOURCES;QML_FILES")
+  string(REPLACE "." "/" path "${arg_URI}")
+  qt_add_library(${name} STATIC)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  qt_add_qml_module(
+    ${name}
+    URI ${arg_URI}
+    VERSION 1.0
+    RESOURCE_PREFIX ${QUILLMARK_QML_PREFIX}
+    OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}"
+    IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    SOURCES ${arg_SOURCES}
+    QML_FILES ${arg_QML_FILES})
+  quillmark_configure(${name})
+  # What Qt generates does not hold to our warnings.
+  get_target_property(generated ${name} SOURCES)
+  list(FILTER generated INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations\\.cpp$")
+  set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "-w")
+  target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+  target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                             QT_NO_KEYWORDS)
+endfunction()
+
+# quillmark_use_qml(<target> <qml library>...): link QML libraries so that
+# their types and files are there at run time.
+function(quillmark_use_qml target)
+  foreach(library IN LISTS ARGN)
+    target_link_libraries(${target} PRIVATE ${library} ${library}plugin)
+  endforeach()
+endfunction()
