@@ -5,7 +5,7 @@ import QtQuick
 import QtQuick.Window
 
 /// A strip along one edge, or a square at a corner, that resizes the window.
-Item {
+MouseArea {
     id: strip
 
     required property Window window
@@ -26,20 +26,7 @@ Item {
     width: isCorner ? corner : thickness
     height: isCorner ? corner : thickness
 
-    Accessible.ignored: true
-
-    HoverHandler {
-        cursorShape: strip.isCorner
-                     ? (strip.atTop === strip.atLeft ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor)
-                     : (strip.atTop || strip.atBottom ? Qt.SizeVerCursor : Qt.SizeHorCursor)
-    }
-
-    DragHandler {
-        target: null
-        dragThreshold: 0
-        onActiveChanged: {
-            if (active)
-                strip.window.startSystemResize(strip.edges);
-        }
-    }
+    cursorShape: isCorner ? (atTop === atLeft ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor)
+                          : (atTop || atBottom ? Qt.SizeVerCursor : Qt.SizeHorCursor)
+    onPressed: window.startSystemResize(edges)
 }

@@ -19,7 +19,6 @@ Pressable {
         radius: Theme.focusRadius
         color: Theme.windowGlyphHover
         visible: button.hovered
-        Accessible.ignored: true
     }
 
     SymbolIcon {

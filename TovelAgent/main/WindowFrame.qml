@@ -18,26 +18,21 @@ Item {
     readonly property int handle: 5
     readonly property int corner: 12
 
-    Accessible.ignored: true
+    // A MouseArea, since a handler waits for ever for the release that the
+    // window manager keeps. The drag starts with the movement: a press alone
+    // may become a double click.
+    MouseArea {
+        property point pressedAt
 
-    Item {
         width: parent.width
         height: frame.dragHeight
-
-        Accessible.ignored: true
-
-        // Starts with the movement: a press alone may become a double click.
-        DragHandler {
-            target: null
-            onActiveChanged: {
-                if (active)
-                    frame.window.startSystemMove();
-            }
+        onPressed: mouse => pressedAt = Qt.point(mouse.x, mouse.y)
+        onPositionChanged: mouse => {
+            if (Math.max(Math.abs(mouse.x - pressedAt.x), Math.abs(mouse.y - pressedAt.y))
+                    > Qt.styleHints.startDragDistance)
+                frame.window.startSystemMove();
         }
-
-        TapHandler {
-            onDoubleTapped: frame.toggleMaximized()
-        }
+        onDoubleClicked: frame.toggleMaximized()
     }
 
     signal toggleMaximized
@@ -59,7 +54,6 @@ Item {
         color: "transparent"
         border.width: 1
         border.color: Theme.windowBorder
-        Accessible.ignored: true
     }
 
     Repeater {

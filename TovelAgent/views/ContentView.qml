@@ -54,8 +54,6 @@ Item {
         // The shadow falls on what lies below.
         z: 1
 
-        Accessible.ignored: true
-
         SoftShadow {
             anchors.fill: parent
             z: -1
@@ -86,8 +84,6 @@ Item {
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
-
-        Accessible.ignored: true
 
         Loader {
             anchors.fill: parent

@@ -10,6 +10,7 @@ ScrollPage {
 
     required property DashboardViewModel viewModel
 
+    label: qsTr("Dashboard")
     spacing: 20
 
     Repeater {

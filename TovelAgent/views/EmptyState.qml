@@ -13,8 +13,6 @@ Rectangle {
 
     color: Theme.panelTint
 
-    Accessible.ignored: true
-
     Column {
         anchors.centerIn: parent
         spacing: 20

@@ -15,6 +15,4 @@ Rectangle {
     border.width: 2
     border.color: Theme.blue
     z: 1
-
-    Accessible.ignored: true
 }

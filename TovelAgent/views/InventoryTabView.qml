@@ -13,8 +13,6 @@ Item {
 
     readonly property bool isEmpty: viewModel.apps.count === 0
 
-    Accessible.ignored: true
-
     Label {
         visible: tab.viewModel.hasInventory && tab.isEmpty
         anchors.centerIn: parent

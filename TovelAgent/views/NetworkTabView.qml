@@ -12,8 +12,6 @@ Item {
 
     readonly property bool isEmpty: viewModel.networkConnections.count === 0
 
-    Accessible.ignored: true
-
     Loader {
         anchors.fill: parent
         active: tab.isEmpty

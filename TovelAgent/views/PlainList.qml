@@ -32,7 +32,22 @@ ListView {
         anchors.fill: parent
         z: -1
         color: Theme.listGround
-        Accessible.ignored: true
+    }
+
+    // When every row in view goes, the view would start again near the top.
+    Connections {
+        property bool allGone: false
+
+        target: list.model
+
+        function onRowsAboutToBeRemoved(parent, first) {
+            allGone = list.indexAt(0, list.contentY) >= first;
+        }
+
+        function onRowsRemoved() {
+            if (allGone)
+                list.positionViewAtEnd();
+        }
     }
 
     ScrollKeys {

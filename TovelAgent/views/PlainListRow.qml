@@ -14,6 +14,10 @@ Item {
     width: ListView.view ? ListView.view.width : 0
     height: holder.childrenRect.height + 2 * Theme.listRowInset
 
+    // Until it is used again, a row that scrolled away is nobody's to read.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     Accessible.role: Accessible.ListItem
     Accessible.name: label
 
@@ -23,8 +27,6 @@ Item {
         x: Theme.listInset
         y: Theme.listRowInset
         width: row.width - 2 * Theme.listInset
-
-        Accessible.ignored: true
     }
 
     Rectangle {
@@ -33,6 +35,5 @@ Item {
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
-        Accessible.ignored: true
     }
 }

@@ -14,6 +14,7 @@ T.ScrollBar {
     padding: 3
     visible: size < 1
 
+    // What it does, the keyboard does at what it scrolls.
     Accessible.ignored: true
 
     contentItem: Rectangle {

@@ -10,6 +10,7 @@ Flickable {
     id: page
 
     default property alias content: column.data
+    required property string label
     property int padding: 20
     property alias spacing: column.spacing
 
@@ -22,6 +23,7 @@ Flickable {
     T.ScrollBar.vertical: ScrollBar {}
 
     Accessible.role: Accessible.Pane
+    Accessible.name: label
 
     Column {
         id: column

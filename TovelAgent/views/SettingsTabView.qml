@@ -4,6 +4,4 @@
 import QtQuick
 
 /// The agent's settings. Nothing can be set yet.
-Item {
-    Accessible.ignored: true
-}
+Item {}

@@ -12,9 +12,7 @@ Item {
     property real radius: 0
 
     // How much of the shadow each step adds, from the box's edge outwards.
-    readonly property list<real> steps: [0.34, 0.24, 0.14, 0.07]
-
-    Accessible.ignored: true
+    readonly property list<real> steps: [0.22, 0.17, 0.1, 0.05]
 
     Repeater {
         model: shadow.steps
@@ -29,7 +27,6 @@ Item {
             radius: shadow.radius + spread
             color: Theme.shadow
             opacity: modelData * Theme.shadowOpacity
-            Accessible.ignored: true
         }
     }
 }

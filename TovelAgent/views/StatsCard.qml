@@ -24,7 +24,6 @@ Item {
         anchors.fill: parent
         radius: Theme.cardRadius
         color: Theme.white
-        Accessible.ignored: true
     }
 
     Column {

@@ -33,7 +33,6 @@ Column {
             radius: 4
             color: badge.isHealthy ? Theme.green : Theme.red
             anchors.verticalCenter: parent.verticalCenter
-            Accessible.ignored: true
         }
 
         Label {

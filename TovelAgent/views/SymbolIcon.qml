@@ -20,6 +20,4 @@ Image {
     height: side
     sourceSize: Qt.size(side * Screen.devicePixelRatio, side * Screen.devicePixelRatio)
     source: name.length > 0 ? "image://icon/" + name + color : ""
-
-    Accessible.ignored: true
 }

@@ -61,7 +61,6 @@ Pressable {
             height: 3
             radius: Theme.underlineRadius
             color: Theme.blue
-            Accessible.ignored: true
         }
     }
 }

@@ -1,0 +1,43 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+include_guard(GLOBAL)
+
+# How tests are registered. Each writes what it ran to
+# test-results/<name>.xml, from which the closing count is made.
+
+find_package(GTest REQUIRED)
+
+set(QUILLMARK_SANDBOX "${PROJECT_SOURCE_DIR}/tests/support/sandbox")
+set(QUILLMARK_TEST_RESULTS "${CMAKE_BINARY_DIR}/test-results")
+file(MAKE_DIRECTORY "${QUILLMARK_TEST_RESULTS}")
+
+# quillmark_test(<name> <seconds> <command>...): a test inside the sandbox.
+function(quillmark_test name seconds)
+  add_test(NAME ${name} COMMAND "${QUILLMARK_SANDBOX}" ${ARGN})
+  set_tests_properties(
+    ${name} PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "QUILLMARK_BUILD_DIR=${CMAKE_BINARY_DIR}")
+endfunction()
+
+# quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX])
+#
+# SANDBOX is for tests that need the real port, token paths or processes.
+function(quillmark_gtest target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX" "" "LIBRARIES")
+  add_executable(${target} ${arg_UNPARSED_ARGUMENTS})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${target} PRIVATE quillmark_options ${arg_LIBRARIES} GTest::gtest_main)
+  quillmark_register_gtest(${target} ${arg_SANDBOX})
+endfunction()
+
+# quillmark_register_gtest(<target> <whether in the sandbox>)
+function(quillmark_register_gtest target sandbox)
+  set(command $<TARGET_FILE:${target}>
+              "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${target}.xml")
+  if(sandbox)
+    quillmark_test(${target} 180 ${command})
+  else()
+    add_test(NAME ${target} COMMAND ${command})
+    set_tests_properties(${target} PROPERTIES TIMEOUT 180)
+  endif()
+endfunction()

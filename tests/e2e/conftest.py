@@ -1,0 +1,84 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What every file of end-to-end tests stands on."""
+
+import contextlib
+import os
+import re
+
+import pytest
+
+# Before its import: assertions in there shall say what they compared.
+pytest.register_assert_rewrite("harness")
+
+from harness import bodies, tokens
+from harness.backend import Backend
+from harness.display import Display
+from harness.panel import Panel
+from harness.screen import BUILD, save
+
+TOKEN = "0123456789abcdef"
+
+
+def pytest_configure():
+    # Outside, the tests would write real token paths and take the real port.
+    assert os.environ.get("QUILLMARK_SANDBOX"), "run these in tests/support/sandbox"
+
+
+@pytest.fixture(scope="module")
+def display():
+    display = Display()
+    yield display
+    display.stop()
+
+
+@pytest.fixture(scope="module")
+def token():
+    tokens.write(tokens.SYSTEM, TOKEN)
+    yield TOKEN
+    tokens.remove(tokens.SYSTEM)
+
+
+@pytest.fixture(scope="module")
+def backend():
+    """Answers as an everyday agent does until a test says otherwise."""
+    backend = Backend().start()
+    yield backend
+    backend.stop()
+
+
+@pytest.fixture(scope="module")
+def panel(display, token, backend):
+    """One panel for all tests of a file."""
+    panel = Panel().opened()
+    yield panel
+    panel.finish()
+
+
+@pytest.fixture
+def launch(display, backend):
+    """A fresh panel: it polls at once, which is quicker than the next poll."""
+    with contextlib.ExitStack() as panels:
+
+        def start(contents=(), **environment):
+            backend.reply(**(bodies.everyday() | dict(contents)))
+            panel = Panel(**environment)
+            panels.callback(panel.finish)
+            return panel.opened()
+
+        yield start
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_makereport(item, call):
+    report = (yield).get_result()
+    if not report.failed:
+        return
+    name = re.sub(r"[^\w.-]+", "_", item.nodeid.rpartition("/")[2])
+    for panel in Panel.running:
+        try:
+            report.sections.append(("panel's output", panel.output()))
+            save(BUILD / "test-results" / f"{name}.png")
+            report.sections.append(("accessibility tree", panel.tree.read().dump()))
+        except Exception as error:  # noqa: BLE001 - the test's own failure matters more
+            report.sections.append(("no more to show", repr(error)))

@@ -1,0 +1,114 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The panel as assistive technology reads it.
+
+A tree is read whole into plain values, so that a test never asks a control
+that a poll has replaced meanwhile.
+"""
+
+from dataclasses import dataclass
+
+from gi.repository import GLib
+
+from . import atspi
+from .waiting import PATIENCE, until
+from .window import Box
+
+# Numbers of the accessibility protocol.
+ROLES = {
+    23: "window",
+    29: "text",
+    31: "list",
+    32: "row",
+    37: "tab",
+    38: "tab list",
+    43: "button",
+    75: "application",
+    116: "text",
+}
+STATES = {11: "focusable", 12: "focused", 23: "selected", 25: "showing"}
+
+
+@dataclass(frozen=True)
+class Item:
+    role: str
+    name: str
+    box: Box
+    states: frozenset
+    children: tuple
+
+    def walk(self):
+        yield self
+        for child in self.children:
+            yield from child.walk()
+
+    def every(self, role):
+        return [item for item in self.walk() if item.role == role]
+
+    def texts(self):
+        return [item.name for item in self.every("text")]
+
+    def find(self, role, name):
+        return next((i for i in self.every(role) if i.name == name), None)
+
+    def dump(self, depth=0):
+        states = " ".join(sorted(self.states))
+        line = f"{'  ' * depth}{self.role} {self.name[:80]!r} {tuple(self.box)} {states}"
+        return "\n".join([line, *(child.dump(depth + 1) for child in self.children)])
+
+
+def _states(low):
+    return frozenset(word for bit, word in STATES.items() if low >> bit & 1)
+
+
+def _children(answers):
+    """What lies below something hidden is hidden too and need not be read."""
+    *_, ((low, _),), _, (children,) = answers
+    return children if "showing" in _states(low) else []
+
+
+def _item(answers, children):
+    (role,), (name,), ((low, _),), (extents,), _ = answers
+    shown = tuple(child for child in children if "showing" in child.states)
+    return Item(ROLES.get(role, f"role {role}"), name, Box(*extents), _states(low), shown)
+
+
+def _read(bus, root):
+    """Level by level, since each level can be asked about at once."""
+    levels = []
+    nodes = [root]
+    while nodes:
+        levels.append(bus.describe(nodes))
+        nodes = [child for answers in levels[-1] for child in _children(answers)]
+    below = iter(())
+    for level in reversed(levels):
+        below = iter([_item(a, [next(below) for _ in _children(a)]) for a in level])
+    return next(below)
+
+
+class Tree:
+    """The windows of one process; only what is showing."""
+
+    def __init__(self, pid):
+        self._pid = pid
+        self._bus = atspi.Bus()
+        self._root = None
+
+    def read(self):
+        def attempt():
+            try:
+                self._root = self._root or self._bus.application(self._pid)
+                return self._root and _read(self._bus, self._root)
+            except GLib.Error:
+                return None  # Something went away half-way; read again.
+
+        return until(attempt, "the panel in the accessibility tree")
+
+    def find(self, role, name):
+        return self.read().find(role, name)
+
+    def wait_for(self, role, name, timeout=PATIENCE):
+        return until(lambda: self.find(role, name), f"{role} {name!r}", timeout)
+
+    def wait_without(self, role, name):
+        until(lambda: not self.find(role, name), f"{role} {name!r} to be gone")

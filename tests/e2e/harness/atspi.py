@@ -1,0 +1,82 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The accessibility bus, asked directly.
+
+The usual binding asks one thing at a time and keeps caches that go stale
+between polls; a tree read through it took five times as long.
+"""
+
+from gi.repository import Gio, GLib
+
+ROOT = "/org/a11y/atspi/accessible/root"
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+PROPERTIES = "org.freedesktop.DBus.Properties"
+COMPONENT = "org.a11y.atspi.Component"
+SCREEN = GLib.Variant("(u)", (0,))
+NAME = GLib.Variant("(ss)", (ACCESSIBLE, "Name"))
+
+# What is asked about every node, in the order in which `describe` answers.
+QUESTIONS = (
+    (ACCESSIBLE, "GetRole", None),
+    (PROPERTIES, "Get", NAME),
+    (ACCESSIBLE, "GetState", None),
+    (COMPONENT, "GetExtents", SCREEN),
+    (ACCESSIBLE, "GetChildren", None),
+)
+
+
+def _connect():
+    session = Gio.bus_get_sync(Gio.BusType.SESSION)
+    (address,) = session.call_sync(
+        "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
+        None, None, Gio.DBusCallFlags.NONE, -1, None,
+    )
+    flags = Gio.DBusConnectionFlags
+    return Gio.DBusConnection.new_for_address_sync(
+        address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None
+    )
+
+
+class Bus:
+    def __init__(self):
+        self._connection = _connect()
+
+    def application(self, pid):
+        """The address of a process's root, or nothing."""
+        registry = ("org.a11y.atspi.Registry", ROOT)
+        (known,) = self._ask([(registry, (ACCESSIBLE, "GetChildren", None))])[0]
+        daemon = ("org.freedesktop.DBus", "/org/freedesktop/DBus")
+        owners = self._ask([
+            (daemon, (daemon[0], "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,))))
+            for name, _ in known
+        ])
+        return next((app for app, (owner,) in zip(known, owners) if owner == pid), None)
+
+    def describe(self, nodes):
+        """The answers to QUESTIONS for each node, all asked at once."""
+        answers = iter(self._ask([(node, q) for node in nodes for q in QUESTIONS]))
+        return list(zip(*[answers] * len(QUESTIONS)))
+
+    def _ask(self, calls):
+        answers = [None] * len(calls)
+        missing = len(calls)
+
+        def answered(connection, result, index):
+            nonlocal missing
+            missing -= 1
+            try:
+                answers[index] = connection.call_finish(result).unpack()
+            except GLib.Error as error:
+                answers[index] = error
+
+        for index, ((name, path), (interface, method, arguments)) in enumerate(calls):
+            self._connection.call(
+                name, path, interface, method, arguments, None,
+                Gio.DBusCallFlags.NONE, -1, None, answered, index,
+            )
+        while missing:
+            GLib.MainContext.default().iteration(True)
+        for answer in answers:
+            if isinstance(answer, GLib.Error):
+                raise answer
+        return answers

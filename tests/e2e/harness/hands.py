@@ -1,0 +1,37 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Keys and pointer, through the X server's own test extension."""
+
+from .window import tool
+
+
+def key(*names, times=1):
+    """Waits between repeated keys, as held keys do."""
+    repeat = ["--repeat", str(times), "--repeat-delay", "4"] if times > 1 else []
+    tool("xdotool", "key", *repeat, *names)
+
+
+def click(box, times=1):
+    x, y = box.centre
+    repeat = ["--repeat", str(times), "--delay", "60"] if times > 1 else []
+    tool("xdotool", "mousemove", str(x), str(y), "click", *repeat, "1")
+
+
+def drag(start, by, steps=8):
+    """In steps: a drag is told from a click by its movement."""
+    moves = []
+    for step in range(1, steps + 1):
+        x, y = (s + d * step // steps for s, d in zip(start, by))
+        moves += ["mousemove", str(x), str(y), "sleep", "0.02"]
+    tool("xdotool", "mousemove", *map(str, start), "mousedown", "1", *moves, "mouseup", "1")
+
+
+def wheel_down(box, notches):
+    x, y = box.centre
+    tool("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(notches),
+         "--delay", "10", "5")
+
+
+def park():
+    """Away from everything that lights up under the pointer."""
+    tool("xdotool", "mousemove", "0", "0")

@@ -1,0 +1,118 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The built panel as a running process."""
+
+import os
+import subprocess
+import tempfile
+
+from . import hands, window
+from .accessible import Tree
+from .screen import BUILD
+from .waiting import until
+
+EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(
+    BUILD / "QuillmarkAgent.app/Contents/MacOS/quillmark-agent"
+)
+
+
+def spawn(output, **changes):
+    """Starts the executable; an environment value of None takes it away."""
+    environment = os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | changes
+    environment = {k: v for k, v in environment.items() if v is not None}
+    # The tests look at a real window, whatever the unit tests were told.
+    environment.pop("QT_QPA_PLATFORM", None)
+    return subprocess.Popen(
+        [EXECUTABLE], env=environment, stdin=subprocess.DEVNULL,
+        stdout=output, stderr=subprocess.STDOUT,
+    )
+
+
+class Panel:
+    running = []
+
+    def __init__(self, **changes):
+        self._output = tempfile.TemporaryFile()
+        hands.park()
+        self.process = spawn(self._output, **changes)
+        self.pid = self.process.pid
+        self.tree = Tree(self.pid)
+        Panel.running.append(self)
+
+    def opened(self):
+        """Waits until the window is up and has the keyboard."""
+        until(lambda: self.windows() or self.ended(), "the panel's window")
+        assert not self.ended(), f"ended at start: {self.output()}"
+        until(self.window.active, "the panel's window to be active")
+        return self
+
+    def windows(self):
+        return window.visible(self.pid)
+
+    @property
+    def window(self):
+        return self.windows()[0]
+
+    def ended(self):
+        return self.process.poll() is not None
+
+    def output(self):
+        self._output.seek(0)
+        return self._output.read().decode(errors="replace")
+
+    def show(self, tab):
+        """Chooses a tab by its key and returns its button once it is active."""
+        names = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+        hands.key(f"ctrl+{names.index(tab) + 1}")
+        return self.selected(tab)
+
+    def selected(self, tab):
+        def chosen():
+            found = self.tree.find("tab", tab)
+            return found and "selected" in found.states and found
+
+        return until(chosen, f"the tab {tab} to be active")
+
+    def press_until_focused(self, role, name, key="Tab", most=40):
+        """Walks the focus on as a keyboard user does."""
+        for presses in range(most + 1):
+            focus = self.focus()
+            if focus and (focus.role, focus.name) == (role, name):
+                return focus
+            if presses < most:
+                hands.key(key)
+                until(lambda: self.focus() != focus, "the focus to move on")
+        raise AssertionError(f"{key} does not reach {role} {name!r}")
+
+    def focus(self):
+        """What has the keyboard, below the window itself."""
+        tree = self.tree.read()
+        return next(
+            (i for i in tree.walk() if "focused" in i.states and i.role != "window"), None
+        )
+
+    def finish(self):
+        """Quits as a user does; a panel that crashed or spoke fails the test."""
+        try:
+            if not self.ended():
+                if self.windows():
+                    window.tool("xdotool", "windowactivate", "--sync",
+                                str(self.window.identifier))
+                    hands.key("ctrl+q")
+                    until(self.ended, "the panel to quit on Ctrl+Q")
+                else:
+                    self.process.terminate()
+                    self.process.wait()
+                    assert self.process.returncode in (0, -15)
+                    return
+            assert self.process.returncode == 0, "the panel's exit code"
+        finally:
+            self.dismiss()
+            assert self.output() == "", "the panel has nothing to complain about"
+
+    def dismiss(self):
+        if not self.ended():
+            self.process.kill()
+            self.process.wait()
+        if self in Panel.running:
+            Panel.running.remove(self)

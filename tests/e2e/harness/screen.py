@@ -1,0 +1,63 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Pictures of the screen and what their pixels say."""
+
+import os
+import subprocess
+from pathlib import Path
+
+BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
+
+
+def _import(target):
+    return subprocess.run(
+        ["import", "-silent", "-window", "root", "-depth", "8", target],
+        check=True, capture_output=True,
+    ).stdout
+
+
+def save(path, box=None):
+    crop = ["-crop", f"{box.width}x{box.height}+{box.x}+{box.y}", "+repage"] if box else []
+    subprocess.run(["import", "-silent", "-window", "root", *crop, str(path)], check=True)
+
+
+class Picture:
+    def __init__(self, width=1600):
+        self._width = width
+        self._data = _import("rgb:-")
+
+    def pixel(self, x, y):
+        at = 3 * (y * self._width + x)
+        return tuple(self._data[at:at + 3])
+
+    def pixels(self, box):
+        for y in range(box.y, box.bottom):
+            row = 3 * (y * self._width + box.x)
+            line = self._data[row:row + 3 * box.width]
+            yield from zip(line[::3], line[1::3], line[2::3])
+
+    def count(self, colour, box):
+        return sum(pixel == colour for pixel in self.pixels(box))
+
+    def colours(self, box):
+        return set(self.pixels(box))
+
+    def ink(self, box, colour, ground=None):
+        """How fully a colour is laid on the ground inside the box, 0 to 1.
+
+        Smooth edges mix the two, so every pixel must lie on the line between
+        them; a pixel that lies elsewhere is of another colour and fails.
+        """
+        ground = ground or self.pixel(box.x, box.y)
+        span = [c - g for c, g in zip(colour, ground)]
+        length = sum(s * s for s in span)
+        fullest = 0.0
+        for pixel in self.colours(box):
+            offset = [p - g for p, g in zip(pixel, ground)]
+            share = sum(o * s for o, s in zip(offset, span)) / length
+            stray = max(abs(o - share * s) for o, s in zip(offset, span))
+            assert stray <= 10 and -0.06 <= share <= 1.06, (
+                f"{pixel} is no mixture of {colour} and {ground} in {box}"
+            )
+            fullest = max(fullest, share)
+        return fullest

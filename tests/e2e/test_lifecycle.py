@@ -1,0 +1,143 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Windows come and go; the process stays until it is quit."""
+
+import subprocess
+import tempfile
+
+import pytest
+from gi.repository import Gio, GLib
+
+from harness import bodies, colours, hands
+from harness.panel import spawn
+from harness.screen import Picture
+from harness.waiting import never, until
+from harness.window import Box, tool
+
+pytestmark = pytest.mark.usefixtures("token")
+
+BUS_NAME = "org.quillmark.Agent"
+
+
+def start_again(**changes):
+    """A second launch; it hands over to the first and is done."""
+    with tempfile.TemporaryFile() as output:
+        second = spawn(output, **changes)
+        assert second.wait(timeout=15) == 0
+        output.seek(0)
+        assert output.read() == b""
+
+
+def close_window(panel):
+    hands.key("ctrl+w")
+    until(lambda: not panel.windows(), "the window to close")
+
+
+@pytest.fixture
+def other_window(display):
+    """Something of another program on top of the panel."""
+    other = subprocess.Popen(["xmessage", "-center", "-name", "cover", "x" * 40])
+    until(lambda: tool("xdotool", "search", "--onlyvisible", "--classname", "cover"), "a cover")
+    yield
+    other.terminate()
+    other.wait()
+
+
+def test_second_launch_raises_the_open_window(launch, other_window):
+    panel = launch()
+    window = panel.window
+    panel.show("Alerts")
+    (cover,) = tool("xdotool", "search", "--onlyvisible", "--classname", "cover").split()
+    tool("xdotool", "windowactivate", "--sync", cover)
+    assert not window.topmost()
+    start_again()
+    until(window.topmost, "the panel's window on top")
+    assert panel.windows() == [window]
+    # It is the same window, still where the user was.
+    panel.selected("Alerts")
+
+
+def test_second_launch_brings_a_minimised_window_back(launch):
+    panel = launch()
+    window = panel.window
+    window.minimise()
+    start_again()
+    until(lambda: window.mapped() and window.active(), "the window to be back")
+    assert panel.windows() == [window]
+
+
+def test_closed_window_and_a_new_one(launch, backend):
+    panel = launch()
+    panel.show("Alerts")
+    close_window(panel)
+    # Polling goes on without a window.
+    backend.wait_for_poll()
+    assert not panel.ended()
+
+    start_again()
+    until(panel.windows, "a new window")
+    until(panel.window.active, "the new window to be active")
+    panel.selected("Dashboard")
+    panel.tree.wait_for("text", "OK")
+    panel.window.resize(1000, 1000)
+    until(lambda: panel.window.box.height == 1000, "a taller window")
+    hands.park()
+    window = panel.window.box
+    ground = Picture().colours(Box(window.x + 4, window.bottom - 40, window.width - 8, 30))
+    assert len(ground) == 1 and colours.LAUNCH_GROUND not in ground
+    assert panel.window.property("_NET_FRAME_EXTENTS") == "0, 0, 0, 0"
+
+    # The first window's polling was never stopped, so there are two now.
+    seen = len(backend.seen("status"))
+    starts = lambda: [r.time for r in backend.seen("status")[seen:]]  # noqa: E731
+    until(lambda: len(starts()) == 4, "four more polls", timeout=20)
+    first, second, third, fourth = starts()
+    assert 4.5 <= third - first <= 6 and 4.5 <= fourth - second <= 6
+
+
+def test_close_button_closes_only_the_window(launch):
+    panel = launch()
+    hands.click(panel.tree.find("button", "Close").box)
+    until(lambda: not panel.windows(), "the window to close")
+    never(panel.ended, "the panel ended with its window", seconds=1)
+
+
+def test_window_manager_closes_only_the_window(launch):
+    panel = launch()
+    hands.key("alt+F4")
+    until(lambda: not panel.windows(), "the window to close")
+    never(panel.ended, "the panel ended with its window", seconds=1)
+
+
+def test_quit_ends_the_process(launch):
+    panel = launch()
+    hands.key("ctrl+q")
+    until(panel.ended, "the panel to end")
+    assert panel.process.returncode == 0
+
+
+def bus_call(method, path, interface, arguments, destination=BUS_NAME):
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+    return bus.call_sync(
+        destination, path, interface, method, arguments, None,
+        Gio.DBusCallFlags.NO_AUTO_START, 5000, None,
+    )
+
+
+def test_activation_over_the_session_bus(launch):
+    panel = launch()
+    daemon = "org.freedesktop.DBus"
+    (owner,) = bus_call("GetConnectionUnixProcessID", "/", daemon,
+                        GLib.Variant("(s)", (BUS_NAME,)), daemon)
+    assert owner == panel.pid
+    close_window(panel)
+    bus_call("Activate", "/org/quillmark/Agent", "org.freedesktop.Application",
+             GLib.Variant("(a{sv})", ({},)))
+    until(panel.windows, "a new window")
+
+
+@pytest.mark.parametrize("address", [None, "unix:path=/nowhere/bus"])
+def test_without_a_session_bus(launch, address):
+    panel = launch({"status": bodies.status()}, DBUS_SESSION_BUS_ADDRESS=address,
+                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON=None)
+    until(lambda: colours.BLUE in Picture().colours(panel.window.box), "a drawn window")

@@ -1,0 +1,60 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What one poll looks like on the wire, and when the next one comes."""
+
+from itertools import pairwise
+
+import pytest
+
+from harness import bodies
+from harness.backend import ENDPOINTS, Backend
+from harness.exchange import answer
+from harness.waiting import until
+
+POLLS = 3
+
+
+@pytest.fixture(scope="module")
+def backend():
+    # Slow enough that requests sent side by side would be seen to overlap.
+    slow = {k: answer(v, delay=0.2) for k, v in bodies.everyday().items()}
+    backend = Backend(**slow).start()
+    yield backend
+    backend.stop()
+
+
+@pytest.fixture(scope="module")
+def requests(panel, backend):
+    until(lambda: len(backend.seen("inventory")) >= POLLS, "three polls", timeout=25)
+    return backend.seen()[: POLLS * len(ENDPOINTS)]
+
+
+def test_four_requests_in_their_order(requests):
+    assert [r.target for r in requests] == [f"/api/{e}" for e in ENDPOINTS] * POLLS
+
+
+def test_one_after_another(requests):
+    assert [r.overlapping for r in requests] == [0] * len(requests)
+    for before, after in pairwise(requests):
+        assert before.answered <= after.time
+
+
+def test_each_on_a_connection_of_its_own(requests, backend):
+    assert len({r.connection for r in requests}) == len(requests)
+    # No connection is opened that carries no request.
+    until(lambda: backend.connections == len(backend.seen()), "all requests read")
+
+
+def test_nothing_but_the_token_is_told(requests, token):
+    for request in requests:
+        assert (request.method, request.version) == ("GET", "HTTP/1.1")
+        assert request.header("Host") == ["127.0.0.1:7823"]
+        assert request.header("X-Agent-Token") == [token]
+        names = sorted(name for name, _ in request.headers)
+        assert names in (["Connection", "Host", "X-Agent-Token"], ["Host", "X-Agent-Token"])
+
+
+def test_every_five_seconds(requests):
+    starts = [r.time for r in requests if r.endpoint == "status"]
+    for before, after in pairwise(starts):
+        assert 4.5 <= after - before <= 6

@@ -1,0 +1,50 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Every tab at every usual scale, for the eye too."""
+
+import pytest
+
+from harness import colours, hands
+from harness.display import Display
+from harness.screen import BUILD, Picture, save
+from harness.waiting import until
+
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+SCREEN = (2200, 1500)
+
+pytestmark = pytest.mark.usefixtures("token")
+
+
+@pytest.fixture(scope="module")
+def display():
+    display = Display(*SCREEN)
+    yield display
+    display.stop()
+
+
+@pytest.mark.parametrize("scale", ["1", "1.5", "2"])
+def test_pictures(launch, scale):
+    panel = launch(QT_SCALE_FACTOR=scale)
+    panel.tree.wait_for("text", "OK")
+    window = panel.window.box
+    assert window[2:] == (round(1000 * float(scale)), round(700 * float(scale)))
+    hands.park()
+    bars = []
+    for tab in TABS:
+        panel.show(tab)
+        # The bar under the active tab tells when the tab has been drawn.
+        bars.append(until(lambda: bar(window, bars), f"{tab} to be drawn"))
+        save(BUILD / "pictures" / f"{tab.lower()}-{scale}.png", window)
+    assert bars == sorted(bars)
+
+
+def bar(window, known):
+    """Where a long line of solid blue begins that was not known yet."""
+    picture = Picture(SCREEN[0])
+    length = 60
+    for y in range(window.y + window.height // 8, window.y + window.height // 3):
+        row = [picture.pixel(x, y) == colours.BLUE for x in range(window.x, window.right)]
+        for x in range(len(row) - length):
+            if all(row[x:x + length]):
+                return x not in known and x
+    return None

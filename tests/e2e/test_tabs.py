@@ -1,0 +1,119 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Choosing tabs by pointer and by keyboard."""
+
+import pytest
+
+from harness import bodies, hands
+from harness.backend import ENDPOINTS
+from harness.screen import Picture
+from harness.waiting import until
+from harness.window import Box
+
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+
+# One text or list that only this tab shows.
+SIGNS = {
+    "Dashboard": ("text", "Recent Alerts"),
+    "Network": ("list", "Network connections"),
+    "Inventory": ("list", "Installed applications"),
+    "Alerts": ("list", "Alerts"),
+}
+
+
+@pytest.fixture(scope="module", autouse=True)
+def filled(panel):
+    panel.window.resize(1000, 1000)
+    panel.tree.wait_for("text", "Installed Applications")
+
+
+def shows_only(panel, tab):
+    """The tab is the one selected, and of all signs only its own is there."""
+    def as_it_should():
+        tree = panel.tree.read()
+        selected = [t.name for t in tree.every("tab") if "selected" in t.states]
+        signs = [name for name, sign in SIGNS.items() if tree.find(*sign)]
+        return selected == [tab] and signs == [name for name in SIGNS if name == tab]
+
+    until(as_it_should, f"{tab} alone")
+
+
+def test_dashboard_first(panel):
+    shows_only(panel, "Dashboard")
+
+
+@pytest.mark.parametrize("tab", [*TABS[1:], "Dashboard", "Dashboard"])
+def test_click(panel, tab):
+    hands.click(panel.tree.find("tab", tab).box)
+    shows_only(panel, tab)
+
+
+@pytest.mark.parametrize("tab", [*reversed(TABS), "Network"])
+def test_shortcut(panel, tab):
+    hands.key(f"ctrl+{TABS.index(tab) + 1}")
+    shows_only(panel, tab)
+
+
+def test_tab_key_reaches_every_tab(panel):
+    for tab in TABS:
+        panel.press_until_focused("tab", tab)
+
+
+def test_shift_tab_goes_back(panel):
+    panel.press_until_focused("tab", "Network")
+    panel.press_until_focused("tab", "Dashboard", key="shift+Tab", most=1)
+
+
+@pytest.mark.parametrize("tab, press", [
+    ("Inventory", "space"), ("Alerts", "Return"), ("Network", "space"),
+])
+def test_focused_tab_is_chosen_by(panel, tab, press):
+    panel.press_until_focused("tab", tab)
+    hands.key(press)
+    shows_only(panel, tab)
+
+
+def test_arrows_move_between_tabs(panel):
+    panel.press_until_focused("tab", "Dashboard")
+    panel.press_until_focused("tab", "Inventory", key="Right", most=2)
+    panel.press_until_focused("tab", "Network", key="Left", most=1)
+
+
+@pytest.mark.parametrize("tab", ["Network", "Inventory", "Alerts"])
+def test_tab_key_reaches_the_list(panel, tab):
+    panel.show(tab)
+    panel.press_until_focused(*SIGNS[tab])
+
+
+def test_focus_is_visible(panel):
+    panel.press_until_focused("tab", "Settings")
+    box = panel.tree.find("tab", "Settings").box
+    around = Box(box.x - 3, box.y - 3, box.width + 6, box.height + 6)
+    focused = list(Picture().pixels(around))
+    panel.press_until_focused("tab", "Alerts", key="shift+Tab", most=1)
+    until(lambda: list(Picture().pixels(around)) != focused, "the focus to be drawn")
+
+
+def test_settings_shows_nothing_yet(panel):
+    panel.show("Settings")
+    shows_only(panel, "Settings")
+    hands.park()
+    tree = panel.tree.read()
+    bar, window = tree.every("tab list")[0].box, tree.every("window")[0].box
+    content = Box(window.x + 4, bar.bottom + 8, window.width - 8, window.bottom - bar.bottom - 12)
+    assert len(Picture().colours(content)) == 1
+    assert not [i for i in tree.walk() if i.box.y >= bar.bottom]
+
+
+def test_tab_comes_back_with_the_latest_data_without_asking(panel, backend):
+    panel.show("Settings")
+    backend.reply(network=bodies.network(bodies.connection("9999")))
+    backend.wait_for_poll()
+    panel.show("Network")
+    panel.tree.wait_for("row", "127.0.0.1:9999, → 10.0.0.5:443, ESTABLISHED")
+    asked = [r.endpoint for r in backend.seen()]
+    complete = len(asked) // 4 * 4
+    # Nothing but whole polls, however often tabs were switched.
+    assert asked[:complete] == list(ENDPOINTS) * (complete // 4)
+    starts = [r.time for r in backend.seen("status")]
+    assert all(b - a >= 4.5 for a, b in zip(starts, starts[1:]))

@@ -1,0 +1,25 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A request gives up on a silent backend after a minute."""
+
+import pytest
+
+from harness.backend import Backend
+from harness.exchange import silence
+from harness.waiting import until
+
+
+@pytest.fixture(scope="module")
+def backend():
+    backend = Backend(status=silence()).start()
+    yield backend
+    backend.stop()
+
+
+def test_gives_up_after_sixty_seconds_and_goes_on(panel, backend):
+    until(lambda: backend.seen("inventory"), "the rest of the first poll", timeout=90)
+    first = backend.seen("status")[0]
+    assert 59 <= backend.seen("alerts")[0].time - first.time <= 65
+    # Nobody ever answered, so there is no status; the rest of the poll counts.
+    panel.tree.wait_for("text", "Installed Applications")
+    assert panel.tree.find("text", "OFFLINE")

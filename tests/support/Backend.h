@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <list>
+#include <map>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+
+namespace quillmark::test {
+
+/// A request as it came in, byte for byte.
+struct ReceivedRequest {
+  std::chrono::steady_clock::time_point at;
+  std::string text;  ///< request line and header, as sent
+
+  [[nodiscard]] std::string target() const;
+};
+
+/// One connection, as a handler sees it. A handler may write what it likes,
+/// piece by piece, and wait; the connection closes when it returns.
+class Connection {
+ public:
+  Connection(boost::asio::ip::tcp::socket& socket, const std::atomic<bool>& stopping)
+      : socket_(socket), stopping_(stopping) {}
+
+  /// False when the peer is gone.
+  bool send(std::string_view bytes);
+  /// Waits, or less long when the backend stops.
+  void pause(std::chrono::milliseconds time) const;
+  /// Says nothing until the peer goes or the backend stops.
+  void staySilent();
+  /// Ends the connection with a reset in place of an orderly close.
+  void reset();
+
+ private:
+  boost::asio::ip::tcp::socket& socket_;
+  const std::atomic<bool>& stopping_;
+};
+
+/// A whole 200 answer with this JSON body.
+[[nodiscard]] std::string okAnswer(std::string_view body);
+/// A whole answer with this status line's end, such as "401 Unauthorized".
+[[nodiscard]] std::string answer(std::string_view status, std::string_view body,
+                                 std::string_view extraHeader = "");
+
+/// A real server on 127.0.0.1: one thread a connection, each request handed to
+/// a handler. The port is the agent's own unless another is named; 0 takes a
+/// free one.
+class Backend final {
+ public:
+  using Handler = std::function<void(const ReceivedRequest&, Connection&)>;
+
+  static constexpr std::uint16_t agentPort = 7823;
+
+  explicit Backend(Handler handler, std::uint16_t port = agentPort);
+  /// Answers each target with its raw text, and 404 where there is none.
+  explicit Backend(std::map<std::string, std::string> answers, std::uint16_t port = agentPort);
+  ~Backend();
+  Backend(const Backend&) = delete;
+  Backend& operator=(const Backend&) = delete;
+
+  [[nodiscard]] std::uint16_t port() const { return port_; }
+  [[nodiscard]] std::vector<ReceivedRequest> requests() const;
+  /// How many connections were opened, also those without a request.
+  [[nodiscard]] int connections() const { return connectionCount_; }
+
+ private:
+  void acceptAll();
+  void serve(boost::asio::ip::tcp::socket& socket);
+
+  Handler handler_;
+  boost::asio::io_context context_;
+  boost::asio::ip::tcp::acceptor acceptor_;
+  std::uint16_t port_ = 0;
+  std::atomic<bool> stopping_ = false;
+  std::atomic<int> connectionCount_ = 0;
+  mutable std::mutex mutex_;
+  std::vector<ReceivedRequest> requests_;
+  std::list<boost::asio::ip::tcp::socket> sockets_;
+  std::list<std::thread> connectionThreads_;
+  std::thread acceptThread_;
+};
+
+}  // namespace quillmark::test
