@@ -7,12 +7,13 @@ include_guard(GLOBAL)
 
 set(QUILLMARK_QML_PREFIX "/qt/qml")
 
-# quillmark_qml_library(<name> URI <uri> [SOURCES <file>...] [QML_FILES <file>...])
+# quillmark_qml_library(<name> URI <uri> [DEPENDENCIES <uri>...] [SOURCES <file>...]
+#                       [QML_FILES <file>...])
 #
 # A static library that is a QML module as well. Whoever links <name> also
 # needs <name>plugin, which `quillmark_use_qml` links.
 function(quillmark_qml_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "URI" "SOURCES;QML_FILES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "URI" "DEPENDENCIES;SOURCES;QML_FILES")
   string(REPLACE "." "/" path "${arg_URI}")
   qt_add_library(${name} STATIC)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
@@ -23,6 +24,7 @@ function(quillmark_qml_library name)
     RESOURCE_PREFIX ${QUILLMARK_QML_PREFIX}
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}"
     IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    DEPENDENCIES ${arg_DEPENDENCIES}
     SOURCES ${arg_SOURCES}
     QML_FILES ${arg_QML_FILES})
   quillmark_configure(${name})

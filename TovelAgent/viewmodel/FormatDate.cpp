@@ -10,9 +10,9 @@
 namespace quillmark {
 
 QString formatDate(const QString& text) {
-  // Qt's own parser takes more than that: fractions, bare dates, a local time.
+  // Qt's own parser takes more than that: fractions, bare dates, a local time, 24:00.
   const QRegularExpression internetDateTime(QRegularExpression::anchoredPattern(
-      QStringLiteral(R"([0-9]{4}-[0-9]{2}-[0-9]{2}T[0-2][0-9]:[0-9]{2}:[0-9]{2})"
+      QStringLiteral(R"([0-9]{4}-[0-9]{2}-[0-9]{2}T([01][0-9]|2[0-3]):[0-9]{2}:[0-9]{2})"
                      R"((Z|[+-][0-9]{2}:[0-9]{2}))")));
   const auto instant = internetDateTime.match(text).hasMatch()
                            ? QDateTime::fromString(text, Qt::ISODate)

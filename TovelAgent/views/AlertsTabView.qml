@@ -27,7 +27,7 @@ Item {
         active: !tab.isEmpty
         sourceComponent: PlainList {
             label: qsTr("Alerts")
-            model: tab.viewModel.alerts
+            model: tab.viewModel.alerts // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row
 

@@ -33,18 +33,6 @@ Item {
         id: reference
     }
 
-    Instantiator {
-        model: root.tabs
-
-        Shortcut {
-            required property int index
-            required property var modelData
-
-            sequence: "Ctrl+" + (index + 1)
-            onActivated: root.selectedTab = modelData.identifier
-        }
-    }
-
     Rectangle {
         id: headerBand
 
@@ -85,6 +73,8 @@ Item {
         width: parent.width
         clip: true
 
+        // A Loader of Qt 6.4 refuses components that are bound to their ids.
+        // qmllint disable unqualified
         Loader {
             anchors.fill: parent
             active: root.selectedTab === "dashboard"
@@ -122,5 +112,6 @@ Item {
             active: root.selectedTab === "settings"
             sourceComponent: SettingsTabView {}
         }
+        // qmllint enable unqualified
     }
 }

@@ -25,7 +25,7 @@ Item {
         active: !tab.isEmpty
         sourceComponent: PlainList {
             label: qsTr("Installed applications")
-            model: tab.viewModel.apps
+            model: tab.viewModel.apps // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row
 

@@ -27,7 +27,7 @@ Item {
         active: !tab.isEmpty
         sourceComponent: PlainList {
             label: qsTr("Network connections")
-            model: tab.viewModel.networkConnections
+            model: tab.viewModel.networkConnections // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row
 

@@ -46,8 +46,16 @@ ListView {
 
         function onRowsRemoved() {
             if (allGone)
-                list.positionViewAtEnd();
+                goToEnd.start();
         }
+    }
+
+    // Later: the list itself has yet to hear of it.
+    Timer {
+        id: goToEnd
+
+        interval: 0
+        onTriggered: list.positionViewAtEnd()
     }
 
     ScrollKeys {

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 /// The shadow of a box of corner radius `radius` that fills the same place:

@@ -18,6 +18,7 @@ Image {
 
     width: side
     height: side
-    sourceSize: Qt.size(side * Screen.devicePixelRatio, side * Screen.devicePixelRatio)
+    sourceSize.width: side * Screen.devicePixelRatio
+    sourceSize.height: side * Screen.devicePixelRatio
     source: name.length > 0 ? "image://icon/" + name + color : ""
 }

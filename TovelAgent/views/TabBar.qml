@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 /// The row of tabs. `tabs` holds identifier, title and icon of each.
@@ -30,6 +32,8 @@ Rectangle {
             model: bar.tabs
 
             TabButton {
+                id: button
+
                 required property var modelData
                 required property int index
 
@@ -41,6 +45,11 @@ Rectangle {
 
                 KeyNavigation.left: buttons.itemAt(index - 1)
                 KeyNavigation.right: buttons.itemAt(index + 1)
+
+                Shortcut {
+                    sequence: "Ctrl+" + (button.index + 1)
+                    onActivated: button.pressed()
+                }
             }
         }
     }
