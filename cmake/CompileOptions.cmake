@@ -26,7 +26,6 @@ target_compile_options(
             -Wshadow
             -Wconversion
             -Wsign-conversion
-            -Wnon-virtual-dtor
             -Woverloaded-virtual
             -Wcast-align
             -Wformat=2

@@ -10,7 +10,7 @@ namespace quillmark {
 /// What kept a body from becoming a record.
 enum class DecodeFailure {
   keyNotFound,    ///< a required key is missing
-  valueNotFound,  ///< a required key or an array element is null
+  valueNotFound,  ///< a required key or a text in an array is null
   typeMismatch,   ///< a value of another JSON type
   dataCorrupted,  ///< no JSON, or a number out of its field's range
 };

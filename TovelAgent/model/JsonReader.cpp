@@ -28,11 +28,20 @@ std::string_view nameOf(const boost::json::value& json) {
   return "number";
 }
 
+std::string difference(std::string_view expected, const boost::json::value& found) {
+  return std::string(expected) + " expected, " + std::string(nameOf(found)) + " found";
+}
+
 }  // namespace
 
 bool JsonReader::mismatch(std::string_view expected, const boost::json::value& found) {
   const auto kind = found.is_null() ? DecodeFailure::valueNotFound : DecodeFailure::typeMismatch;
-  return fail(kind, std::string(expected) + " expected, " + std::string(nameOf(found)) + " found");
+  return fail(kind, difference(expected, found));
+}
+
+// A record's value must be an object, and null is no exception there.
+bool JsonReader::notAnObject(const boost::json::value& found) {
+  return fail(DecodeFailure::typeMismatch, difference("object", found));
 }
 
 bool JsonReader::fail(DecodeFailure kind, std::string detail) {

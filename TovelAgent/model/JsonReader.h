@@ -28,7 +28,7 @@ class JsonReader final {
   bool read(const boost::json::value& json, R& record) {
     const auto* const object = json.if_object();
     if (object == nullptr) {
-      return mismatch("object", json);
+      return notAnObject(json);
     }
     return std::apply(
         [&](const auto&... field) { return (readField(*object, field, record) && ...); },
@@ -77,10 +77,11 @@ class JsonReader final {
       return true;
     }
     // 2.0 and 1e3 are integers as well. Below 2^63 on either side the
-    // conversion is exact; an unsigned that came here is beyond it.
+    // conversion is exact; an unsigned that came here is beyond it, and what
+    // reads as -2^63 may be a number beyond it that was rounded.
     constexpr double limit = 9223372036854775808.0;
     const auto* const real = json.if_double();
-    if (real == nullptr || !(*real >= -limit && *real < limit) || std::trunc(*real) != *real) {
+    if (real == nullptr || !(*real > -limit && *real < limit) || std::trunc(*real) != *real) {
       return fail(DecodeFailure::dataCorrupted, "a whole number of 64 bits expected");
     }
     number = static_cast<std::int64_t>(*real);
@@ -111,6 +112,7 @@ class JsonReader final {
   }
 
   bool mismatch(std::string_view expected, const boost::json::value& found);
+  bool notAnObject(const boost::json::value& found);
   bool fail(DecodeFailure kind, std::string detail);
   bool within(std::string_view step);
 

@@ -8,28 +8,26 @@
 #include <string_view>
 
 #include <boost/scope_exit.hpp>
-#include <boost/system/errc.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/FileError.h"
+#include "platform/SystemError.h"
 #include "platform/Utf8.h"
 
 namespace quillmark {
 namespace {
 
 using boost::system::error_code;
-namespace errc = boost::system::errc;
-
-error_code lastError() { return {errno, boost::system::system_category()}; }
 
 error_code notRegular(int descriptor) {
   struct stat status {};
   if (fstat(descriptor, &status) != 0) {
-    return lastError();
+    return lastSystemError();
   }
-  return S_ISREG(status.st_mode) ? error_code{} : errc::make_error_code(errc::not_supported);
+  return S_ISREG(status.st_mode) ? error_code{} : make_error_code(FileError::notRegular);
 }
 
 }  // namespace
@@ -37,7 +35,7 @@ error_code notRegular(int descriptor) {
 boost::system::result<std::string> readTextFile(const std::string& path, std::size_t maxBytes) {
   const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
   if (descriptor < 0) {
-    return lastError();
+    return lastSystemError();
   }
   BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
   if (const auto error = notRegular(descriptor)) {
@@ -55,15 +53,15 @@ boost::system::result<std::string> readTextFile(const std::string& path, std::si
       if (errno == EINTR) {
         continue;
       }
-      return lastError();
+      return lastSystemError();
     }
     text.append(block.data(), static_cast<std::size_t>(count));
     if (text.size() > maxBytes) {
-      return errc::make_error_code(errc::file_too_large);
+      return make_error_code(FileError::tooLarge);
     }
   }
   if (!isUtf8(text)) {
-    return errc::make_error_code(errc::illegal_byte_sequence);
+    return make_error_code(FileError::notUtf8);
   }
   return text;
 }

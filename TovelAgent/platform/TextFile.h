@@ -13,10 +13,8 @@ namespace quillmark {
 /// Reads the whole file at `path` as UTF-8, at most `maxBytes` of it.
 ///
 /// Only regular files are read, and opening never waits: a FIFO or a device
-/// under that name is an error, not a hang. Errors are the system's own, and
-/// `not_supported` for what is no regular file, `file_too_large` beyond
-/// `maxBytes`, `illegal_byte_sequence` for what is not UTF-8. Any thread; it
-/// blocks for as long as the disk takes.
+/// under that name is an error, not a hang. Errors are the system's own and those
+/// of `FileError`. Any thread; it blocks for as long as the disk takes.
 [[nodiscard]] boost::system::result<std::string> readTextFile(const std::string& path,
                                                               std::size_t maxBytes);
 

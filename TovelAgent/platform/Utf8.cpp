@@ -11,10 +11,27 @@ namespace {
 namespace utf = boost::locale::utf;
 using Utf8 = utf::utf_traits<char>;
 
+bool isLineSpace(utf::code_point c) {
+  return c == 0x09 || c == 0x20 || c == 0xA0 || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) ||
+         c == 0x202F || c == 0x205F || c == 0x3000;
+}
+
 bool isWhiteSpace(utf::code_point c) {
-  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
-         (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F ||
-         c == 0x3000;
+  return isLineSpace(c) || (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
+
+template <class IsSpace>
+std::string_view without(IsSpace isSpace, std::string_view text) {
+  const auto* first = text.end();
+  const auto* last = text.end();
+  for (const auto* at = text.begin(); at != text.end();) {
+    const auto* const start = at;
+    if (!isSpace(Utf8::decode(at, text.end()))) {
+      first = first == text.end() ? start : first;
+      last = at;
+    }
+  }
+  return {first, last};
 }
 
 }  // namespace
@@ -28,17 +45,8 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string_view trimmed(std::string_view text) {
-  const auto* first = text.end();
-  const auto* last = text.end();
-  for (const auto* at = text.begin(); at != text.end();) {
-    const auto* const start = at;
-    if (!isWhiteSpace(Utf8::decode(at, text.end()))) {
-      first = first == text.end() ? start : first;
-      last = at;
-    }
-  }
-  return {first, last};
-}
+std::string_view trimmed(std::string_view text) { return without(isWhiteSpace, text); }
+
+std::string_view trimmedInLine(std::string_view text) { return without(isLineSpace, text); }
 
 }  // namespace quillmark

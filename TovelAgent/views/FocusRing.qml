@@ -3,7 +3,7 @@
 
 import QtQuick
 
-/// Shows where the keyboard is, inside the edge of its parent.
+/// Shows where the keyboard is, at the edge of its parent.
 Rectangle {
     required property Item target
 

@@ -8,6 +8,7 @@ Item {
     id: pressable
 
     required property string label
+    property int focusMargin: 1
     readonly property bool hovered: hover.hovered
 
     signal pressed
@@ -34,5 +35,6 @@ Item {
 
     FocusRing {
         target: pressable
+        anchors.margins: pressable.focusMargin
     }
 }

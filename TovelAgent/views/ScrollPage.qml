@@ -37,6 +37,10 @@ Flickable {
         target: page
     }
 
+    FocusFollower {
+        target: page
+    }
+
     FocusRing {
         parent: page
         target: page

@@ -2,6 +2,56 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Settings
 
-/// The agent's settings. Nothing can be set yet.
-Item {}
+/// Brings the agent up and down, enrols the machine, and imports a
+/// configuration. Its state lives as long as the tab is shown.
+Rectangle {
+    id: tab
+
+    color: Theme.panelTint
+
+    SettingsState {
+        id: settings
+
+        Component.onCompleted: appear()
+        onPickerRequested: picker.active ? picker.item.open() : picker.active = true
+    }
+
+    ScrollPage {
+        anchors.fill: parent
+        label: qsTr("Settings")
+        spacing: 20
+
+        AgentStatusCard {
+            settings: settings
+        }
+
+        QuickSetupCard {
+            settings: settings
+        }
+
+        AdvancedCard {
+            settings: settings
+        }
+
+        LocationsCard {}
+    }
+
+    // Only made when asked for: a dialog costs more than the whole tab.
+    Loader {
+        id: picker
+
+        active: false
+        source: "ConfigFilePicker.qml"
+        onLoaded: item.open()
+    }
+
+    Connections {
+        target: picker.item
+
+        function onAccepted() {
+            settings.fileChosen(picker.item.selectedFile);
+        }
+    }
+}

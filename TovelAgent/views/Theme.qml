@@ -21,6 +21,10 @@ QtObject {
     readonly property color text: black
     readonly property color panelTint: Qt.rgba(0.98, 0.98, 0.99, 1)
     readonly property color listGround: white
+    readonly property color sectionBorder: Qt.rgba(0.9, 0.9, 0.9, 1)
+    readonly property color fieldBorder: "#8A8F99"
+    readonly property color successTint: Qt.rgba(0.9, 1, 0.9, 1)
+    readonly property color errorTint: Qt.rgba(1, 0.9, 0.9, 1)
     readonly property color separator: "#E3E5EA"
     readonly property color windowBorder: "#B9BDC6"
     readonly property color windowGlyph: gray
@@ -33,6 +37,8 @@ QtObject {
     readonly property int spacing: 8
     readonly property int bodySize: 13
     readonly property int cardRadius: 8
+    readonly property int sectionRadius: 6
+    readonly property int noticeRadius: 4
     readonly property int focusRadius: 6
     readonly property int underlineRadius: 2
     readonly property int listInset: 20

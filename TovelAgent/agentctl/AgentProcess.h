@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+#include <boost/system/error_code.hpp>
+
+#include "platform/ChildProcess.h"
+
+namespace quillmark {
+
+/// The command that starts the agent of the bundle at `bundle` in the
+/// background, its output in the log file under `home`. The home path is not
+/// quoted and the log's folder not made; without that folder nothing starts.
+[[nodiscard]] Command startCommand(const std::string& bundle, const std::string& home);
+
+/// Ends every process whose command line bears the agent's file name.
+[[nodiscard]] Command stopCommand();
+
+/// Ends with status 0 if any process's command line bears that name.
+[[nodiscard]] Command probeCommand();
+
+/// Starts the agent of this program's bundle and does not wait for it. An
+/// error when the shell cannot be started, or `unquotablePath` when the
+/// bundle's path would break out of the shell's quotes. Any thread.
+[[nodiscard]] boost::system::error_code startAgentProcess();
+
+/// Runs the stop command to its end, whatever it finds. An error when it
+/// cannot be started. Blocks the calling thread.
+[[nodiscard]] boost::system::error_code stopAgentProcess();
+
+/// Whether the probe command finds an agent; false when it cannot tell. Blocks
+/// the calling thread.
+[[nodiscard]] bool probeAgentProcess();
+
+}  // namespace quillmark

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "agentctl/ConfigFile.h"
+
+#include <string_view>
+
+#include "agentctl/ConfigText.h"
+#include "model/Uuid.h"
+#include "platform/AtomicFile.h"
+#include "platform/ComputerName.h"
+#include "platform/HomeDirectory.h"
+#include "platform/TextFile.h"
+
+namespace quillmark {
+namespace {
+
+constexpr std::size_t uuidCharactersInId = 8;
+
+std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
+
+std::string newAgentId() {
+  return "macos-" + computerName().value_or("device") + "-" +
+         canonicalText(randomUuid()).substr(0, uuidCharactersInId);
+}
+
+boost::system::error_code install(std::string_view text) {
+  if (const auto error = createPrivateFolders(configFolder())) {
+    return error;
+  }
+  return writeFileAtomically(configFilePath(), text);
+}
+
+}  // namespace
+
+std::string configFilePath() { return configFolder() + "/config.toml"; }
+
+boost::system::error_code saveConfig(const std::string& serverUrl, const std::string& apiKey) {
+  ConfigValues values;
+  values.agentId = newAgentId();
+  values.machineIdentifier = computerName().value_or("macos-device");
+  values.serverUrl = serverUrl;
+  values.apiKey = apiKey;
+  values.home = homeDirectory();
+  return install(configText(values));
+}
+
+ImportResult importConfigFile(const std::string& source) {
+  using enum ImportResult::Outcome;
+  const auto text = readTextFile(source, maxConfigBytes);
+  if (!text) {
+    return {failed, text.error()};
+  }
+  if (text->find("[agent]") == std::string::npos) {
+    return {missingAgentSection, {}};
+  }
+  const auto error = install(*text);
+  return {error ? failed : imported, error};
+}
+
+}  // namespace quillmark

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "agentctl/ConfigReadBack.h"
+
+#include "agentctl/ConfigFile.h"
+#include "platform/HomeDirectory.h"
+#include "platform/TextFile.h"
+#include "platform/Utf8.h"
+
+namespace quillmark {
+namespace {
+
+/// What stands between the first and the second "=", or the line's end, less
+/// white space and then quotes at both ends; empty when there is no "=".
+std::string valueOf(std::string_view line) {
+  const auto start = line.find('=');
+  if (start == std::string_view::npos) {
+    return {};
+  }
+  line.remove_prefix(start + 1);
+  const auto value = trimmedInLine(line.substr(0, line.find('=')));
+  constexpr auto quotes = "\"'";
+  const auto first = value.find_first_not_of(quotes);
+  if (first == std::string_view::npos) {
+    return {};
+  }
+  return std::string(value.substr(first, value.find_last_not_of(quotes) + 1 - first));
+}
+
+bool isPlaceholder(const std::string& key) {
+  return key == "your-api-key-here" || key == "pending-registration";
+}
+
+}  // namespace
+
+ConfigEntries readEntries(std::string_view text) {
+  ConfigEntries entries;
+  while (!text.empty()) {
+    const auto end = text.find('\n');
+    const auto line = trimmedInLine(text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+
+    const bool isKey = line.starts_with("api_key");
+    if (!isKey && !line.starts_with("server_url")) {
+      continue;
+    }
+    auto value = valueOf(line);
+    if (value.empty() || (isKey && isPlaceholder(value))) {
+      continue;
+    }
+    (isKey ? entries.apiKey : entries.serverUrl) = std::move(value);
+  }
+  return entries;
+}
+
+ConfigEntries readCurrentConfig() {
+  for (const auto& path : {configFilePath(), homeDirectory() + "/.quillmark/config.toml"}) {
+    if (const auto text = readTextFile(path, maxConfigBytes)) {
+      return readEntries(*text);
+    }
+  }
+  return {};
+}
+
+}  // namespace quillmark

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QUrl>
+
+#include <boost/system/error_code.hpp>
+
+namespace quillmark {
+
+/// The Settings tab's state and what its buttons do. It lives as long as the
+/// tab's view. UI thread only; stopping, probing and saving block it for as
+/// long as they take.
+class SettingsState : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QString configPath READ configPath NOTIFY configPathChanged)
+  Q_PROPERTY(QString configFileName READ configFileName NOTIFY configPathChanged)
+  Q_PROPERTY(QString statusMessage READ statusMessage NOTIFY statusChanged)
+  Q_PROPERTY(bool isImporting READ isImporting CONSTANT)
+  Q_PROPERTY(bool showSuccess READ showSuccess NOTIFY statusChanged)
+  Q_PROPERTY(bool showError READ showError NOTIFY statusChanged)
+  Q_PROPERTY(QString apiKeyInput READ apiKeyInput WRITE setApiKeyInput NOTIFY apiKeyInputChanged)
+  Q_PROPERTY(bool canSave READ canSave NOTIFY apiKeyInputChanged)
+  Q_PROPERTY(QString serverUrl READ serverUrl WRITE setServerUrl NOTIFY serverUrlChanged)
+  Q_PROPERTY(QString defaultServerUrl READ defaultServerUrl CONSTANT)
+  Q_PROPERTY(QString keyHelp READ keyHelp NOTIFY serverUrlChanged)
+  Q_PROPERTY(QString agentStatusText READ agentStatusText CONSTANT)
+  Q_PROPERTY(bool isAgentRunning READ isAgentRunning NOTIFY isAgentRunningChanged)
+  Q_PROPERTY(QString agentStatusLine READ agentStatusLine NOTIFY isAgentRunningChanged)
+
+ public:
+  using QObject::QObject;
+
+  [[nodiscard]] QString configPath() const { return configPath_; }
+  /// The last component of `configPath`.
+  [[nodiscard]] QString configFileName() const;
+  [[nodiscard]] QString statusMessage() const { return statusMessage_; }
+  [[nodiscard]] bool isImporting() const { return isImporting_; }
+  [[nodiscard]] bool showSuccess() const { return showSuccess_; }
+  [[nodiscard]] bool showError() const { return showError_; }
+  [[nodiscard]] QString apiKeyInput() const { return apiKeyInput_; }
+  void setApiKeyInput(const QString& key);
+  [[nodiscard]] bool canSave() const { return !apiKeyInput_.isEmpty(); }
+  [[nodiscard]] QString serverUrl() const { return serverUrl_; }
+  void setServerUrl(const QString& url);
+  /// The management server of those who run none of their own.
+  [[nodiscard]] static QString defaultServerUrl();
+  /// Where to get a key from, following the server field.
+  [[nodiscard]] QString keyHelp() const;
+  [[nodiscard]] QString agentStatusText() const { return agentStatusText_; }
+  [[nodiscard]] bool isAgentRunning() const { return isAgentRunning_; }
+  [[nodiscard]] QString agentStatusLine() const;
+
+  /// The tab came into view: probe, then read the configuration back.
+  Q_INVOKABLE void appear();
+  /// Starts the agent, and probes 2 seconds later.
+  Q_INVOKABLE void startAgent();
+  /// Ends every agent, and probes 1 second later.
+  Q_INVOKABLE void stopAgent();
+  /// Writes the configuration from the two fields.
+  Q_INVOKABLE void saveApiKey();
+  /// Asks the view to show its file picker.
+  Q_INVOKABLE void openConfigFilePicker();
+  /// The user chose a file in the picker: import it.
+  Q_INVOKABLE void fileChosen(const QUrl& file);
+
+ Q_SIGNALS:
+  void configPathChanged();
+  void statusChanged();
+  void apiKeyInputChanged();
+  void serverUrlChanged();
+  void isAgentRunningChanged();
+  void pickerRequested();
+
+ private:
+  void checkAgentStatus();
+  void checkAgentStatusLater(int milliseconds);
+  void loadCurrentConfig();
+  void importConfig(const QString& path);
+  void succeed(const QString& message);
+  void fail(const QString& message);
+  void failWith(const boost::system::error_code& error);
+
+  QString configPath_;
+  QString statusMessage_;
+  const bool isImporting_ = false;
+  bool showSuccess_ = false;
+  bool showError_ = false;
+  QString apiKeyInput_;
+  QString serverUrl_ = defaultServerUrl();
+  const QString agentStatusText_ = QStringLiteral("Checking...");
+  bool isAgentRunning_ = false;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/AtomicFile.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/FileError.h"
+#include "platform/SystemError.h"
+
+namespace quillmark {
+namespace {
+
+using boost::system::error_code;
+
+constexpr mode_t privateFile = 0600;
+constexpr mode_t privateFolder = 0700;
+
+std::string folderOf(const std::string& path) {
+  const auto slash = path.rfind('/');
+  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+/// The file that is to be replaced: behind all links, and what it may look like.
+struct Target {
+  std::string path;
+  bool exists = false;
+  mode_t mode = privateFile;
+};
+
+error_code examine(const std::string& path, Target& target) {
+  target.path = path;
+  struct stat status {};
+  if (lstat(path.c_str(), &status) != 0) {
+    return errno == ENOENT ? error_code{} : lastSystemError();
+  }
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr),
+                                                         &std::free);
+  if (!real || stat(real.get(), &status) != 0) {
+    return lastSystemError();
+  }
+  if (!S_ISREG(status.st_mode)) {
+    return FileError::notRegular;
+  }
+  target.path = real.get();
+  target.exists = true;
+  const mode_t mode = status.st_mode & 07777U;
+  target.mode = (mode & ~privateFile) == 0 ? mode : privateFile;
+  return {};
+}
+
+/// A file beside the target that is gone when this is, whatever became of it.
+class TemporaryFile final {
+ public:
+  explicit TemporaryFile(const Target& target)
+      : path_(target.path + ".XXXXXX"), descriptor_(mkostemp(path_.data(), O_CLOEXEC)) {}
+  ~TemporaryFile() {
+    if (descriptor_ >= 0) {
+      close(descriptor_);
+    }
+    if (made_) {
+      unlink(path_.c_str());
+    }
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  [[nodiscard]] const char* path() const { return path_.c_str(); }
+  [[nodiscard]] bool made() const { return made_; }
+
+  /// Nothing lies at the path any more.
+  void moved() { made_ = false; }
+
+  /// Everything on the disk, and the file closed.
+  [[nodiscard]] error_code fill(std::string_view text, mode_t mode) {
+    while (!text.empty()) {
+      const ssize_t count = write(descriptor_, text.data(), text.size());
+      if (count >= 0) {
+        text.remove_prefix(static_cast<std::size_t>(count));
+      } else if (errno != EINTR) {
+        return lastSystemError();
+      }
+    }
+    if (fchmod(descriptor_, mode) != 0 || fsync(descriptor_) != 0) {
+      return lastSystemError();
+    }
+    const int descriptor = descriptor_;
+    descriptor_ = -1;
+    return close(descriptor) == 0 ? error_code{} : lastSystemError();
+  }
+
+ private:
+  std::string path_;
+  int descriptor_;
+  bool made_ = descriptor_ >= 0;
+};
+
+error_code syncFolder(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) {
+    return lastSystemError();
+  }
+  const auto error = fsync(descriptor) == 0 ? error_code{} : lastSystemError();
+  close(descriptor);
+  return error;
+}
+
+/// Swaps the two files, so that the old one is still there should the folder
+/// not reach the disk.
+error_code exchange(const TemporaryFile& file, const Target& target) {
+  const auto swapped = [&] {
+    return renameat2(AT_FDCWD, file.path(), AT_FDCWD, target.path.c_str(), RENAME_EXCHANGE) == 0;
+  };
+  if (!swapped()) {
+    return lastSystemError();
+  }
+  const auto error = syncFolder(folderOf(target.path));
+  if (error) {
+    // Should even this fail, the new file stands, whole.
+    return swapped() ? error : error_code{};
+  }
+  return error;
+}
+
+error_code moveInto(TemporaryFile& file, const Target& target) {
+  if (std::rename(file.path(), target.path.c_str()) != 0) {
+    return lastSystemError();
+  }
+  file.moved();
+  const auto error = syncFolder(folderOf(target.path));
+  if (!error || target.exists) {
+    // Replaced is replaced: there is no old file to go back to.
+    return {};
+  }
+  return unlink(target.path.c_str()) == 0 ? error : error_code{};
+}
+
+}  // namespace
+
+error_code createPrivateFolders(const std::string& path) {
+  for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
+    const auto folder = path.substr(0, end);
+    if (mkdir(folder.c_str(), privateFolder) != 0 && errno != EEXIST) {
+      return lastSystemError();
+    }
+    if (end == std::string::npos) {
+      break;
+    }
+  }
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) {
+    return lastSystemError();
+  }
+  return S_ISDIR(status.st_mode) ? error_code{}
+                                 : error_code(ENOTDIR, boost::system::system_category());
+}
+
+error_code writeFileAtomically(const std::string& path, std::string_view text) {
+  Target target;
+  if (const auto error = examine(path, target)) {
+    return error;
+  }
+  TemporaryFile file(target);
+  if (!file.made()) {
+    return lastSystemError();
+  }
+  if (const auto error = file.fill(text, target.mode)) {
+    return error;
+  }
+  if (target.exists) {
+    const auto error = exchange(file, target);
+    // Not every file system can exchange.
+    if (error != boost::system::errc::invalid_argument) {
+      return error;
+    }
+  }
+  return moveInto(file, target);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/ChildProcess.h"
+
+#include <cerrno>
+#include <thread>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quillmark {
+namespace {
+
+using boost::system::error_code;
+
+/// How a child differs from this process.
+class SpawnSetup final {
+ public:
+  SpawnSetup() {
+    posix_spawn_file_actions_init(&actions_);
+    posix_spawnattr_init(&attributes_);
+  }
+  ~SpawnSetup() {
+    posix_spawn_file_actions_destroy(&actions_);
+    posix_spawnattr_destroy(&attributes_);
+  }
+  SpawnSetup(const SpawnSetup&) = delete;
+  SpawnSetup& operator=(const SpawnSetup&) = delete;
+
+  void discardOutput() {
+    for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
+      posix_spawn_file_actions_addopen(&actions_, stream, "/dev/null", O_WRONLY, 0);
+    }
+  }
+  void ownSession() { posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID); }
+
+  [[nodiscard]] error_code spawn(const Command& command, pid_t& child) const {
+    std::vector<char*> arguments{const_cast<char*>(command.executable.c_str())};
+    for (const auto& argument : command.arguments) {
+      arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
+    arguments.push_back(nullptr);
+    const int error = posix_spawn(&child, command.executable.c_str(), &actions_, &attributes_,
+                                  arguments.data(), environ);
+    return {error, boost::system::system_category()};
+  }
+
+ private:
+  posix_spawn_file_actions_t actions_{};
+  posix_spawnattr_t attributes_{};
+};
+
+int waitFor(pid_t child) {
+  int status = 0;
+  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+}  // namespace
+
+error_code startDetached(const Command& command) {
+  SpawnSetup setup;
+  setup.ownSession();
+  pid_t child = 0;
+  const auto error = setup.spawn(command, child);
+  if (!error) {
+    std::thread(waitFor, child).detach();
+  }
+  return error;
+}
+
+boost::system::result<int> runSilently(const Command& command) {
+  SpawnSetup setup;
+  setup.discardOutput();
+  pid_t child = 0;
+  if (const auto error = setup.spawn(command, child)) {
+    return error;
+  }
+  return waitFor(child);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/FileError.h"
+
+#include <string>
+
+#include <boost/system/errc.hpp>
+
+namespace quillmark {
+namespace {
+
+class Category final : public boost::system::error_category {
+ public:
+  [[nodiscard]] const char* name() const noexcept override { return "file"; }
+
+  [[nodiscard]] std::string message(int value) const override {
+    switch (static_cast<FileError>(value)) {
+      case FileError::notRegular:
+        return "Not a regular file";
+      case FileError::tooLarge:
+        return "The file is too large";
+      case FileError::notUtf8:
+        return "The file is not UTF-8 text";
+      case FileError::unquotablePath:
+        return "The application's path holds an apostrophe or a control character";
+    }
+    return "Unknown error";
+  }
+
+  [[nodiscard]] boost::system::error_condition default_error_condition(
+      int value) const noexcept override {
+    namespace errc = boost::system::errc;
+    switch (static_cast<FileError>(value)) {
+      case FileError::notRegular:
+        return errc::make_error_condition(errc::not_supported);
+      case FileError::tooLarge:
+        return errc::make_error_condition(errc::file_too_large);
+      case FileError::notUtf8:
+        return errc::make_error_condition(errc::illegal_byte_sequence);
+      case FileError::unquotablePath:
+        return errc::make_error_condition(errc::invalid_argument);
+    }
+    return {value, *this};
+  }
+};
+
+}  // namespace
+
+boost::system::error_code make_error_code(FileError error) {
+  static const Category category;
+  return {static_cast<int>(error), category};
+}
+
+}  // namespace quillmark

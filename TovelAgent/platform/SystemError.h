@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <cerrno>
+
+#include <boost/system/error_code.hpp>
+
+namespace quillmark {
+
+/// What the last failed system call objected to. Same thread as that call.
+[[nodiscard]] inline boost::system::error_code lastSystemError() {
+  return {errno, boost::system::system_category()};
+}
+
+}  // namespace quillmark

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Settings
+
+/// Whether the agent runs, and how to change that.
+SectionCard {
+    id: card
+
+    required property SettingsState settings
+
+    readonly property color ink: settings.isAgentRunning ? Theme.green : Theme.red
+
+    icon: "antenna.radiowaves.left.and.right"
+    title: qsTr("Agent Status")
+
+    Row {
+        spacing: Theme.spacing
+
+        Rectangle {
+            width: 10
+            height: 10
+            radius: 5
+            color: card.ink
+            anchors.verticalCenter: parent.verticalCenter
+        }
+
+        Label {
+            text: card.settings.agentStatusLine
+            size: 13
+            font.weight: Font.DemiBold
+            color: card.ink
+        }
+    }
+
+    Row {
+        id: buttons
+
+        readonly property real buttonWidth: (width - spacing) / 2
+
+        width: parent.width
+        spacing: 8
+
+        ActionButton {
+            width: buttons.buttonWidth
+            icon: "play.fill"
+            text: qsTr("Start Agent")
+            padding: 8
+            ground: Theme.green
+            onPressed: card.settings.startAgent()
+        }
+
+        ActionButton {
+            width: buttons.buttonWidth
+            icon: "stop.fill"
+            text: qsTr("Stop Agent")
+            padding: 8
+            ground: Theme.red
+            onPressed: card.settings.stopAgent()
+        }
+    }
+}

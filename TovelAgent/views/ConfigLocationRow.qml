@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// A place where a configuration file may lie.
+Rectangle {
+    id: row
+
+    required property string path
+    required property string description
+
+    width: parent?.width ?? 0
+    implicitHeight: column.height + 2 * 8
+    radius: Theme.noticeRadius
+    color: Theme.panelTint
+
+    Column {
+        id: column
+
+        x: 8
+        y: 8
+        spacing: 4
+
+        Row {
+            spacing: Theme.spacing
+
+            SymbolIcon {
+                name: "document.text"
+                size: 12
+                color: Theme.blue
+                anchors.verticalCenter: parent.verticalCenter
+            }
+
+            Label {
+                text: row.path
+                size: 12
+                font.weight: Font.DemiBold
+                color: Theme.black
+                maximumLineCount: 1
+                anchors.verticalCenter: parent.verticalCenter
+            }
+        }
+
+        Label {
+            text: row.description
+            size: 11
+            color: Theme.gray
+        }
+    }
+}
