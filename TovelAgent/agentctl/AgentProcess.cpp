@@ -46,9 +46,15 @@ boost::system::error_code stopAgentProcess() {
   return status ? boost::system::error_code{} : status.error();
 }
 
-bool probeAgentProcess() {
+bool probeAgentProcess(boost::system::error_code& error) {
   const auto status = runSilently(probeCommand());
+  error = status ? boost::system::error_code() : status.error();
   return status && *status == 0;
+}
+
+bool probeAgentProcess() {
+  boost::system::error_code ignored;
+  return probeAgentProcess(ignored);
 }
 
 }  // namespace quillmark

@@ -31,8 +31,11 @@ namespace quillmark {
 /// cannot be started. Blocks the calling thread.
 [[nodiscard]] boost::system::error_code stopAgentProcess();
 
-/// Whether the probe command finds an agent; false when it cannot tell. Blocks
-/// the calling thread.
+/// Whether the probe command finds an agent; false, with the reason in `error`,
+/// when it cannot be run. Blocks the calling thread.
+[[nodiscard]] bool probeAgentProcess(boost::system::error_code& error);
+
+/// The same for those whom the reason does not concern.
 [[nodiscard]] bool probeAgentProcess();
 
 }  // namespace quillmark

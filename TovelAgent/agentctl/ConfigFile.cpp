@@ -5,6 +5,9 @@
 
 #include <string_view>
 
+#include <boost/system/result.hpp>
+#include <boost/uuid/entropy_error.hpp>
+
 #include "agentctl/ConfigText.h"
 #include "model/Uuid.h"
 #include "platform/AtomicFile.h"
@@ -19,9 +22,15 @@ constexpr std::size_t uuidCharactersInId = 8;
 
 std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 
-std::string newAgentId() {
-  return "macos-" + computerName().value_or("device") + "-" +
-         canonicalText(randomUuid()).substr(0, uuidCharactersInId);
+/// An error when the system gives no random bytes.
+boost::system::result<std::string> newAgentId() {
+  try {
+    return "macos-" + computerName().value_or("device") + "-" +
+           canonicalText(randomUuid()).substr(0, uuidCharactersInId);
+  } catch (const boost::uuids::entropy_error& error) {
+    return boost::system::error_code(static_cast<int>(error.errcode()),
+                                     boost::system::system_category());
+  }
 }
 
 boost::system::error_code install(std::string_view text) {
@@ -36,8 +45,12 @@ boost::system::error_code install(std::string_view text) {
 std::string configFilePath() { return configFolder() + "/config.toml"; }
 
 boost::system::error_code saveConfig(const std::string& serverUrl, const std::string& apiKey) {
+  const auto agentId = newAgentId();
+  if (!agentId) {
+    return agentId.error();
+  }
   ConfigValues values;
-  values.agentId = newAgentId();
+  values.agentId = *agentId;
   values.machineIdentifier = computerName().value_or("macos-device");
   values.serverUrl = serverUrl;
   values.apiKey = apiKey;

@@ -3,6 +3,8 @@
 
 #include "agentctl/ConfigReadBack.h"
 
+#include <utility>
+
 #include "agentctl/ConfigFile.h"
 #include "platform/HomeDirectory.h"
 #include "platform/TextFile.h"

@@ -25,7 +25,9 @@ QString SettingsState::defaultServerUrl() {
   return QStringLiteral("https://console.quillmark.example");
 }
 
-QString SettingsState::configFileName() const { return QFileInfo(configPath_).fileName(); }
+QString SettingsState::selectedFileLine() const {
+  return QStringLiteral("Selected: ") + QFileInfo(configPath_).fileName();
+}
 
 QString SettingsState::keyHelp() const {
   return QStringLiteral("Get your API key from: ") + serverUrl_ + QStringLiteral("/agent/start");
@@ -70,7 +72,11 @@ void SettingsState::stopAgent() {
 }
 
 void SettingsState::checkAgentStatus() {
-  const bool isRunning = probeAgentProcess();
+  boost::system::error_code error;
+  const bool isRunning = probeAgentProcess(error);
+  if (error) {
+    failWith(error);
+  }
   if (isRunning != isAgentRunning_) {
     isAgentRunning_ = isRunning;
     Q_EMIT isAgentRunningChanged();

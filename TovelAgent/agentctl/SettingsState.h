@@ -19,7 +19,7 @@ class SettingsState : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString configPath READ configPath NOTIFY configPathChanged)
-  Q_PROPERTY(QString configFileName READ configFileName NOTIFY configPathChanged)
+  Q_PROPERTY(QString selectedFileLine READ selectedFileLine NOTIFY configPathChanged)
   Q_PROPERTY(QString statusMessage READ statusMessage NOTIFY statusChanged)
   Q_PROPERTY(bool isImporting READ isImporting CONSTANT)
   Q_PROPERTY(bool showSuccess READ showSuccess NOTIFY statusChanged)
@@ -37,8 +37,8 @@ class SettingsState : public QObject {
   using QObject::QObject;
 
   [[nodiscard]] QString configPath() const { return configPath_; }
-  /// The last component of `configPath`.
-  [[nodiscard]] QString configFileName() const;
+  /// Which file was chosen, by its name alone.
+  [[nodiscard]] QString selectedFileLine() const;
   [[nodiscard]] QString statusMessage() const { return statusMessage_; }
   [[nodiscard]] bool isImporting() const { return isImporting_; }
   [[nodiscard]] bool showSuccess() const { return showSuccess_; }

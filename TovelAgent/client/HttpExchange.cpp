@@ -7,7 +7,9 @@
 #include <cstddef>
 #include <utility>
 
+#include <boost/asio/co_spawn.hpp>
 #include <boost/asio/redirect_error.hpp>
+#include <boost/asio/strand.hpp>
 #include <boost/asio/this_coro.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
@@ -55,12 +57,21 @@ class AnswerReader final {
   [[nodiscard]] State received(std::size_t count) {
     buffer_.commit(count);
     for (;;) {
+      // The parser's own limit holds for what it is given at once, not for a
+      // header that comes line by line; so the header is parsed alone.
+      const bool inHeader = !parser_->is_header_done();
+      parser_->eager(!inHeader);
       ErrorCode error;
       const std::size_t used = parser_->put(buffer_.data(), error);
       buffer_.consume(used);
-      if (error == http::error::need_more) {
-        // What the parser leaves is a header, a chunk's or the trailer's line.
-        return buffer_.size() > limits_.headerBytes ? State::failed : State::wantsMore;
+      headerSize_ = inHeader ? headerSize_ + used : 0;
+      const bool needsMore = error == http::error::need_more;
+      // What it then leaves is a piece of the header, a chunk's or trailer's line.
+      if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
+        return State::failed;
+      }
+      if (needsMore) {
+        return State::wantsMore;
       }
       if (error) {
         return State::failed;
@@ -83,6 +94,9 @@ class AnswerReader final {
 
   /// The server will send nothing more.
   [[nodiscard]] State ended() {
+    if (!parser_->got_some()) {
+      return State::failed;
+    }
     ErrorCode error;
     parser_->put_eof(error);
     return !error && parser_->is_done() ? State::done : State::failed;
@@ -92,8 +106,8 @@ class AnswerReader final {
 
  private:
   void startAnswer() {
+    headerSize_ = 0;
     parser_.emplace();
-    parser_->eager(true);
     parser_->header_limit(limits_.headerBytes);
     parser_->body_limit(limits_.bodyBytes);
   }
@@ -107,12 +121,14 @@ class AnswerReader final {
   HttpLimits limits_;
   beast::flat_buffer buffer_;
   std::optional<Parser> parser_;
+  std::size_t headerSize_ = 0;
   int interimAnswers_ = 0;
 };
 
-}  // namespace
-
-asio::awaitable<std::optional<std::string>> exchange(HttpRequest request, HttpLimits limits) {
+/// `exchange`, on an executor that runs one handler at a time: a stream whose
+/// time runs out closes itself, wherever the coroutine is at that moment.
+asio::awaitable<std::optional<std::string>> exchangeSerially(HttpRequest request,
+                                                             HttpLimits limits) {
   ErrorCode error;
   // A named token: GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
@@ -147,6 +163,16 @@ asio::awaitable<std::optional<std::string>> exchange(HttpRequest request, HttpLi
     co_return std::nullopt;
   }
   co_return answer.takeBody();
+}
+
+}  // namespace
+
+asio::awaitable<std::optional<std::string>> exchange(HttpRequest request, HttpLimits limits) {
+  const auto executor = co_await asio::this_coro::executor;
+  auto serial = exchangeSerially(std::move(request), limits);
+  auto completion =
+      asio::co_spawn(asio::make_strand(executor), std::move(serial), asio::use_awaitable);
+  co_return co_await std::move(completion);
 }
 
 }  // namespace quillmark

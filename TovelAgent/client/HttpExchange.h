@@ -32,7 +32,8 @@ struct HttpLimits {
 /// Sends `request` over a connection of its own and completes with the body of
 /// the answer, whatever its status, or with no value when the transfer fails
 /// in any way. Follows no redirect, asks for no compression, keeps nothing.
-/// Runs on the awaiting coroutine's executor and blocks no thread.
+/// Runs on the awaiting coroutine's executor, which may have several threads,
+/// and blocks none of them.
 [[nodiscard]] boost::asio::awaitable<std::optional<std::string>> exchange(HttpRequest request,
                                                                           HttpLimits limits);
 

@@ -3,6 +3,7 @@
 
 #include "client/IPCClient.h"
 
+#include <exception>
 #include <utility>
 
 #include <boost/url/parse.hpp>
@@ -43,7 +44,8 @@ asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  auto response = co_await makeRequest<AlertsResponse>("/api/alerts", "GET");
+  auto request = makeRequest<AlertsResponse>("/api/alerts", "GET");
+  auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
   }
@@ -51,7 +53,8 @@ asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() 
 }
 
 asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNetwork() const {
-  auto response = co_await makeRequest<NetworkResponse>("/api/network", "GET");
+  auto request = makeRequest<NetworkResponse>("/api/network", "GET");
+  auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
   }
@@ -63,17 +66,17 @@ asio::awaitable<std::optional<InventoryData>> IPCClient::getInventory() const {
 }
 
 template <class R>
-asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string endpoint,
-                                                         std::string method) const {
+asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoint,
+                                                         std::string_view method) const {
   try {
     if (!authToken || !fitsHeaderField(*authToken)) {
       co_return std::nullopt;
     }
-    auto request = requestTo(baseURL + endpoint);
+    auto request = requestTo(baseURL + std::string(endpoint));
     if (!request) {
       co_return std::nullopt;
     }
-    request->method = std::move(method);
+    request->method = method;
     request->token = *authToken;
 
     const HttpLimits limits;
@@ -88,7 +91,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string endpoint,
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Out of memory, or out of descriptors for a socket's timer.
+    // Out of memory, or a token longer than any header field may be.
     co_return std::nullopt;
   }
 }

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <boost/asio/awaitable.hpp>
@@ -39,9 +40,10 @@ class IPCClient final {
  private:
   void loadAuthToken();
 
+  /// Both texts must be literals: they are read while the request runs.
   template <class R>
-  [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string endpoint,
-                                                                     std::string method) const;
+  [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,
+                                                                     std::string_view method) const;
 
   const std::string baseURL = "http://127.0.0.1:7823";
   std::optional<std::string> authToken;

@@ -9,7 +9,7 @@ import Quillmark.Views
 Window {
     id: window
 
-    title: qsTr("Quillmark Agent")
+    title: "Quillmark Agent"
     flags: Qt.Window | Qt.FramelessWindowHint
     width: 1000
     height: 700

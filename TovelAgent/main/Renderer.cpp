@@ -3,6 +3,8 @@
 
 #include "main/Renderer.h"
 
+#include <cerrno>
+#include <cstring>
 #include <vector>
 
 #include <QCoreApplication>
@@ -36,6 +38,7 @@ void restartInSoftware() {
   }
   arguments.push_back(nullptr);
   execv("/proc/self/exe", arguments.data());
+  qFatal("The panel cannot start itself again: %s", std::strerror(errno));
 }
 
 }  // namespace quillmark

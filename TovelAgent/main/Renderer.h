@@ -11,7 +11,8 @@ namespace quillmark {
 void chooseRenderer();
 
 /// Starts this program again, drawing in software. For when what the user
-/// asked for cannot be had; does not return unless the start fails.
-void restartInSoftware();
+/// asked for cannot be had; does not return, and ends the program if the
+/// start fails.
+[[noreturn]] void restartInSoftware();
 
 }  // namespace quillmark

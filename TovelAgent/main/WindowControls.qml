@@ -14,19 +14,19 @@ Row {
     signal closePressed
 
     WindowButton {
-        label: qsTr("Minimize")
+        label: "Minimize"
         icon: "window.minimize"
         onPressed: controls.minimizePressed()
     }
 
     WindowButton {
-        label: controls.isMaximized ? qsTr("Restore") : qsTr("Maximize")
+        label: controls.isMaximized ? "Restore" : "Maximize"
         icon: controls.isMaximized ? "window.restore" : "window.maximize"
         onPressed: controls.maximizePressed()
     }
 
     WindowButton {
-        label: qsTr("Close")
+        label: "Close"
         icon: "window.close"
         onPressed: controls.closePressed()
     }

@@ -25,30 +25,27 @@ Item {
     // may become a double click.
     MouseArea {
         property point pressedAt
+        property bool isMoving
 
         width: parent.width
         height: frame.dragHeight
-        onPressed: mouse => pressedAt = Qt.point(mouse.x, mouse.y)
+        onPressed: mouse => {
+            pressedAt = Qt.point(mouse.x, mouse.y);
+            isMoving = false;
+        }
         onPositionChanged: mouse => {
-            if (Math.max(Math.abs(mouse.x - pressedAt.x), Math.abs(mouse.y - pressedAt.y))
-                    > Qt.styleHints.startDragDistance)
+            const distance = Math.max(Math.abs(mouse.x - pressedAt.x),
+                                      Math.abs(mouse.y - pressedAt.y));
+            if (!isMoving && distance > Qt.styleHints.startDragDistance) {
+                isMoving = true;
                 frame.window.startSystemMove();
+            }
         }
         onDoubleClicked: frame.toggleMaximized()
     }
 
     signal toggleMaximized
     onToggleMaximized: isMaximized ? window.showNormal() : window.showMaximized()
-
-    WindowControls {
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.rightMargin: frame.corner
-        isMaximized: frame.isMaximized
-        onMinimizePressed: frame.window.showMinimized()
-        onMaximizePressed: frame.toggleMaximized()
-        onClosePressed: frame.window.close()
-    }
 
     Rectangle {
         visible: !frame.isMaximized
@@ -73,5 +70,15 @@ Item {
             thickness: frame.handle
             corner: frame.corner
         }
+    }
+
+    WindowControls {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.rightMargin: frame.corner
+        isMaximized: frame.isMaximized
+        onMinimizePressed: frame.window.showMinimized()
+        onMaximizePressed: frame.toggleMaximized()
+        onClosePressed: frame.window.close()
     }
 }

@@ -3,6 +3,8 @@
 
 #include "main/WindowGroup.h"
 
+#include <utility>
+
 #include <QQuickWindow>
 #include <QtDebug>
 
@@ -13,7 +15,12 @@ namespace quillmark {
 WindowGroup::WindowGroup(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
 
-WindowGroup::~WindowGroup() { qDeleteAll(windows_); }
+WindowGroup::~WindowGroup() {
+  for (auto* const window : std::as_const(windows_)) {
+    window->disconnect(this);
+    delete window;
+  }
+}
 
 void WindowGroup::open() {
   auto* const window = qobject_cast<QQuickWindow*>(component_.create());

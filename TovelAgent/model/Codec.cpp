@@ -43,16 +43,10 @@ std::string encode(const R& record) {
   return boost::json::serialize(JsonWriter::write(record));
 }
 
-#define QUILLMARK_CODEC(R)                      \
+#define QUILLMARK_DEFINE_CODEC(R)               \
   template Decoded<R> decode(std::string_view); \
   template std::string encode(const R&);
-QUILLMARK_CODEC(AgentStatus)
-QUILLMARK_CODEC(ThreatAlert)
-QUILLMARK_CODEC(NetworkConnection)
-QUILLMARK_CODEC(InstalledApp)
-QUILLMARK_CODEC(InventoryData)
-QUILLMARK_CODEC(AlertsResponse)
-QUILLMARK_CODEC(NetworkResponse)
-#undef QUILLMARK_CODEC
+QUILLMARK_FOR_EACH_RECORD(QUILLMARK_DEFINE_CODEC)
+#undef QUILLMARK_DEFINE_CODEC
 
 }  // namespace quillmark

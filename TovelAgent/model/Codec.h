@@ -32,17 +32,20 @@ template <Record R>
 template <Record R>
 [[nodiscard]] std::string encode(const R& record);
 
-// Defined for these seven, and for no other.
-#define QUILLMARK_CODEC(R)                             \
+// The codec is defined for these seven, and for no other.
+#define QUILLMARK_FOR_EACH_RECORD(X) \
+  X(AgentStatus)                     \
+  X(ThreatAlert)                     \
+  X(NetworkConnection)               \
+  X(InstalledApp)                    \
+  X(InventoryData)                   \
+  X(AlertsResponse)                  \
+  X(NetworkResponse)
+
+#define QUILLMARK_DECLARE_CODEC(R)                     \
   extern template Decoded<R> decode(std::string_view); \
   extern template std::string encode(const R&);
-QUILLMARK_CODEC(AgentStatus)
-QUILLMARK_CODEC(ThreatAlert)
-QUILLMARK_CODEC(NetworkConnection)
-QUILLMARK_CODEC(InstalledApp)
-QUILLMARK_CODEC(InventoryData)
-QUILLMARK_CODEC(AlertsResponse)
-QUILLMARK_CODEC(NetworkResponse)
-#undef QUILLMARK_CODEC
+QUILLMARK_FOR_EACH_RECORD(QUILLMARK_DECLARE_CODEC)
+#undef QUILLMARK_DECLARE_CODEC
 
 }  // namespace quillmark

@@ -113,7 +113,7 @@ error_code syncFolder(const std::string& path) {
 
 /// Swaps the two files, so that the old one is still there should the folder
 /// not reach the disk.
-error_code exchange(const TemporaryFile& file, const Target& target) {
+error_code swapInto(const TemporaryFile& file, const Target& target) {
   const auto swapped = [&] {
     return renameat2(AT_FDCWD, file.path(), AT_FDCWD, target.path.c_str(), RENAME_EXCHANGE) == 0;
   };
@@ -146,7 +146,12 @@ error_code moveInto(TemporaryFile& file, const Target& target) {
 error_code createPrivateFolders(const std::string& path) {
   for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const auto folder = path.substr(0, end);
-    if (mkdir(folder.c_str(), privateFolder) != 0 && errno != EEXIST) {
+    if (mkdir(folder.c_str(), privateFolder) == 0) {
+      // Else a loss of power could take the folder with all that is in it.
+      if (const auto error = syncFolder(folderOf(folder))) {
+        return error;
+      }
+    } else if (errno != EEXIST) {
       return lastSystemError();
     }
     if (end == std::string::npos) {
@@ -174,7 +179,7 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
     return error;
   }
   if (target.exists) {
-    const auto error = exchange(file, target);
+    const auto error = swapInto(file, target);
     // Not every file system can exchange.
     if (error != boost::system::errc::invalid_argument) {
       return error;

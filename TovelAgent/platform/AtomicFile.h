@@ -19,7 +19,9 @@ namespace quillmark {
 ///
 /// The file is for the user alone: 0600, or what stricter mode it had. A
 /// symbolic link to a regular file is followed. On an error the old file is as
-/// it was and nothing else stays behind. Any thread; waits for the disk.
+/// it was and nothing else stays behind; on a file system that cannot exchange
+/// two files there is no going back, so a folder that could not be flushed is no
+/// error there. Any thread; waits for the disk.
 [[nodiscard]] boost::system::error_code writeFileAtomically(const std::string& path,
                                                             std::string_view text);
 

@@ -4,12 +4,16 @@
 #include "platform/ChildProcess.h"
 
 #include <cerrno>
+#include <csignal>
+#include <system_error>
 #include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "platform/SystemError.h"
 
 namespace quillmark {
 namespace {
@@ -22,6 +26,14 @@ class SpawnSetup final {
   SpawnSetup() {
     posix_spawn_file_actions_init(&actions_);
     posix_spawnattr_init(&attributes_);
+    // Our sockets and signal habits are none of the child's business.
+    posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+    sigset_t signals{};
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(&attributes_, &signals);
+    sigfillset(&signals);
+    posix_spawnattr_setsigdefault(&attributes_, &signals);
+    posix_spawnattr_setflags(&attributes_, inheritNoSignals);
   }
   ~SpawnSetup() {
     posix_spawn_file_actions_destroy(&actions_);
@@ -35,7 +47,9 @@ class SpawnSetup final {
       posix_spawn_file_actions_addopen(&actions_, stream, "/dev/null", O_WRONLY, 0);
     }
   }
-  void ownSession() { posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID); }
+  void ownSession() {
+    posix_spawnattr_setflags(&attributes_, inheritNoSignals | POSIX_SPAWN_SETSID);
+  }
 
   [[nodiscard]] error_code spawn(const Command& command, pid_t& child) const {
     std::vector<char*> arguments{const_cast<char*>(command.executable.c_str())};
@@ -49,13 +63,27 @@ class SpawnSetup final {
   }
 
  private:
+  static constexpr short inheritNoSignals = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
+
   posix_spawn_file_actions_t actions_{};
   posix_spawnattr_t attributes_{};
 };
 
-int waitFor(pid_t child) {
+/// Whoever started this program may have had it ignore that children end; then
+/// the system keeps no exit status.
+void keepExitStatuses() {
+  struct sigaction current {};
+  if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {
+    std::signal(SIGCHLD, SIG_DFL);
+  }
+}
+
+boost::system::result<int> waitFor(pid_t child) {
   int status = 0;
-  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  while (waitpid(child, &status, 0) < 0) {
+    if (errno != EINTR) {
+      return lastSystemError();
+    }
   }
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
@@ -67,13 +95,20 @@ error_code startDetached(const Command& command) {
   setup.ownSession();
   pid_t child = 0;
   const auto error = setup.spawn(command, child);
-  if (!error) {
-    std::thread(waitFor, child).detach();
+  if (error) {
+    return error;
   }
-  return error;
+  try {
+    std::thread([child] { static_cast<void>(waitFor(child)); }).detach();
+  } catch (const std::system_error&) {
+    // No thread to be had: what is started here ends at once anyway.
+    static_cast<void>(waitFor(child));
+  }
+  return {};
 }
 
 boost::system::result<int> runSilently(const Command& command) {
+  keepExitStatuses();
   SpawnSetup setup;
   setup.discardOutput();
   pid_t child = 0;

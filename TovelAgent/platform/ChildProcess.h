@@ -26,7 +26,7 @@ struct Command {
 
 /// Runs `command` with its output discarded and waits for it to end. Its exit
 /// status, or 128 plus the signal that ended it; an error when it could not be
-/// started. Blocks the calling thread.
+/// started or waited for. Blocks the calling thread.
 [[nodiscard]] boost::system::result<int> runSilently(const Command& command);
 
 }  // namespace quillmark

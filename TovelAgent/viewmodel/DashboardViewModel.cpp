@@ -73,8 +73,10 @@ void DashboardViewModel::updateData() {
 boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardViewModel> self) {
   PollResult result;
   result.status = co_await self->client_.getStatus();
-  result.alerts = listOf(co_await self->client_.getAlerts());
-  result.networkConnections = listOf(co_await self->client_.getNetwork());
+  auto alerts = co_await self->client_.getAlerts();
+  result.alerts = listOf(std::move(alerts));
+  auto connections = co_await self->client_.getNetwork();
+  result.networkConnections = listOf(std::move(connections));
   auto inventory = co_await self->client_.getInventory();
   if (inventory) {
     result.inventory = std::make_shared<const InventoryData>(std::move(*inventory));

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <utility>
+
 #include <QAbstractListModel>
 #include <QByteArray>
 #include <QQmlEngine>

@@ -11,27 +11,34 @@ SectionCard {
 
     required property SettingsState settings
 
+    /// What opens the file dialog.
+    readonly property alias browse: browse
+    /// Where the outcome of an operation is told.
+    readonly property alias notice: notice
+
     icon: "gear"
-    title: qsTr("Advanced Configuration")
+    title: "Advanced Configuration"
     spacing: 10
 
     Label {
-        text: qsTr("Import config.toml")
+        text: "Import config.toml"
         size: 13
         font.weight: Font.DemiBold
         color: Theme.black
     }
 
     Label {
-        text: qsTr("Select your config.toml file to configure the agent")
+        text: "Select your config.toml file to configure the agent"
         size: 12
         color: Theme.gray
     }
 
     ActionButton {
+        id: browse
+
         width: parent.width
         icon: "doc.badge.plus"
-        text: qsTr("Browse and Import Config")
+        text: "Browse and Import Config"
         ground: Theme.blue
         onPressed: card.settings.openConfigFilePicker()
     }
@@ -39,11 +46,13 @@ SectionCard {
     NoticeRow {
         visible: card.settings.configPath.length > 0
         icon: "checkmark.circle.fill"
-        text: qsTr("Selected: ") + card.settings.configFileName
+        text: card.settings.selectedFileLine
         isGood: true
     }
 
     NoticeRow {
+        id: notice
+
         visible: card.settings.statusMessage.length > 0
         icon: card.settings.showSuccess ? "checkmark.circle" : "exclamationmark.circle"
         text: card.settings.statusMessage

@@ -13,7 +13,7 @@ SectionCard {
     readonly property color ink: settings.isAgentRunning ? Theme.green : Theme.red
 
     icon: "antenna.radiowaves.left.and.right"
-    title: qsTr("Agent Status")
+    title: "Agent Status"
 
     Row {
         spacing: Theme.spacing
@@ -45,7 +45,7 @@ SectionCard {
         ActionButton {
             width: buttons.buttonWidth
             icon: "play.fill"
-            text: qsTr("Start Agent")
+            text: "Start Agent"
             padding: 8
             ground: Theme.green
             onPressed: card.settings.startAgent()
@@ -54,7 +54,7 @@ SectionCard {
         ActionButton {
             width: buttons.buttonWidth
             icon: "stop.fill"
-            text: qsTr("Stop Agent")
+            text: "Stop Agent"
             padding: 8
             ground: Theme.red
             onPressed: card.settings.stopAgent()

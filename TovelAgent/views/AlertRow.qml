@@ -29,21 +29,19 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.spacing
 
-        Label {
+        WrappedLabel {
             width: parent.width
             text: row.alert.alertType
             size: 13
             font.weight: Font.DemiBold
-            wrapMode: Text.Wrap
         }
 
-        Label {
+        WrappedLabel {
             visible: row.alert.hasDescription
             width: parent.width
             text: row.alert.description
             size: 11
             color: Theme.gray
-            wrapMode: Text.Wrap
         }
     }
 }

@@ -18,7 +18,7 @@ Item {
         sourceComponent: EmptyState {
             icon: "checkmark.circle"
             iconColor: Theme.green
-            text: qsTr("No threats detected")
+            text: "No threats detected"
         }
     }
 
@@ -26,7 +26,7 @@ Item {
         anchors.fill: parent
         active: !tab.isEmpty
         sourceComponent: PlainList {
-            label: qsTr("Alerts")
+            label: "Alerts"
             model: tab.viewModel.alerts // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row

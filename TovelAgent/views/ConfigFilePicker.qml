@@ -6,8 +6,8 @@ import QtQuick.Dialogs
 
 /// The open dialog for a configuration file; the desktop's own if it has one.
 FileDialog {
-    title: qsTr("Select config.toml file")
-    acceptLabel: qsTr("Import")
+    title: "Select config.toml file"
+    acceptLabel: "Import"
     fileMode: FileDialog.OpenFile
-    nameFilters: [qsTr("Configuration files (*.toml *.txt)"), qsTr("All files (*)")]
+    nameFilters: ["Configuration files (*.toml *.txt)", "All files (*)"]
 }

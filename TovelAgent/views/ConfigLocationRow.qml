@@ -32,12 +32,11 @@ Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
             }
 
-            Label {
+            ElidedLabel {
                 text: row.path
                 size: 12
                 font.weight: Font.DemiBold
                 color: Theme.black
-                maximumLineCount: 1
                 anchors.verticalCenter: parent.verticalCenter
             }
         }

@@ -15,11 +15,11 @@ Item {
     readonly property alias headerHeight: headerBand.height
 
     readonly property var tabs: [
-        { identifier: "dashboard", title: qsTr("Dashboard"), icon: "square.grid.2x2" },
-        { identifier: "network", title: qsTr("Network"), icon: "network" },
-        { identifier: "inventory", title: qsTr("Inventory"), icon: "rectangle.stack" },
-        { identifier: "alerts", title: qsTr("Alerts"), icon: "bell.badge" },
-        { identifier: "settings", title: qsTr("Settings"), icon: "gear" }
+        { identifier: "dashboard", title: "Dashboard", icon: "square.grid.2x2" },
+        { identifier: "network", title: "Network", icon: "network" },
+        { identifier: "inventory", title: "Inventory", icon: "rectangle.stack" },
+        { identifier: "alerts", title: "Alerts", icon: "bell.badge" },
+        { identifier: "settings", title: "Settings", icon: "gear" }
     ]
 
     readonly property bool onScreen: Window.visibility !== Window.Hidden

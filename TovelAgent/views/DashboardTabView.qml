@@ -10,7 +10,7 @@ ScrollPage {
 
     required property DashboardViewModel viewModel
 
-    label: qsTr("Dashboard")
+    label: "Dashboard"
     spacing: 20
 
     Repeater {

@@ -20,8 +20,16 @@ void FocusFollower::setTarget(QQuickItem* target) {
   target_ = target;
   if (target_) {
     connect(target_, &QQuickItem::windowChanged, this, &FocusFollower::watch);
+    connect(target_, &QQuickItem::heightChanged, this, &FocusFollower::keepInView);
+    // A Flickable's own signal: its class is not public.
+    connect(target_, SIGNAL(contentHeightChanged()), this, SLOT(keepInView()));
     watch(target_->window());
   }
+}
+
+void FocusFollower::reveal(QQuickItem* item) {
+  item_ = item;
+  keepInView();
 }
 
 void FocusFollower::watch(QQuickWindow* window) {
@@ -30,18 +38,18 @@ void FocusFollower::watch(QQuickWindow* window) {
   }
   window_ = window;
   if (window_) {
-    connect(window_, &QQuickWindow::activeFocusItemChanged, this, &FocusFollower::follow);
+    connect(window_, &QQuickWindow::activeFocusItemChanged, this, &FocusFollower::followFocus);
   }
 }
 
-void FocusFollower::follow() const {
-  const auto* const content =
-      target_ ? target_->property("contentItem").value<QQuickItem*>() : nullptr;
-  const auto* const item = window_->activeFocusItem();
-  if (content == nullptr || item == nullptr || !content->isAncestorOf(item)) {
+void FocusFollower::followFocus() { reveal(window_->activeFocusItem()); }
+
+void FocusFollower::keepInView() const {
+  const auto* const content = target_->property("contentItem").value<QQuickItem*>();
+  if (content == nullptr || !item_ || !content->isAncestorOf(item_)) {
     return;
   }
-  const auto place = item->mapRectToItem(content, item->boundingRect());
+  const auto place = item_->mapRectToItem(content, item_->boundingRect());
   const auto last = std::max(0.0, target_->property("contentHeight").toReal() - target_->height());
   const auto lowest = place.top() - margin;
   const auto highest = place.bottom() + margin - target_->height();

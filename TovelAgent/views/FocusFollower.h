@@ -11,8 +11,9 @@
 
 namespace quillmark {
 
-/// Scrolls a Flickable so that the item in it that has the keyboard focus is in
-/// view. UI thread only.
+/// Scrolls a Flickable so that what matters in it is in view: the item with the
+/// keyboard focus, or one that was revealed since. It stays so when the view or
+/// what is in it changes its size. UI thread only.
 class FocusFollower : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -24,12 +25,19 @@ class FocusFollower : public QObject {
   [[nodiscard]] QQuickItem* target() const { return target_; }
   void setTarget(QQuickItem* target);
 
+  /// Brings `item`, which lies in the target, into view.
+  Q_INVOKABLE void reveal(QQuickItem* item);
+
+ private Q_SLOTS:
+  void keepInView() const;
+
  private:
   void watch(QQuickWindow* window);
-  void follow() const;
+  void followFocus();
 
   QPointer<QQuickItem> target_;
   QPointer<QQuickWindow> window_;
+  QPointer<QQuickItem> item_;
 };
 
 }  // namespace quillmark

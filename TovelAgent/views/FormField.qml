@@ -25,8 +25,18 @@ Column {
         color: Theme.gray
     }
 
-    T.TextField {
+    component Entry: T.TextField {
+        id: entry
+
+        property alias content: entry.text
+    }
+
+    Entry {
         id: input
+
+        // Qt hands assistive technology whatever `text` is, also of a masked
+        // field. There it shall be what everyone sees.
+        property string text: displayText
 
         width: parent.width
         implicitHeight: contentHeight + topPadding + bottomPadding
@@ -39,11 +49,12 @@ Column {
         selectionColor: Theme.blue
         selectedTextColor: Theme.white
         selectByMouse: true
-        text: field.value
-        onTextEdited: field.edited(text)
+        content: field.value
+        onTextEdited: field.edited(content)
+        // Drawn below; this one is told to assistive technology alone.
+        placeholderText: field.placeholder
 
         Accessible.name: field.label
-        Accessible.description: field.placeholder
 
         background: Rectangle {
             radius: Theme.sectionRadius

@@ -34,14 +34,14 @@ Item {
                 spacing: Theme.spacing
 
                 Label {
-                    text: qsTr("Quillmark Agent")
+                    text: "Quillmark Agent"
                     size: 20
                     font.weight: Font.Bold
                     color: Theme.black
                 }
 
                 Label {
-                    text: qsTr("Endpoint Detection & Response")
+                    text: "Endpoint Detection & Response"
                     size: 12
                     color: Theme.gray
                 }
@@ -52,13 +52,13 @@ Item {
             spacing: 20
 
             StatusBadge {
-                title: qsTr("Status")
+                title: "Status"
                 value: header.status.status
                 isHealthy: header.status.statusIsHealthy
             }
 
             StatusBadge {
-                title: qsTr("Threats")
+                title: "Threats"
                 value: header.status.threats
                 isHealthy: header.status.threatsAreHealthy
             }
@@ -75,17 +75,18 @@ Item {
 
         Label {
             anchors.right: parent.right
-            text: qsTr("Last Scan")
+            text: "Last Scan"
             size: 11
             color: Theme.gray
         }
 
-        Label {
+        ElidedLabel {
             anchors.right: parent.right
             text: header.status.lastScan
             size: 13
             font.weight: Font.DemiBold
             color: Theme.black
+            maximumWidth: Theme.headerTextWidth
         }
     }
 }

@@ -12,20 +12,18 @@ Column {
 
     spacing: 4
 
-    Label {
+    WrappedLabel {
         width: parent.width
         text: row.app.name
         size: 13
         font.weight: Font.DemiBold
-        wrapMode: Text.Wrap
     }
 
-    Label {
+    WrappedLabel {
         visible: row.app.hasVersion
         width: parent.width
         text: row.app.version
         size: 11
         color: Theme.gray
-        wrapMode: Text.Wrap
     }
 }

@@ -38,21 +38,19 @@ Item {
         anchors.right: parent.right
         spacing: 2
 
-        Label {
+        WrappedLabel {
             width: parent.width
             text: step.title
             size: 12
             font.weight: Font.DemiBold
             color: Theme.black
-            wrapMode: Text.Wrap
         }
 
-        Label {
+        WrappedLabel {
             width: parent.width
             text: step.description
             size: 11
             color: Theme.gray
-            wrapMode: Text.Wrap
         }
     }
 }

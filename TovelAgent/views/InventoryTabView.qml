@@ -16,7 +16,7 @@ Item {
     Label {
         visible: tab.viewModel.hasInventory && tab.isEmpty
         anchors.centerIn: parent
-        text: qsTr("Loading applications...")
+        text: "Loading applications..."
         color: Theme.gray
     }
 
@@ -24,7 +24,7 @@ Item {
         anchors.fill: parent
         active: !tab.isEmpty
         sourceComponent: PlainList {
-            label: qsTr("Installed applications")
+            label: "Installed applications"
             model: tab.viewModel.apps // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row

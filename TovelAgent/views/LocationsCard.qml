@@ -6,20 +6,20 @@ import QtQuick
 /// Where the agent looks for its configuration.
 SectionCard {
     icon: "folder"
-    title: qsTr("Config File Locations")
+    title: "Config File Locations"
 
     ConfigLocationRow {
         path: "~/.config/quillmark/config.toml"
-        description: qsTr("Recommended - User configuration")
+        description: "Recommended - User configuration"
     }
 
     ConfigLocationRow {
         path: "/Library/Quillmark/config.toml"
-        description: qsTr("macOS system configuration")
+        description: "macOS system configuration"
     }
 
     ConfigLocationRow {
         path: "/etc/quillmark/config.toml"
-        description: qsTr("System-wide configuration")
+        description: "System-wide configuration"
     }
 }

@@ -19,24 +19,22 @@ Item {
         width: state.x - Theme.spacing
         spacing: 4
 
-        Label {
+        WrappedLabel {
             width: parent.width
             text: row.connection.localEndpoint
             size: 13
             font.weight: Font.DemiBold
-            elide: Text.ElideRight
         }
 
-        Label {
+        WrappedLabel {
             width: parent.width
             text: row.connection.remoteEndpoint
             size: 12
             color: Theme.gray
-            elide: Text.ElideRight
         }
     }
 
-    Label {
+    WrappedLabel {
         id: state
 
         anchors.right: parent.right
@@ -45,6 +43,6 @@ Item {
         text: row.connection.state
         size: 11
         color: Theme.blue
-        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignRight
     }
 }

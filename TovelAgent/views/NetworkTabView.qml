@@ -18,7 +18,7 @@ Item {
         sourceComponent: EmptyState {
             icon: "network"
             iconColor: Theme.gray
-            text: qsTr("No network connections detected")
+            text: "No network connections detected"
         }
     }
 
@@ -26,7 +26,7 @@ Item {
         anchors.fill: parent
         active: !tab.isEmpty
         sourceComponent: PlainList {
-            label: qsTr("Network connections")
+            label: "Network connections"
             model: tab.viewModel.networkConnections // qmllint disable unqualified
             delegate: PlainListRow {
                 id: row

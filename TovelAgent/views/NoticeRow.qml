@@ -18,6 +18,9 @@ Rectangle {
     radius: Theme.noticeRadius
     color: isGood ? Theme.successTint : Theme.errorTint
 
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+
     SymbolIcon {
         id: symbol
 
@@ -28,7 +31,7 @@ Rectangle {
         color: notice.ink
     }
 
-    Label {
+    WrappedLabel {
         id: label
 
         anchors.left: symbol.right
@@ -39,6 +42,5 @@ Rectangle {
         text: notice.text
         size: 11
         color: notice.ink
-        wrapMode: Text.Wrap
     }
 }

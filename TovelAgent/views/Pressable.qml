@@ -23,7 +23,8 @@ Item {
     Accessible.name: label
     Accessible.focusable: true
     Accessible.focused: activeFocus
-    Accessible.onPressAction: pressed()
+    // Assistive technology presses what is disabled, too.
+    Accessible.onPressAction: if (enabled) pressed()
 
     TapHandler {
         onTapped: pressable.pressed()

@@ -11,25 +11,25 @@ SectionCard {
     required property SettingsState settings
 
     icon: "key.fill"
-    title: qsTr("Quick Setup")
+    title: "Quick Setup"
     spacing: 10
 
     Label {
-        text: qsTr("Paste your API key from the dashboard to connect")
+        text: "Paste your API key from the dashboard to connect"
         size: 12
         color: Theme.gray
     }
 
     FormField {
-        label: qsTr("Server URL")
+        label: "Server URL"
         placeholder: card.settings.defaultServerUrl
         value: card.settings.serverUrl
         onEdited: text => card.settings.serverUrl = text
     }
 
     FormField {
-        label: qsTr("API Key")
-        placeholder: qsTr("Paste your API key here")
+        label: "API Key"
+        placeholder: "Paste your API key here"
         value: card.settings.apiKeyInput
         echoMode: TextInput.Password
         onEdited: text => card.settings.apiKeyInput = text
@@ -39,16 +39,15 @@ SectionCard {
         width: parent.width
         enabled: card.settings.canSave
         icon: "checkmark.circle.fill"
-        text: qsTr("Save & Connect")
+        text: "Save & Connect"
         ground: enabled ? Theme.blue : Theme.gray
         onPressed: card.settings.saveApiKey()
     }
 
-    Label {
+    WrappedLabel {
         width: parent.width
         text: card.settings.keyHelp
         size: 10
         color: Theme.blue
-        wrapMode: Text.Wrap
     }
 }

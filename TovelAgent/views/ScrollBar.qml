@@ -9,9 +9,11 @@ import QtQuick.Templates as T
 T.ScrollBar {
     id: bar
 
-    implicitWidth: 12
+    implicitWidth: 14
     minimumSize: 24 / Math.max(24, height)
     padding: 3
+    // At the window's edge, where the pointer resizes, it could not be held.
+    rightPadding: 5
     visible: size < 1
 
     // What it does, the keyboard does at what it scrolls.

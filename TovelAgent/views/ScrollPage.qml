@@ -14,6 +14,11 @@ Flickable {
     property int padding: 20
     property alias spacing: column.spacing
 
+    /// Scrolls until `item`, which lies in the page, is in view.
+    function reveal(item: Item) {
+        follower.reveal(item);
+    }
+
     contentWidth: width
     contentHeight: column.height + 2 * padding
     boundsBehavior: Flickable.StopAtBounds
@@ -38,6 +43,8 @@ Flickable {
     }
 
     FocusFollower {
+        id: follower
+
         target: page
     }
 

@@ -15,12 +15,19 @@ Rectangle {
         id: settings
 
         Component.onCompleted: appear()
-        onPickerRequested: picker.active ? picker.item.open() : picker.active = true
+        onPickerRequested: {
+            if (picker.active)
+                picker.item.open();
+            picker.active = true;
+        }
+        onStatusChanged: page.reveal(advanced.notice)
     }
 
     ScrollPage {
+        id: page
+
         anchors.fill: parent
-        label: qsTr("Settings")
+        label: "Settings"
         spacing: 20
 
         AgentStatusCard {
@@ -32,6 +39,8 @@ Rectangle {
         }
 
         AdvancedCard {
+            id: advanced
+
             settings: settings
         }
 
@@ -52,6 +61,13 @@ Rectangle {
 
         function onAccepted() {
             settings.fileChosen(picker.item.selectedFile);
+        }
+
+        // Qt's own dialog leaves the keyboard with nobody.
+        function onVisibleChanged() {
+            if (!picker.item.visible) {
+                advanced.browse.forceActiveFocus();
+            }
         }
     }
 }

@@ -15,7 +15,7 @@ Column {
 
     Accessible.role: Accessible.Grouping
     Accessible.name: title
-    Accessible.description: isHealthy ? qsTr("Healthy") : qsTr("Needs attention")
+    Accessible.description: isHealthy ? "Healthy" : "Needs attention"
 
     Label {
         text: badge.title
@@ -35,11 +35,12 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
         }
 
-        Label {
+        ElidedLabel {
             text: badge.value
             size: 14
             font.weight: Font.DemiBold
             color: Theme.black
+            maximumWidth: Theme.headerTextWidth
         }
     }
 }

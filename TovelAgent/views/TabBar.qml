@@ -18,7 +18,7 @@ Rectangle {
     color: Theme.panelTint
 
     Accessible.role: Accessible.PageTabList
-    Accessible.name: qsTr("Tabs")
+    Accessible.name: "Tabs"
 
     Row {
         id: row
@@ -44,7 +44,6 @@ Rectangle {
                 onPressed: bar.tabTapped(modelData.identifier)
 
                 KeyNavigation.left: buttons.itemAt(index - 1)
-                KeyNavigation.right: buttons.itemAt(index + 1)
 
                 Shortcut {
                     sequence: "Ctrl+" + (button.index + 1)

@@ -11,11 +11,12 @@ import pytest
 # Before its import: assertions in there shall say what they compared.
 pytest.register_assert_rewrite("harness")
 
-from harness import bodies, tokens
+from harness import bodies, processes, settings, tokens
 from harness.backend import Backend
 from harness.display import Display
 from harness.panel import Panel
 from harness.screen import BUILD, save
+from harness.waiting import until
 
 TOKEN = "0123456789abcdef"
 
@@ -56,17 +57,49 @@ def panel(display, token, backend):
 
 
 @pytest.fixture
-def launch(display, backend):
-    """A fresh panel: it polls at once, which is quicker than the next poll."""
+def launch_alone(display):
+    """A fresh panel, and nothing at the agent's place but what a test puts there."""
     with contextlib.ExitStack() as panels:
 
-        def start(contents=(), **environment):
-            backend.reply(**(bodies.everyday() | dict(contents)))
-            panel = Panel(**environment)
+        def start(*prefix, **environment):
+            panel = Panel(*prefix, **environment)
             panels.callback(panel.finish)
             return panel.opened()
 
         yield start
+
+
+@pytest.fixture
+def launch(launch_alone, backend):
+    """A fresh panel: it polls at once, which is quicker than the next poll."""
+
+    def start(contents=(), **environment):
+        backend.reply(**(bodies.everyday() | dict(contents)))
+        return launch_alone(**environment)
+
+    return start
+
+
+@pytest.fixture
+def fresh_home():
+    """No configuration, no log folder, no token, no agent."""
+    settings.clean_home()
+    yield
+    processes.end_agents()
+    settings.clean_home()
+    tokens.remove(tokens.SYSTEM)
+
+
+@pytest.fixture
+def tab(panel):
+    """The Settings tab as it comes up without a configuration."""
+    settings.clean_home()
+    # High enough for all of it.
+    panel.window.resize(1000, 1150)
+    until(lambda: panel.window.box.height == 1150, "a taller window")
+    settings.enter(panel)
+    yield panel
+    settings.clean_home()
 
 
 @pytest.hookimpl(hookwrapper=True)

@@ -19,7 +19,18 @@ CONTENT = {
     "Network": [*ADDRESSES, *["→ 10.0.0.5:443"] * 3, "ESTABLISHED", "LISTEN", "ESTABLISHED"],
     "Inventory": ["Files", "v43.2", "Terminal"],
     "Alerts": ["malware", "A bad file", "policy"],
-    "Settings": [],
+    "Settings": [
+        "Agent Status", "Agent is not running", "Start Agent", "Stop Agent",
+        "Quick Setup", "Paste your API key from the dashboard to connect", "Server URL",
+        "API Key", "Save & Connect",
+        "Get your API key from: https://console.quillmark.example/agent/start",
+        "Advanced Configuration", "Import config.toml",
+        "Select your config.toml file to configure the agent", "Browse and Import Config",
+        "Config File Locations",
+        "~/.config/quillmark/config.toml", "Recommended - User configuration",
+        "/Library/Quillmark/config.toml", "macOS system configuration",
+        "/etc/quillmark/config.toml", "System-wide configuration",
+    ],
 }
 LISTS = {
     "Network": ("Network connections", [
@@ -34,7 +45,7 @@ LISTS = {
 
 @pytest.fixture(autouse=True)
 def filled(panel):
-    panel.window.resize(1000, 1000)
+    panel.window.resize(1000, 1150)
     panel.tree.wait_for("text", "OK")
 
 
@@ -51,7 +62,9 @@ def test_controls(panel, tab):
     (bar,) = tree.every("tab list")
     assert [t.name for t in bar.every("tab")] == TABS == [t.name for t in tree.every("tab")]
     assert [t.name for t in tree.every("tab") if "selected" in t.states] == [tab]
-    assert {b.name for b in tree.every("button")} == {"Minimize", "Maximize", "Close"}
+    buttons = {b.name for b in tree.every("button")} - {"Minimize", "Maximize", "Close"}
+    assert buttons == ({"Start Agent", "Stop Agent", "Save & Connect", "Browse and Import Config"}
+                       if tab == "Settings" else set())
     # What takes the focus says what it is.
     assert all(i.name for i in tree.walk() if i.role in ("tab", "button", "list", "row"))
 

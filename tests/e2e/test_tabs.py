@@ -18,6 +18,7 @@ SIGNS = {
     "Network": ("list", "Network connections"),
     "Inventory": ("list", "Installed applications"),
     "Alerts": ("list", "Alerts"),
+    "Settings": ("group", "Quick Setup"),
 }
 
 
@@ -92,17 +93,6 @@ def test_focus_is_visible(panel):
     focused = list(Picture().pixels(around))
     panel.press_until_focused("tab", "Alerts", key="shift+Tab", most=1)
     until(lambda: list(Picture().pixels(around)) != focused, "the focus to be drawn")
-
-
-def test_settings_shows_nothing_yet(panel):
-    panel.show("Settings")
-    shows_only(panel, "Settings")
-    hands.park()
-    tree = panel.tree.read()
-    bar, window = tree.every("tab list")[0].box, tree.every("window")[0].box
-    content = Box(window.x + 4, bar.bottom + 8, window.width - 8, window.bottom - bar.bottom - 12)
-    assert len(Picture().colours(content)) == 1
-    assert not [i for i in tree.walk() if i.box.y >= bar.bottom]
 
 
 def test_tab_comes_back_with_the_latest_data_without_asking(panel, backend):

@@ -62,8 +62,7 @@ void Connection::staySilent() {
 
 void Connection::reset() {
   socket_.set_option(asio::socket_base::linger(true, 0));
-  error_code ignored;
-  socket_.close(ignored);
+  resets_ = true;
 }
 
 std::string okAnswer(std::string_view body) { return answer("200 OK", body); }
@@ -123,6 +122,7 @@ void Backend::acceptAll() {
 void Backend::serve(tcp::socket& socket) {
   asio::streambuf buffer;
   error_code error;
+  bool orderly = true;
   const auto size = asio::read_until(socket, buffer, "\r\n\r\n", error);
   if (!error) {
     const auto* const first = static_cast<const char*>(buffer.data().data());
@@ -133,9 +133,12 @@ void Backend::serve(tcp::socket& socket) {
     }
     Connection connection(socket, stopping_);
     handler_(request, connection);
+    orderly = !connection.resets();
   }
   error_code ignored;
-  socket.shutdown(tcp::socket::shutdown_both, ignored);
+  if (orderly) {
+    socket.shutdown(tcp::socket::shutdown_both, ignored);
+  }
   const std::lock_guard lock(mutex_);
   socket.close(ignored);
 }

@@ -41,12 +41,15 @@ class Connection {
   void pause(std::chrono::milliseconds time) const;
   /// Says nothing until the peer goes or the backend stops.
   void staySilent();
-  /// Ends the connection with a reset in place of an orderly close.
+  /// Has the connection end with a reset, once the handler returns, in place of
+  /// an orderly close.
   void reset();
+  [[nodiscard]] bool resets() const { return resets_; }
 
  private:
   boost::asio::ip::tcp::socket& socket_;
   const std::atomic<bool>& stopping_;
+  bool resets_ = false;
 };
 
 /// A whole 200 answer with this JSON body.

@@ -6,7 +6,7 @@ A tree is read whole into plain values, so that a test never asks a control
 that a poll has replaced meanwhile.
 """
 
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 
 from gi.repository import GLib
 
@@ -16,13 +16,17 @@ from .window import Box
 
 # Numbers of the accessibility protocol.
 ROLES = {
+    16: "dialog",
     23: "window",
     29: "text",
     31: "list",
     32: "row",
     37: "tab",
     38: "tab list",
+    39: "group",
+    40: "password",
     43: "button",
+    61: "field",
     75: "application",
     116: "text",
 }
@@ -36,6 +40,8 @@ class Item:
     box: Box
     states: frozenset
     children: tuple
+    # Where to ask it for more; another time it may be another object.
+    address: tuple = field(default=None, compare=False, repr=False)
 
     def walk(self):
         yield self
@@ -67,10 +73,11 @@ def _children(answers):
     return children if "showing" in _states(low) else []
 
 
-def _item(answers, children):
+def _item(address, answers, children):
     (role,), (name,), ((low, _),), (extents,), _ = answers
     shown = tuple(child for child in children if "showing" in child.states)
-    return Item(ROLES.get(role, f"role {role}"), name, Box(*extents), _states(low), shown)
+    role = ROLES.get(role, f"role {role}")
+    return Item(role, name, Box(*extents), _states(low), shown, address)
 
 
 def _read(bus, root):
@@ -78,11 +85,11 @@ def _read(bus, root):
     levels = []
     nodes = [root]
     while nodes:
-        levels.append(bus.describe(nodes))
-        nodes = [child for answers in levels[-1] for child in _children(answers)]
+        levels.append(list(zip(nodes, bus.describe(nodes))))
+        nodes = [child for _, answers in levels[-1] for child in _children(answers)]
     below = iter(())
     for level in reversed(levels):
-        below = iter([_item(a, [next(below) for _ in _children(a)]) for a in level])
+        below = iter([_item(n, a, [next(below) for _ in _children(a)]) for n, a in level])
     return next(below)
 
 
@@ -112,3 +119,19 @@ class Tree:
 
     def wait_without(self, role, name):
         until(lambda: not self.find(role, name), f"{role} {name!r} to be gone")
+
+    def text(self, item):
+        """What a field holds, or what a screen reader is told instead."""
+        return self._bus.text(item.address)
+
+    def press(self, item):
+        """As assistive technology does, whatever the state of the item."""
+        self._bus.press(item.address)
+
+    def words(self):
+        """Everything that anything showing says of itself, in any property."""
+        return [self._bus.words(item.address) for item in self.read().walk()]
+
+    def listen(self):
+        """What is announced from now on, as it comes."""
+        return self._bus.listen()

@@ -12,8 +12,12 @@ ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 COMPONENT = "org.a11y.atspi.Component"
+ACTION = "org.a11y.atspi.Action"
+TEXT = "org.a11y.atspi.Text"
+VALUE = "org.a11y.atspi.Value"
 SCREEN = GLib.Variant("(u)", (0,))
 NAME = GLib.Variant("(ss)", (ACCESSIBLE, "Name"))
+WHOLE = GLib.Variant("(ii)", (0, -1))
 
 # What is asked about every node, in the order in which `describe` answers.
 QUESTIONS = (
@@ -56,6 +60,37 @@ class Bus:
         """The answers to QUESTIONS for each node, all asked at once."""
         answers = iter(self._ask([(node, q) for node in nodes for q in QUESTIONS]))
         return list(zip(*[answers] * len(QUESTIONS)))
+
+    def text(self, node):
+        return self._ask([(node, (TEXT, "GetText", WHOLE))])[0][0]
+
+    def press(self, node):
+        self._ask([(node, (ACTION, "DoAction", GLib.Variant("(i)", (0,))))])
+
+    def words(self, node):
+        """Every text that a node has for whoever asks."""
+        asked = [
+            (PROPERTIES, "Get", GLib.Variant("(ss)", (ACCESSIBLE, name)))
+            for name in ("Name", "Description")
+        ]
+        asked += [(ACCESSIBLE, "GetAttributes", None), (ACCESSIBLE, "GetInterfaces", None)]
+        ((interfaces,),) = self._ask([(node, asked[-1])])
+        if TEXT in interfaces:
+            asked.append((TEXT, "GetText", WHOLE))
+        if VALUE in interfaces:
+            asked.append((PROPERTIES, "GetAll", GLib.Variant("(s)", (VALUE,))))
+        return repr(self._ask([(node, question) for question in asked]))
+
+    def listen(self):
+        """A list that grows with every event any program announces."""
+        heard = []
+        registry = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
+        self._ask([(registry, (registry[0], "RegisterEvent", GLib.Variant("(s)", ("object:",))))])
+        self._connection.signal_subscribe(
+            None, "org.a11y.atspi.Event.Object", None, None, None, Gio.DBusSignalFlags.NONE,
+            lambda *event: heard.append((event[4], event[5].unpack())),
+        )
+        return heard
 
     def _ask(self, calls):
         answers = [None] * len(calls)

@@ -11,6 +11,11 @@ def key(*names, times=1):
     tool("xdotool", "key", *repeat, *names)
 
 
+def write(text):
+    """Slowly enough for a window that is asked about every key."""
+    tool("xdotool", "type", "--delay", "8", text)
+
+
 def click(box, times=1):
     x, y = box.centre
     repeat = ["--repeat", str(times), "--delay", "60"] if times > 1 else []
@@ -26,10 +31,14 @@ def drag(start, by, steps=8):
     tool("xdotool", "mousemove", *map(str, start), "mousedown", "1", *moves, "mouseup", "1")
 
 
-def wheel_down(box, notches):
+def wheel_down(box, notches, button=5):
     x, y = box.centre
     tool("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(notches),
-         "--delay", "10", "5")
+         "--delay", "10", str(button))
+
+
+def wheel_up(box, notches):
+    wheel_down(box, notches, button=4)
 
 
 def park():

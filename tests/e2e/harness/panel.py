@@ -3,6 +3,7 @@
 """The built panel as a running process."""
 
 import os
+import re
 import subprocess
 import tempfile
 
@@ -16,14 +17,15 @@ EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(
 )
 
 
-def spawn(output, **changes):
-    """Starts the executable; an environment value of None takes it away."""
+def spawn(output, *prefix, **changes):
+    """Starts the executable, behind the prefix if there is one; an environment
+    value of None takes it away."""
     environment = os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | changes
     environment = {k: v for k, v in environment.items() if v is not None}
     # The tests look at a real window, whatever the unit tests were told.
     environment.pop("QT_QPA_PLATFORM", None)
     return subprocess.Popen(
-        [EXECUTABLE], env=environment, stdin=subprocess.DEVNULL,
+        [*prefix, EXECUTABLE], env=environment, stdin=subprocess.DEVNULL,
         stdout=output, stderr=subprocess.STDOUT,
     )
 
@@ -31,10 +33,12 @@ def spawn(output, **changes):
 class Panel:
     running = []
 
-    def __init__(self, **changes):
+    def __init__(self, *prefix, **changes):
         self._output = tempfile.TemporaryFile()
+        # What a shell that the panel starts has to say, as a pattern.
+        self.expected_output = ""
         hands.park()
-        self.process = spawn(self._output, **changes)
+        self.process = spawn(self._output, *prefix, **changes)
         self.pid = self.process.pid
         self.tree = Tree(self.pid)
         Panel.running.append(self)
@@ -85,11 +89,9 @@ class Panel:
         raise AssertionError(f"{key} does not reach {role} {name!r}")
 
     def focus(self):
-        """What has the keyboard, below the window itself."""
-        tree = self.tree.read()
-        return next(
-            (i for i in tree.walk() if "focused" in i.states and i.role != "window"), None
-        )
+        """What has the keyboard, below the window itself; innermost."""
+        focused = [i for i in self.tree.read().walk() if "focused" in i.states]
+        return focused[-1] if focused and focused[-1].role != "window" else None
 
     def finish(self):
         """Quits as a user does; a panel that crashed or spoke fails the test."""
@@ -108,7 +110,9 @@ class Panel:
             assert self.process.returncode == 0, "the panel's exit code"
         finally:
             self.dismiss()
-            assert self.output() == "", "the panel has nothing to complain about"
+            said = self.output()
+            if not re.fullmatch(self.expected_output, said):
+                assert said == self.expected_output, "the panel has nothing to complain about"
 
     def dismiss(self):
         if not self.ended():

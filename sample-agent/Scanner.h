@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+#include "AgentConfig.h"
+#include "Snapshot.h"
+#include "checks/AlertHistory.h"
+#include "checks/SetUidFiles.h"
+#include "model/ThreatAlert.h"
+#include "scan/Applications.h"
+#include "scan/Processes.h"
+#include "scan/Sockets.h"
+#include "scan/SystemPaths.h"
+
+namespace quillmark::sample {
+
+struct ScanResult {
+  std::shared_ptr<const Snapshot> snapshot;
+  std::vector<std::string> notes;  ///< what the scan could not do, for the log
+};
+
+/// Looks at the machine once per call, and remembers between the calls what
+/// was seen before. One thread at a time.
+class Scanner final {
+ public:
+  Scanner(SystemPaths paths, const AgentConfig& config, const WalkLimits& limits = {});
+  Scanner(const Scanner&) = delete;
+  Scanner& operator=(const Scanner&) = delete;
+
+  /// Reads processes, sockets, packages and folders; takes from some tens of
+  /// milliseconds to some seconds. `stop` makes it end early with a result that
+  /// is not worth publishing.
+  [[nodiscard]] ScanResult scan(std::chrono::system_clock::time_point now,
+                                const std::stop_token& stop);
+
+ private:
+  [[nodiscard]] std::vector<ThreatAlert> runChecks(const std::vector<Process>& processes,
+                                                   const std::vector<Socket>& sockets,
+                                                   const std::stop_token& stop,
+                                                   std::vector<std::string>& notes) const;
+  [[nodiscard]] std::string encodedStatus(const std::vector<ThreatAlert>& alerts,
+                                          std::chrono::system_clock::time_point now) const;
+
+  const SystemPaths paths_;
+  const AgentConfig config_;
+  const WalkLimits limits_;
+  ApplicationReader applications_;
+  AlertHistory history_;
+};
+
+}  // namespace quillmark::sample

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Server.h"
+
+#include <map>
+#include <utility>
+
+#include <boost/asio/co_spawn.hpp>
+#include <boost/asio/detached.hpp>
+#include <boost/asio/redirect_error.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/use_awaitable.hpp>
+#include <boost/scope_exit.hpp>
+
+#include "AgentAddress.h"
+#include "HttpConversation.h"
+#include "RequestRule.h"
+
+namespace quillmark::sample {
+namespace {
+
+namespace asio = boost::asio;
+using asio::ip::tcp;
+using ErrorCode = boost::system::error_code;
+
+/// The open connections by their number, and so the oldest first.
+using Connections = std::map<std::uint64_t, std::shared_ptr<tcp::socket>>;
+
+void close(tcp::socket& socket) {
+  ErrorCode ignored;
+  socket.close(ignored);
+}
+
+}  // namespace
+
+struct Server::State {
+  State(tcp::acceptor listener, std::string secret, ServerLimits costs)
+      : acceptor(std::move(listener)), token(std::move(secret)), limits(costs) {}
+
+  tcp::acceptor acceptor;
+  const std::string token;
+  const ServerLimits limits;
+  std::shared_ptr<const Snapshot> snapshot;
+  Connections connections;
+  std::uint64_t connectionCount = 0;
+
+  static asio::awaitable<void> acceptClients(std::shared_ptr<State> state);
+  static asio::awaitable<void> serve(std::shared_ptr<State> state,
+                                     std::shared_ptr<tcp::socket> socket);
+
+  /// Whoever sends the request slowly, or takes the answer slowly, is the one
+  /// that has been here for longest.
+  void makeRoom() {
+    while (connections.size() >= limits.connections) {
+      close(*connections.begin()->second);
+      connections.erase(connections.begin());
+    }
+  }
+};
+
+asio::awaitable<void> Server::State::acceptClients(std::shared_ptr<State> state) {
+  constexpr auto pauseWithoutDescriptors = std::chrono::milliseconds(100);
+  const auto executor = state->acceptor.get_executor();
+  asio::steady_timer pause(executor);
+  ErrorCode error;
+  // A named token: GCC 12 destroys temporaries inside a co_await twice.
+  auto completion = asio::redirect_error(asio::use_awaitable, error);
+  while (state->acceptor.is_open()) {
+    auto socket = co_await state->acceptor.async_accept(completion);
+    if (error) {
+      pause.expires_after(pauseWithoutDescriptors);
+      co_await pause.async_wait(completion);
+      continue;
+    }
+    state->makeRoom();
+    auto serving = serve(state, std::make_shared<tcp::socket>(std::move(socket)));
+    asio::co_spawn(executor, std::move(serving), asio::detached);
+  }
+}
+
+asio::awaitable<void> Server::State::serve(std::shared_ptr<State> state,
+                                           std::shared_ptr<tcp::socket> socket) {
+  const std::uint64_t number = ++state->connectionCount;
+  state->connections.emplace(number, socket);
+  BOOST_SCOPE_EXIT_ALL(&state, number) { state->connections.erase(number); };
+  asio::steady_timer deadline(socket->get_executor(), state->limits.deadline);
+  deadline.async_wait([socket](const ErrorCode& cancelled) {
+    if (!cancelled) {
+      close(*socket);
+    }
+  });
+
+  // Held here, because the answer lies in it until all of it is sent.
+  const auto snapshot = state->snapshot;
+  AnswerRule rule = [&](const Request& request) {
+    return answerTo(request, state->token, *snapshot);
+  };
+  auto conversation = converse(*socket, state->limits.headerBytes, std::move(rule));
+  co_await std::move(conversation);
+}
+
+Server::Server(tcp::acceptor acceptor, std::string token, ServerLimits limits)
+    : state_(std::make_shared<State>(std::move(acceptor), std::move(token), limits)) {}
+
+Server::~Server() {
+  ErrorCode ignored;
+  state_->acceptor.close(ignored);
+}
+
+void Server::publish(std::shared_ptr<const Snapshot> snapshot) {
+  const bool isFirst = state_->snapshot == nullptr;
+  state_->snapshot = std::move(snapshot);
+  if (isFirst) {
+    asio::co_spawn(state_->acceptor.get_executor(), State::acceptClients(state_), asio::detached);
+  }
+}
+
+boost::system::result<tcp::acceptor> listenForClients(asio::io_context& context) {
+  const tcp::endpoint address(asio::ip::make_address_v4(agentAddress), agentPort);
+  tcp::acceptor acceptor(context);
+  ErrorCode error;
+  // Connections that linger from an earlier run are no hindrance; another
+  // listener still is one.
+  if (acceptor.open(address.protocol(), error) ||
+      acceptor.set_option(tcp::acceptor::reuse_address(true), error) ||
+      acceptor.bind(address, error) ||
+      acceptor.listen(tcp::acceptor::max_listen_connections, error)) {
+    return error;
+  }
+  return acceptor;
+}
+
+}  // namespace quillmark::sample

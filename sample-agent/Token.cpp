@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Token.h"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include <boost/scope_exit.hpp>
+#include <boost/system/errc.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "PrivateFile.h"
+#include "platform/Utf8.h"
+
+namespace quillmark::sample {
+namespace {
+
+using boost::system::error_code;
+using TokenResult = boost::system::result<std::string, Failure>;
+namespace errc = boost::system::errc;
+
+constexpr std::size_t tokenBytes = 32;
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
+
+Failure failure(const std::string& path, const error_code& error) {
+  return {path + ": " + error.message()};
+}
+
+Failure lastError(const std::string& path) {
+  return failure(path, {errno, boost::system::system_category()});
+}
+
+bool isToken(std::string_view text) {
+  return text.size() == 2 * tokenBytes &&
+         text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
+}
+
+/// What is wrong with the open file as a place for a secret.
+std::optional<Failure> unsafe(int descriptor, const std::string& path) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) {
+    return lastError(path);
+  }
+  if (!S_ISREG(status.st_mode)) {
+    return Failure{path + ": not a regular file"};
+  }
+  if (status.st_uid != geteuid()) {
+    return Failure{path + ": belongs to another user"};
+  }
+  const bool isOpenToOthers = (status.st_mode & ALLPERMS & ~ownerOnly) != 0;
+  if (isOpenToOthers && fchmod(descriptor, ownerOnly) != 0) {
+    return lastError(path);
+  }
+  return std::nullopt;
+}
+
+/// No value when there is no such file.
+std::optional<TokenResult> readToken(const std::string& path) {
+  const int descriptor =
+      open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (descriptor < 0 && errno == ENOENT) {
+    return std::nullopt;
+  }
+  if (descriptor < 0) {
+    return errno == ELOOP ? Failure{path + ": not a regular file"} : lastError(path);
+  }
+  BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
+  if (auto reason = unsafe(descriptor, path)) {
+    return std::move(*reason);
+  }
+
+  // Room for a token, the line break that an editor leaves, and more that then
+  // shows that the file is something else.
+  std::array<char, 2 * tokenBytes + 16> buffer{};
+  const ssize_t count = read(descriptor, buffer.data(), buffer.size());
+  if (count < 0) {
+    return lastError(path);
+  }
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(count));
+  const auto token = isUtf8(text) ? trimmed(text) : text;
+  if (!isToken(token) || text.size() == buffer.size()) {
+    return Failure{path +
+                   ": holds no token of this agent (64 hexadecimal digits); "
+                   "move it away to have a new one made"};
+  }
+  return TokenResult(boost::system::in_place_value, token);
+}
+
+}  // namespace
+
+std::string tokenPath(uid_t user, const std::string& home) {
+  return user == 0 ? "/var/run/quillmark/token" : home + "/.quillmark/token";
+}
+
+TokenResult loadOrMakeToken(const std::string& path) {
+  if (auto token = readToken(path)) {
+    return std::move(*token);
+  }
+  const auto error = makePrivateFile(path, randomHex(tokenBytes));
+  if (error && error != errc::file_exists) {
+    return failure(path, error);
+  }
+  // Also after having made it: whichever agent came first, both use what is there.
+  if (auto token = readToken(path)) {
+    return std::move(*token);
+  }
+  return Failure{path + ": vanished while it was made"};
+}
+
+}  // namespace quillmark::sample

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "model/ThreatAlert.h"
+
+namespace quillmark::sample {
+
+/// Remembers since when each finding stands, so that it keeps its time for as
+/// long as every scan finds it again. One thread at a time.
+class AlertHistory final {
+ public:
+  using Time = std::chrono::system_clock::time_point;
+
+  /// The findings of the scan at `now`, each with the time of the first scan
+  /// that had it; the newest first, of one time the gravest first. What is
+  /// missing is forgotten, and new when it comes back.
+  [[nodiscard]] std::vector<ThreatAlert> dated(std::vector<ThreatAlert> findings, Time now);
+
+ private:
+  using Key = std::pair<std::string, std::string>;
+
+  std::map<Key, Time> firstSeen_;
+};
+
+/// Whether an alert counts as a threat: severity "critical" or "high".
+[[nodiscard]] bool isThreat(const ThreatAlert& alert);
+
+}  // namespace quillmark::sample

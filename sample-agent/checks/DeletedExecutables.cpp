@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "checks/DeletedExecutables.h"
+
+#include <map>
+#include <string_view>
+
+#include <sys/stat.h>
+
+#include "scan/Text.h"
+
+namespace quillmark::sample {
+namespace {
+
+constexpr std::string_view deletedMark = " (deleted)";
+constexpr std::string_view memoryFile = "/memfd:";
+
+/// Whether `path` exists as the process sees it, which may live in a
+/// container's file system.
+bool existsFor(const Process& process, const std::string& path, const std::string& procRoot) {
+  const std::string seen = procRoot + '/' + std::to_string(process.pid) + "/root" + path;
+  struct stat status {};
+  return lstat(seen.c_str(), &status) == 0;
+}
+
+std::string describe(const std::vector<const Process*>& processes) {
+  const Process& first = *processes.front();
+  std::string text = "Process " + std::to_string(first.pid) + " (" + asUtf8(first.name) + ')';
+  const std::size_t others = processes.size() - 1;
+  if (others > 0) {
+    text += " and " + std::to_string(others) + (others == 1 ? " other" : " others");
+  }
+  return text;
+}
+
+ThreatAlert alertOn(const std::string& path, const std::vector<const Process*>& processes,
+                    const std::string& procRoot) {
+  const std::string shown = asUtf8(path);
+  const std::string verb = processes.size() == 1 ? " runs" : " run";
+  ThreatAlert alert;
+  alert.alert_type = "Deleted executable";
+  alert.file_path = shown;
+  if (path.starts_with(memoryFile)) {
+    alert.alert_type = "Fileless program";
+    alert.severity = "high";
+    alert.title = "A program runs from memory only: " + shown;
+    alert.description = describe(processes) + verb + " from memory, with no file behind it.";
+  } else if (existsFor(*processes.front(), path, procRoot)) {
+    alert.severity = "low";
+    alert.title = "A replaced program still runs: " + shown;
+    alert.description = describe(processes) + verb + " an older version of " + shown +
+                        ", which has been replaced since. Restart the program to run the new one.";
+  } else {
+    alert.severity = "high";
+    alert.title = "A deleted program still runs: " + shown;
+    alert.description = describe(processes) + verb + " from " + shown + ", which has been deleted.";
+  }
+  return alert;
+}
+
+}  // namespace
+
+std::vector<ThreatAlert> deletedExecutables(const std::vector<Process>& processes,
+                                            const std::string& procRoot) {
+  std::map<std::string, std::vector<const Process*>> byPath;
+  for (const auto& process : processes) {
+    const std::string& link = process.executable;
+    // A file's own name may end in these words.
+    if (link.ends_with(deletedMark) && !existsFor(process, link, procRoot)) {
+      byPath[link.substr(0, link.size() - deletedMark.size())].push_back(&process);
+    }
+  }
+
+  std::vector<ThreatAlert> alerts;
+  alerts.reserve(byPath.size());
+  for (const auto& [path, runners] : byPath) {
+    alerts.push_back(alertOn(path, runners, procRoot));
+  }
+  return alerts;
+}
+
+}  // namespace quillmark::sample

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <vector>
+
+#include "model/NetworkConnection.h"
+#include "scan/Processes.h"
+#include "scan/Sockets.h"
+
+namespace quillmark::sample {
+
+/// The sockets as the interface lists them: services first, by local port. A
+/// port 0, which means "any", is written "*". The agent's own finished and
+/// open exchanges with its clients are left out: every poll leaves four behind
+/// for a minute, and they would tell of nothing but the looking.
+[[nodiscard]] std::vector<NetworkConnection> connectionsOf(std::vector<Socket> sockets,
+                                                           const std::vector<Process>& processes);
+
+}  // namespace quillmark::sample

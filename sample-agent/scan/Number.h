@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+namespace quillmark::sample {
+
+/// The number that `text` is, from its first character to its last; no value
+/// for anything else, a number out of range included.
+template <class Number>
+[[nodiscard]] std::optional<Number> parseNumber(std::string_view text, int base = 10) {
+  Number value{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);
+  if (error != std::errc{} || end != text.data() + text.size()) {
+    return std::nullopt;
+  }
+  return value;
+}
+
+}  // namespace quillmark::sample

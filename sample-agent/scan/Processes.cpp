@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "scan/Processes.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+#include "scan/Number.h"
+#include "scan/SystemFile.h"
+#include "scan/Text.h"
+
+namespace quillmark::sample {
+namespace {
+
+// The kernel keeps this many bytes of a program's name.
+constexpr std::size_t keptNameLength = 15;
+
+// The kernel's own flag; in a container, process 2 is one like any other.
+constexpr unsigned long kernelThread = 0x00200000;
+
+/// Fills what /proc/PID/stat tells; false when there is nothing to list. The
+/// name stands in parentheses and may hold any byte, parentheses included.
+bool readStat(const std::string& folder, Process& process) {
+  const auto text = readSystemFile(folder + "/stat");
+  if (!text) {
+    return false;
+  }
+  const std::size_t open = text->find('(');
+  const std::size_t close = text->rfind(')');
+  if (open == std::string::npos || close == std::string::npos || close < open) {
+    return false;
+  }
+  process.name = text->substr(open + 1, close - open - 1);
+
+  const auto fields = words(std::string_view(*text).substr(close + 1));
+  if (fields.size() < 7 || fields[0] == "Z") {
+    return false;
+  }
+  process.parent = parseNumber<int>(fields[1]).value_or(0);
+  process.session = parseNumber<int>(fields[3]).value_or(0);
+  process.terminal = parseNumber<int>(fields[4]).value_or(0);
+  return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThread) == 0;
+}
+
+/// The whole name where the kernel has cut it off, if the command line has it.
+std::string wholeName(const std::string& folder, const std::string& kept) {
+  if (kept.size() < keptNameLength) {
+    return kept;
+  }
+  const auto commandLine = readSystemFile(folder + "/cmdline").value_or("");
+  const auto program = leafOf(split(commandLine, '\0').front());
+  return program.starts_with(kept) ? std::string(program) : kept;
+}
+
+std::string readUnit(const std::string& folder) {
+  const auto text = readSystemFile(folder + "/cgroup").value_or("");
+  for (const auto line : split(text, '\n')) {
+    if (!line.starts_with("0::") && line.find(":name=systemd:") == std::string_view::npos) {
+      continue;
+    }
+    const auto groups = split(line, '/');
+    const auto unit = std::find_if(groups.rbegin(), groups.rend(), [](std::string_view group) {
+      return group.ends_with(".service");
+    });
+    if (unit != groups.rend()) {
+      return std::string(*unit);
+    }
+  }
+  return {};
+}
+
+std::vector<std::uint64_t> readSockets(const std::string& folder) {
+  constexpr std::string_view prefix = "socket:[";
+  std::vector<std::uint64_t> inodes;
+  const std::string descriptors = folder + "/fd";
+  for (const auto& name : namesIn(descriptors)) {
+    const auto target = readLink(pathIn(descriptors, name));
+    if (!target || !target->starts_with(prefix) || !target->ends_with(']')) {
+      continue;
+    }
+    const auto digits =
+        std::string_view(*target).substr(prefix.size(), target->size() - prefix.size() - 1);
+    if (const auto inode = parseNumber<std::uint64_t>(digits)) {
+      inodes.push_back(*inode);
+    }
+  }
+  return inodes;
+}
+
+}  // namespace
+
+std::vector<Process> readProcesses(const std::string& procRoot) {
+  std::vector<Process> processes;
+  for (const auto& name : namesIn(procRoot)) {
+    const auto pid = parseNumber<int>(name);
+    if (!pid) {
+      continue;
+    }
+    const std::string folder = pathIn(procRoot, name);
+    Process process;
+    process.pid = *pid;
+    if (!readStat(folder, process)) {
+      continue;
+    }
+    process.name = wholeName(folder, process.name);
+    process.unit = readUnit(folder);
+    process.executable = readLink(folder + "/exe").value_or("");
+    process.sockets = readSockets(folder);
+    processes.push_back(std::move(process));
+  }
+  std::sort(processes.begin(), processes.end(),
+            [](const Process& a, const Process& b) { return a.pid < b.pid; });
+  return processes;
+}
+
+std::unordered_map<std::uint64_t, const Process*> socketOwners(
+    const std::vector<Process>& processes) {
+  std::unordered_map<std::uint64_t, const Process*> owners;
+  for (const auto& process : processes) {
+    for (const auto inode : process.sockets) {
+      owners.emplace(inode, &process);
+    }
+  }
+  return owners;
+}
+
+}  // namespace quillmark::sample

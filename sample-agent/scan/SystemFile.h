@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmark::sample {
+
+// The readers below answer with nothing for whatever cannot be read: processes
+// end between two looks at them, and much is closed to an ordinary user.
+
+/// The bytes of a regular file, such as one under /proc.
+[[nodiscard]] std::optional<std::string> readSystemFile(const std::string& path);
+
+/// The text of a symbolic link.
+[[nodiscard]] std::optional<std::string> readLink(const std::string& path);
+
+/// The names in a folder, without "." and "..", in no order.
+[[nodiscard]] std::vector<std::string> namesIn(const std::string& folder);
+
+/// The path of the file called `name` in `folder`.
+[[nodiscard]] std::string pathIn(const std::string& folder, std::string_view name);
+
+}  // namespace quillmark::sample

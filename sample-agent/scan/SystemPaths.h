@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quillmark::sample {
+
+/// Where a scan looks; tests point it at trees of their own.
+struct SystemPaths {
+  std::string proc = "/proc";
+  std::string dpkg = "/var/lib/dpkg";
+  std::string packagedApplications = "/usr/share/applications";  ///< as dpkg's file lists name it
+  std::vector<std::string> otherApplications;  ///< folders of desktop entries, first one wins
+  std::vector<std::string> setUidRoots = {"/tmp", "/var/tmp", "/home"};
+  std::string searchPath;  ///< folders of commands, joined by colons
+};
+
+/// Those of this machine, for the user with home directory `home`.
+[[nodiscard]] SystemPaths systemPaths(const std::string& home);
+
+}  // namespace quillmark::sample

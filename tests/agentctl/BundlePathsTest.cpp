@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <gtest/gtest.h>
+
+#include "agentctl/WithAgents.h"
+
+namespace quillmark::test {
+namespace {
+
+/// Starting from bundles whose path a shell could take for more than a path.
+class BundlePaths : public WithAgents {
+ protected:
+  BundlePaths() { makeLogFolder(); }
+};
+
+TEST_F(BundlePaths, ThatBreakOutOfTheQuotesStartNothing) {
+  for (const std::string name : {"Ann's.app", "'; touch injected; '.app", "'", "two\nlines.app",
+                                 "tab\t.app", "\x01.app", "\x1F.app", "\x7F.app"}) {
+    const Bundle bundle(name);
+    EXPECT_EQ(bundle.tells("start"),
+              "Error: The application's path holds an apostrophe or a control character")
+        << testing::PrintToString(name);
+    EXPECT_TRUE(bearersOfTheName().empty()) << "there is not even a shell";
+    EXPECT_FALSE(bundle.wasStarted());
+  }
+}
+
+TEST_F(BundlePaths, ThatStayQuotedStartTheirAgent) {
+  for (const std::string name :
+       {"My App.app", "\"quoted\".app", "$HOME.app", "`id`.app", "a;b&c|d.app", "back\\slash.app",
+        "*.app", "caf\u00E9 \U0001F600.app", "-n.app", "\xFF.app"}) {
+    const Bundle bundle(name);
+    startAgent(bundle);
+    EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); })) << testing::PrintToString(name);
+    endBearersOfTheName();
+  }
+}
+
+// A program that lies in no bundle starts what lies in the same layout below
+// its own folder.
+TEST_F(BundlePaths, OfAProgramOutsideABundleAreItsFolder) {
+  const Bundle bundle;
+  const auto panel = bundle.path() + "/panel";
+  std::filesystem::rename(bundle.programs() + "/panel", panel);
+  EXPECT_EQ(firstLineOf({panel, "start"}), "ok");
+  EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); }));
+}
+
+TEST_F(BundlePaths, AreThoseBehindALink) {
+  const Bundle bundle;
+  const TemporaryFolder elsewhere;
+  std::filesystem::create_symlink(bundle.programs() + "/panel", elsewhere / "panel");
+  EXPECT_EQ(firstLineOf({elsewhere / "panel", "start"}), "ok");
+  EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); }));
+}
+
+}  // namespace
+}  // namespace quillmark::test

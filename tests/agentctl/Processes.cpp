@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "agentctl/Processes.h"
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <sstream>
+
+#include <unistd.h>
+
+#include "platform/Files.h"
+#include "platform/Waiting.h"
+
+namespace quillmark::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+Process processAt(const fs::path& folder) {
+  Process process;
+  process.id = std::stoi(folder.filename());
+  // The name before the state is in brackets and may hold anything.
+  const std::string stat = contentOf(folder / "stat");
+  const auto nameStart = std::min(stat.find('(') + 1, stat.size());
+  process.name = stat.substr(nameStart, stat.rfind(')') - nameStart);
+  std::istringstream fields(stat.substr(std::min(stat.rfind(')') + 1, stat.size())));
+  pid_t group = 0;
+  fields >> process.state >> process.parent >> group >> process.session;
+  std::error_code unreadable;
+  process.program = fs::read_symlink(folder / "exe", unreadable).filename();
+  process.commandLine = contentOf(folder / "cmdline");
+  std::replace(process.commandLine.begin(), process.commandLine.end(), '\0', ' ');
+  return process;
+}
+
+template <class Condition>
+std::vector<Process> processesWhere(Condition condition) {
+  auto found = processes();
+  std::erase_if(found, [&](const Process& process) { return !condition(process); });
+  return found;
+}
+
+}  // namespace
+
+std::vector<Process> processes() {
+  std::vector<Process> all;
+  for (const auto& entry : fs::directory_iterator("/proc")) {
+    const std::string name = entry.path().filename();
+    if (std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+      all.push_back(processAt(entry.path()));
+    }
+  }
+  return all;
+}
+
+std::vector<Process> agents() {
+  return processesWhere([](const Process& process) { return process.program == agentName; });
+}
+
+std::vector<Process> bearersOfTheName() {
+  return processesWhere([](const Process& process) {
+    return process.commandLine.find(agentName) != std::string::npos || process.name == agentName;
+  });
+}
+
+std::vector<Process> children() {
+  return processesWhere([](const Process& process) { return process.parent == getpid(); });
+}
+
+void endBearersOfTheName() {
+  static_cast<void>(waitUntil([] {
+    const auto left = bearersOfTheName();
+    for (const auto& process : left) {
+      kill(process.id, SIGKILL);
+    }
+    return left.empty();
+  }));
+}
+
+}  // namespace quillmark::test

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include "agentctl/WithAgents.h"
+#include "platform/ChildProcess.h"
+#include "platform/Files.h"
+
+namespace quillmark::test {
+namespace {
+
+class Start : public WithAgents {
+ protected:
+  const Bundle bundle;
+};
+
+TEST_F(Start, BringsTheAgentOfThisBundleUp) {
+  EXPECT_FALSE(isRunning());
+  startAgent(bundle);
+  EXPECT_TRUE(isRunning());
+  EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); }))
+      << "the agent's working folder is that of the bundle's programs";
+  EXPECT_EQ(agents().front().commandLine, "./tovel-agent ");
+}
+
+TEST_F(Start, PutsWhatTheAgentSaysIntoTheLog) {
+  startAgent(bundle);
+  EXPECT_TRUE(waitUntil([&] {
+    const auto log = contentOf(logFile());
+    return log == "to the errors\nto the output\n" || log == "to the output\nto the errors\n";
+  })) << contentOf(logFile());
+}
+
+TEST_F(Start, LetsTheAgentOutliveThePanelThatStartedIt) {
+  startAgent(bundle);
+  for (const auto& process : processes()) {
+    EXPECT_NE(process.program, "panel");
+  }
+  EXPECT_NE(agents().front().session, getsid(0)) << "no terminal's end takes it along";
+}
+
+TEST_F(Start, StartsAnotherAgentEachTime) {
+  startAgent(bundle);
+  startAgent(bundle);
+  EXPECT_EQ(agents().size(), 2U);
+  EXPECT_TRUE(isRunning());
+}
+
+TEST_F(Start, StartsNothingWithoutTheLogFolder) {
+  EXPECT_EQ(bundle.tells("start"), "ok") << "the shell's failure goes unseen";
+  waitForTheShells();
+  EXPECT_FALSE(bundle.wasStarted());
+  EXPECT_FALSE(isRunning());
+  EXPECT_TRUE(namesIn(home()).empty()) << "nor is the folder made";
+}
+
+TEST_F(Start, StartsNothingWithoutAnAgentInTheBundle) {
+  makeLogFolder();
+  std::filesystem::remove(bundle.programs() + "/" + agentName);
+  EXPECT_EQ(bundle.tells("start"), "ok");
+  waitForTheShells();
+  EXPECT_FALSE(isRunning());
+}
+
+// The shell takes the target of the redirection for the part up to the space,
+// and what follows for an argument.
+TEST_F(Start, LogsElsewhereWhenTheHomePathHoldsASpace) {
+  const auto spaced = home() + "/my home";
+  std::filesystem::create_directories(spaced + "/.quillmark/logs");
+  setHome(spaced);
+  EXPECT_EQ(bundle.tells("start"), "ok");
+  EXPECT_TRUE(
+      waitUntil([&] { return contentOf(home() + "/my").find("output") != std::string::npos; }));
+  EXPECT_EQ(agents().front().commandLine, "./tovel-agent home/.quillmark/logs/backend.log ");
+  EXPECT_TRUE(namesIn(spaced + "/.quillmark/logs").empty());
+}
+
+TEST_F(Start, LeavesNoZombie) {
+  makeLogFolder();
+  for (int i = 0; i < 5; ++i) {
+    ASSERT_FALSE(startDetached(startCommand(bundle.path(), home())));
+  }
+  EXPECT_TRUE(waitUntil([] { return agents().size() == 5; }));
+  EXPECT_TRUE(waitUntil([] { return children().empty(); }));
+}
+
+TEST_F(Start, LeavesTheShellsOwnErrorsToThePanelsErrorStream) {
+  testing::internal::CaptureStderr();
+  EXPECT_FALSE(startDetached(startCommand(bundle.path(), home())));
+  waitForTheShells();
+  EXPECT_TRUE(waitUntil([] { return children().empty(); }));
+  const auto errors = testing::internal::GetCapturedStderr();
+  EXPECT_NE(errors.find("backend.log: No such file or directory"), std::string::npos) << errors;
+}
+
+}  // namespace
+}  // namespace quillmark::test

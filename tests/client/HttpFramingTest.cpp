@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "client/Exchanges.h"
+
+namespace quillmark::test {
+namespace {
+
+class HttpFraming : public WithExecutor {};
+
+const std::string chunked =
+    "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n"
+    "5;name=value\r\n{\"a\":\r\n"
+    "1\r\n1\r\n"
+    "00A\r\n,\"b\":\"\r\n\"}\r\n"
+    "0;last\r\nX-Trailer: t\r\n\r\n";
+const std::string chunkedBody = "{\"a\":1,\"b\":\"\r\n\"}";
+
+TEST_F(HttpFraming, IsALength) {
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nbody"), "body");
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\ncontent-length:4\r\n\r\nbody"), "body");
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"), "");
+}
+
+TEST_F(HttpFraming, IsChunks) {
+  EXPECT_EQ(exchangeFor(chunked), chunkedBody);
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n\r\n"), "");
+}
+
+TEST_F(HttpFraming, IsTheEndOfTheConnection) {
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\nbody"), "body");
+  EXPECT_EQ(exchangeFor("HTTP/1.0 200 OK\r\n\r\nbody"), "body");
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\n"), "");
+}
+
+TEST_F(HttpFraming, HoldsWhereverTheAnswerIsCut) {
+  const Rest goOn = [](Connection& connection, std::string_view rest) { connection.send(rest); };
+  for (const auto& body : exchangesCutAtEveryByte(okAnswer("{\"a\":1}"), goOn)) {
+    EXPECT_EQ(body, "{\"a\":1}");
+  }
+  for (const auto& body : exchangesCutAtEveryByte(chunked, goOn)) {
+    EXPECT_EQ(body, chunkedBody);
+  }
+  for (const auto& body : exchangesCutAtEveryByte("HTTP/1.1 200 OK\r\n\r\n{\"a\":1}", goOn)) {
+    EXPECT_EQ(body, "{\"a\":1}");
+  }
+}
+
+TEST_F(HttpFraming, HoldsByteByByte) {
+  for (const auto& answer : {okAnswer(chunkedBody), chunked}) {
+    EXPECT_EQ(exchangeWith([&](Connection& connection) {
+                for (const char byte : answer) {
+                  connection.send({&byte, 1});
+                }
+              }),
+              chunkedBody);
+  }
+}
+
+// Waiting for such a server to close would take until the silence is too long.
+TEST_F(HttpFraming, EndsAnAnswerOnAConnectionThatIsKept) {
+  EXPECT_EQ(exchangeForKept(okAnswer("body")), "body");
+  EXPECT_EQ(exchangeForKept(answer("200 OK", "body", "Connection: keep-alive\r\n")), "body");
+  EXPECT_EQ(exchangeForKept(okAnswer("")), "");
+  EXPECT_EQ(exchangeForKept(chunked), chunkedBody);
+}
+
+TEST_F(HttpFraming, EndsAnAnswerThatHasNoBodyByItsStatus) {
+  EXPECT_EQ(exchangeForKept("HTTP/1.1 204 No Content\r\n\r\n"), "");
+  EXPECT_EQ(exchangeForKept("HTTP/1.1 304 Not Modified\r\nContent-Length: 4\r\n\r\n"), "");
+}
+
+TEST_F(HttpFraming, LeavesAloneWhatFollowsTheAnswer) {
+  EXPECT_EQ(exchangeFor(okAnswer("body") + "more"), "body");
+  EXPECT_EQ(exchangeFor(okAnswer("body") + okAnswer("another")), "body");
+  EXPECT_EQ(exchangeFor(chunked + chunked), chunkedBody);
+}
+
+TEST_F(HttpFraming, CarriesAnyBytes) {
+  std::string body;
+  for (int byte = 0; byte < 256; ++byte) {
+    body += static_cast<char>(byte);
+  }
+  EXPECT_EQ(exchangeFor(okAnswer(body)), body);
+}
+
+TEST_F(HttpFraming, CarriesLargeBodies) {
+  const std::string body(std::size_t{8} * 1024 * 1024, 'x');
+  EXPECT_EQ(exchangeFor(okAnswer(body)), body);
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\n" + body), body);
+  EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n800000\r\n" + body +
+                        "\r\n0\r\n\r\n"),
+            body);
+}
+
+}  // namespace
+}  // namespace quillmark::test

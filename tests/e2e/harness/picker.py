@@ -1,0 +1,56 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The open dialog, used without a pointer."""
+
+import contextlib
+
+from . import hands, settings
+from .waiting import until
+
+TITLE = "Select config.toml file"
+
+
+def shown(panel):
+    return panel.tree.find("dialog", TITLE)
+
+
+def _open(panel, key="space"):
+    settings.press(panel, settings.BROWSE, key)
+    until(lambda: shown(panel), "the dialog")
+    until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the keyboard")
+    return shown(panel)
+
+
+@contextlib.contextmanager
+def opened(panel, key="space"):
+    """Open for a while, then cancelled."""
+    yield _open(panel, key)
+    hands.key("Escape")
+    panel.tree.wait_without("dialog", TITLE)
+
+
+def choose(panel, path):
+    """By typing where it is."""
+    _open(panel)
+    hands.key("ctrl+l")
+    until(lambda: panel.focus().role == "field", "the path to be editable")
+    hands.key("ctrl+a")
+    hands.write(str(path))
+    until(lambda: panel.tree.text(panel.focus()) == str(path), "the path to be typed")
+    hands.key("Return")
+    panel.tree.wait_without("dialog", TITLE)
+
+
+def pick(panel, path):
+    """By walking down the list of its folder, where the dialog opens."""
+    _open(panel)
+    for _ in range(10):
+        row = panel.focus()
+        if row.find("text", path.name):
+            break
+        hands.key("Down")
+        until(lambda: panel.focus() != row, "the next row")
+    hands.key("Return")
+    panel.tree.wait_without("dialog", TITLE)

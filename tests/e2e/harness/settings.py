@@ -1,0 +1,126 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The Settings tab: its controls, and the files behind it."""
+
+import os
+import shutil
+from pathlib import Path
+
+from . import colours, hands
+from .screen import Picture
+from .waiting import until
+from .window import Box
+
+HOME = Path(os.environ["HOME"])
+CONFIG = HOME / ".config" / "quillmark" / "config.toml"
+OLD_CONFIG = HOME / ".quillmark" / "config.toml"
+LOGS = HOME / ".quillmark" / "logs"
+
+DEFAULT_URL = "https://console.quillmark.example"
+SERVER = ("field", "Server URL")
+# Qt gives a masked field no name, only a description.
+KEY = ("password", "")
+SAVE = ("button", "Save & Connect")
+BROWSE = ("button", "Browse and Import Config")
+START = ("button", "Start Agent")
+STOP = ("button", "Stop Agent")
+
+SAVED = "✅ Config saved! Restart the agent to connect."
+IMPORTED = "✅ Config imported successfully! Close and reopen the agent to apply changes."
+NO_SECTION = "❌ Invalid config: missing [agent] section"
+RUNNING = "Agent is running"
+NOT_RUNNING = "Agent is not running"
+
+
+def clean_home():
+    """As before the first run."""
+    for folder in (CONFIG.parent.parent, OLD_CONFIG.parent):
+        shutil.rmtree(folder, ignore_errors=True)
+
+
+def write_config(text, path=CONFIG):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_bytes(text if isinstance(text, bytes) else text.encode())
+
+
+def enter(panel):
+    """Leaves the tab and comes back, so that it begins anew."""
+    panel.show("Alerts")
+    panel.show("Settings")
+    panel.tree.wait_for("group", "Quick Setup")
+
+
+def press(panel, button, key="space"):
+    """By keyboard alone."""
+    panel.press_until_focused(*button)
+    hands.key(key)
+
+
+def field(panel, which):
+    return panel.tree.text(panel.tree.find(*which))
+
+
+def fill(panel, which, text):
+    """Replaces what a field holds, by keyboard alone."""
+    panel.press_until_focused(*which)
+    hands.key("ctrl+a", "BackSpace")
+    if text:
+        hands.write(text)
+    wanted = "●" * len(text) if which == KEY else text
+    until(lambda: field(panel, which) == wanted, f"{which} to hold {wanted!r}")
+
+
+def message(panel):
+    """The last operation's message."""
+    found = [t for t in panel.tree.read().texts() if t.startswith(("✅", "❌"))]
+    assert len(found) <= 1, found
+    return found[0] if found else ""
+
+
+def wait_for_message(panel, text):
+    until(lambda: message(panel) == text, f"{text!r}")
+    return panel.tree.find("text", text)
+
+
+def ground(panel, button):
+    """The colour of a filled button, beside its icon and text."""
+    hands.park()
+    box = panel.tree.find(*button).box
+    return Picture().pixel(box.x + 20, box.centre[1])
+
+
+def assert_save_is(panel, enabled):
+    """By its colour: Qt tells assistive technology of no item's being disabled."""
+    colour = colours.BLUE if enabled else colours.GRAY
+    until(lambda: ground(panel, SAVE) == colour,
+          f"Save & Connect {'enabled' if enabled else 'disabled'}")
+
+
+def hint_colour(panel, which):
+    """The darkest that stands in an empty field, once its focus is elsewhere."""
+    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    panel.tree.wait_for(*which)
+    hands.park()
+    box = panel.tree.find(*which).box
+    inner = Box(box.x + 4, box.y + 4, box.width - 8, box.height - 8)
+    return min(Picture().colours(inner), key=sum)
+
+
+def bring_into_view(panel, role, name):
+    """Scrolls by keyboard until the item lies wholly in the page."""
+    page = panel.tree.find("group", "Settings")
+
+    def inside():
+        found = panel.tree.find(role, name)
+        return found and page.box.holds(found.box) and found
+
+    if not inside():
+        panel.press_until_focused("group", "Settings")
+        hands.key("Home")
+        for _ in range(10):
+            if inside():
+                break
+            before = panel.tree.read()
+            hands.key("Next")
+            until(lambda: panel.tree.read() != before, "the page to scroll")
+    return until(inside, f"{role} {name!r} in view")

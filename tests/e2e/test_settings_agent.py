@@ -1,0 +1,177 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Starting, stopping and looking for the real agent of the bundle."""
+
+import signal
+import subprocess
+import time
+
+import pytest
+
+from harness import colours, hands, processes, settings
+from harness.screen import Picture
+from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP
+from harness.waiting import never, until
+from harness.window import Box
+
+pytestmark = pytest.mark.usefixtures("fresh_home")
+
+
+@pytest.fixture
+def panel(launch_alone):
+    LOGS.mkdir(parents=True)
+    panel = launch_alone()
+    panel.show("Settings")
+    assert status(panel) == NOT_RUNNING
+    yield panel
+    # Whatever was done, the panel lives and has reaped what it started.
+    assert not panel.ended()
+    assert not [p for p in processes.below(panel.pid) if p.state == "Z"]
+
+
+def status(panel):
+    (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
+    return found
+
+
+def start(panel):
+    """Presses the button; gives the moment after which the status changes."""
+    settings.press(panel, START)
+    return time.monotonic()
+
+
+def running(panel, count=1):
+    until(lambda: status(panel) == RUNNING, RUNNING)
+    assert len(processes.agents()) == count
+
+
+def test_start_says_running_two_seconds_later(panel):
+    pressed = start(panel)
+    until(processes.agents, "the agent")
+    # Running, but nobody has looked again.
+    if time.monotonic() < pressed + 1.5:
+        assert status(panel) == NOT_RUNNING
+    running(panel)
+    assert time.monotonic() - pressed > 1.7
+    (agent,) = processes.agents()
+    # Detached: not of the panel's own.
+    assert agent.pid not in [p.pid for p in processes.below(panel.pid)]
+    assert "listening on 127.0.0.1:7823" in (LOGS / "backend.log").read_text()
+    assert settings.message(panel) == ""
+
+
+def test_second_start_still_says_running(panel):
+    start(panel)
+    running(panel)
+    (first,) = processes.agents()
+    start(panel)
+    # It finds the port taken, says so in the log, and goes again.
+    until(lambda: "already in use" in (LOGS / "backend.log").read_text(), "the second agent")
+    never(lambda: status(panel) != RUNNING, "the status changed", seconds=2.5)
+    assert [a.pid for a in processes.agents()] == [first.pid]
+
+
+def test_without_the_log_folder_nothing_starts(panel):
+    LOGS.rmdir()
+    panel.expected_output = r".*backend\.log: No such file or directory\n"
+    start(panel)
+    until(lambda: "No such file" in panel.output(), "the shell to complain")
+    never(lambda: processes.agents() or status(panel) != NOT_RUNNING, "something started",
+          seconds=2.5)
+    assert not LOGS.exists()
+    assert settings.message(panel) == ""
+
+
+def test_stop_says_not_running_one_second_later(panel):
+    start(panel)
+    running(panel)
+    settings.press(panel, STOP)
+    pressed = time.monotonic()
+    until(lambda: not processes.named(), "the agent to end")
+    until(lambda: status(panel) == NOT_RUNNING, NOT_RUNNING)
+    assert 0.7 < time.monotonic() - pressed
+    assert settings.message(panel) == ""
+
+
+def test_whatever_bears_the_name_counts_and_is_stopped(panel):
+    other = subprocess.Popen([f"./{processes.AGENT}", "600"], executable="/usr/bin/sleep")
+    settings.enter(panel)
+    assert status(panel) == RUNNING
+    start(panel)
+    until(lambda: len(processes.agents()) == 2, "two agents")
+    settings.press(panel, STOP)
+    assert other.wait(timeout=15) == -signal.SIGTERM
+    until(lambda: not processes.named(), "both to end")
+    until(lambda: status(panel) == NOT_RUNNING, NOT_RUNNING)
+
+
+def test_stop_with_nothing_running(panel):
+    settings.press(panel, STOP)
+    never(lambda: status(panel) != NOT_RUNNING, "the status changed", seconds=1.5)
+    assert settings.message(panel) == ""
+    # It can still be started after that.
+    start(panel)
+    running(panel)
+
+
+@pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGKILL])
+def test_death_outside_shows_when_the_tab_is_entered_again(panel, number):
+    start(panel)
+    running(panel)
+    processes.end_agents(number)
+    never(lambda: status(panel) != RUNNING, "somebody looked", seconds=1.5)
+    settings.enter(panel)
+    assert status(panel) == NOT_RUNNING
+
+
+def test_agent_started_outside_shows_when_the_tab_is_entered_again(panel):
+    start(panel)
+    panel.show("Dashboard")
+    until(processes.agents, "the agent")
+    panel.show("Settings")
+    running(panel)
+
+
+@pytest.mark.parametrize("action, agents", [(START, 1), (STOP, 0)])
+def test_tab_left_before_the_look(panel, action, agents):
+    settings.press(panel, action)
+    panel.show("Alerts")
+    # The look is due meanwhile, for a tab that is gone.
+    never(panel.ended, "the panel ended", seconds=2.5)
+    assert len(processes.agents()) == agents
+    panel.show("Settings")
+    assert status(panel) == (RUNNING if agents else NOT_RUNNING)
+
+
+def test_window_closed_before_the_look(panel):
+    settings.press(panel, START)
+    hands.key("ctrl+w")
+    until(lambda: not panel.windows(), "the window to close")
+    never(panel.ended, "the panel ended", seconds=2.5)
+    assert len(processes.agents()) == 1
+
+
+def test_agent_outlives_the_panel(launch_alone):
+    LOGS.mkdir(parents=True)
+    panel = launch_alone()
+    panel.show("Settings")
+    start(panel)
+    running(panel)
+    panel.finish()
+    assert len(processes.agents()) == 1
+
+
+def test_circle_and_text_have_the_colour_of_the_status(panel):
+    def assert_colour(text, colour):
+        hands.park()
+        box = panel.tree.wait_for("text", text).box
+        circle = Box(box.x - 8 - 10, box.centre[1] - 5, 10, 10)
+        picture = Picture()
+        assert picture.pixel(*circle.centre) == colour
+        assert picture.ink(box, colour, colours.WHITE) > 0.65
+        assert picture.pixel(circle.x - 3, circle.centre[1]) == colours.WHITE
+
+    assert_colour(NOT_RUNNING, colours.RED)
+    start(panel)
+    running(panel)
+    assert_colour(RUNNING, colours.GREEN)

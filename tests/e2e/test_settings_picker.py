@@ -1,0 +1,40 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The open dialog's list of files."""
+
+import pytest
+
+from harness import hands, picker, settings
+from harness.screen import BUILD, save
+from harness.settings import CONFIG
+from harness.waiting import until
+
+pytestmark = pytest.mark.usefixtures("fresh_home")
+
+CONTENT = "[agent]\n"
+
+
+@pytest.fixture
+def panel(launch_alone, tmp_path):
+    """It opens where the panel was started."""
+    (tmp_path / "more").mkdir()
+    for name in ("a.txt", "config.toml", "other.cfg"):
+        (tmp_path / name).write_text(CONTENT)
+    panel = launch_alone("env", f"--chdir={tmp_path}")
+    panel.show("Settings")
+    return panel
+
+
+def test_only_what_may_be_a_configuration(panel):
+    with picker.opened(panel) as dialog:
+        assert [n for n in ("more", "a.txt", "config.toml", "other.cfg")
+                if dialog.find("text", n)] == ["more", "a.txt", "config.toml"]
+        hands.park()
+        save(BUILD / "pictures" / "settings-dialog.png", panel.window.box)
+
+
+def test_file_picked_by_arrow_keys(panel, tmp_path):
+    picker.pick(panel, tmp_path / "config.toml")
+    until(CONFIG.exists, "the imported file")
+    assert CONFIG.read_text() == CONTENT
+    settings.bring_into_view(panel, "text", settings.IMPORTED)

@@ -1,0 +1,82 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The fields as the configuration on disk fills them."""
+
+import pytest
+
+from harness import settings
+from harness.settings import DEFAULT_URL, KEY, OLD_CONFIG, SERVER
+from harness.waiting import until
+
+
+def shows(panel, key, server):
+    """The key's characters cannot be seen, only how many there are; saving
+    tells which."""
+    settings.enter(panel)
+    until(lambda: settings.field(panel, KEY) == "●" * len(key), f"a key of {len(key)}")
+    assert settings.field(panel, SERVER) == server
+    settings.assert_save_is(panel, enabled=bool(key))
+    if key:
+        settings.press(panel, settings.SAVE)
+        settings.wait_for_message(panel, settings.SAVED)
+        assert f'\napi_key = "{key}"\n' in settings.CONFIG.read_text()
+
+
+@pytest.mark.parametrize("line, key", [
+    ('api_key = "abc123"', "abc123"),
+    ("  \tapi_key='abc'  ", "abc"),
+    ('api_key = "abc=="', "abc"),
+    ("api_keys = other", "other"),
+    ('[x]\napi_key = "first"\n[y]\napi_key = "last"', "last"),
+    ('api_key = "your-api-key-here"', ""),
+    ('api_key = "pending-registration"', ""),
+    ('api_key = ""', ""),
+    ("# api_key = 'abc'", ""),
+    ("api_key", ""),
+    ('api_key = "ключ <b>é"', "ключ <b>é"),
+])
+def test_key(tab, line, key):
+    settings.write_config(f"[agent]\n{line}\n")
+    shows(tab, key, DEFAULT_URL)
+
+
+@pytest.mark.parametrize("line, server", [
+    ('server_url = "https://s.example"', "https://s.example"),
+    ('server_url = "https://s.example/?a=b"', "https://s.example/?a"),
+    ("server_url_old = https://old.example", "https://old.example"),
+    ('server_url = ""', DEFAULT_URL),
+    ('#server_url = "https://s.example"', DEFAULT_URL),
+    ('server_url = "<img src=x>&amp;"', "<img src"),
+])
+def test_server(tab, line, server):
+    settings.write_config(f"[agent]\n{line}\n")
+    shows(tab, "", server)
+    assert tab.tree.find("text", f"Get your API key from: {server}/agent/start")
+
+
+def test_second_place(tab):
+    settings.write_config("api_key = 'old'\n", OLD_CONFIG)
+    shows(tab, "old", DEFAULT_URL)
+
+
+def test_first_place_wins_even_with_nothing_in_it(tab):
+    settings.write_config("api_key = 'old'\nserver_url = 'https://old.example'\n", OLD_CONFIG)
+    settings.write_config("")
+    shows(tab, "", DEFAULT_URL)
+
+
+def test_first_place_that_is_no_text_is_passed_over(tab):
+    settings.write_config(b"api_key = '\xff'\n")
+    settings.write_config("api_key = 'old'\n", OLD_CONFIG)
+    shows(tab, "old", DEFAULT_URL)
+
+
+def test_saved_values_come_back(tab):
+    settings.fill(tab, SERVER, "https://mine.example")
+    settings.fill(tab, KEY, "mine")
+    settings.press(tab, settings.SAVE)
+    settings.wait_for_message(tab, settings.SAVED)
+    shows(tab, "mine", "https://mine.example")
+    # The message belonged to the tab that was left.
+    settings.enter(tab)
+    assert settings.message(tab) == ""

@@ -1,0 +1,98 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The tab where it does not fit the window."""
+
+import pytest
+
+from harness import hands, settings
+from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
+from harness.waiting import until
+
+FIRST = ("text", "Agent Status")
+LAST = ("text", "System-wide configuration")
+CARDS = ("Agent Status", "Quick Setup", "Advanced Configuration", "Config File Locations")
+
+
+@pytest.fixture(autouse=True)
+def small(panel):
+    settings.clean_home()
+    panel.window.resize(1000, 700)
+    until(lambda: panel.window.box.height == 700, "a small window")
+    settings.enter(panel)
+    assert in_view(panel, FIRST) and not in_view(panel, LAST)
+    yield
+    settings.clean_home()
+
+
+def page(panel):
+    return panel.tree.find("group", "Settings")
+
+
+def in_view(panel, which):
+    found = page(panel).find(*which)
+    return found and page(panel).box.holds(found.box) and found
+
+
+def seen_on_the_way(panel, step, goal):
+    """Steps until the goal is in view; the cards whose titles were seen."""
+    seen = set()
+    for _ in range(30):
+        seen |= {name for name in CARDS if in_view(panel, ("text", name))}
+        if in_view(panel, goal):
+            return seen
+        before = page(panel)
+        step()
+        until(lambda: page(panel) != before, "the page to move")
+    raise AssertionError(f"{goal} was not reached")
+
+
+def test_wheel_reaches_all_cards(panel):
+    box = page(panel).box
+    assert seen_on_the_way(panel, lambda: hands.wheel_down(box, 1), LAST) == set(CARDS)
+    seen_on_the_way(panel, lambda: hands.wheel_up(box, 1), FIRST)
+
+
+@pytest.mark.parametrize("down, up", [("Down", "Up"), ("Next", "Prior"), ("End", "Home")])
+def test_keys_reach_all_cards(panel, down, up):
+    panel.press_until_focused("group", "Settings")
+    seen = seen_on_the_way(panel, lambda: hands.key(down), LAST)
+    assert down == "End" or seen == set(CARDS)
+    seen_on_the_way(panel, lambda: hands.key(up), FIRST)
+
+
+@pytest.mark.parametrize("key, order", [
+    ("Tab", (START, STOP, SERVER, KEY, SAVE, BROWSE)),
+    ("shift+Tab", (BROWSE, SAVE, KEY, SERVER, STOP, START)),
+])
+def test_focus_stays_in_view(panel, key, order):
+    settings.fill(panel, KEY, "k")
+    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    for control in order:
+        panel.press_until_focused(*control, key=key)
+        until(lambda: in_view(panel, control), f"{control} in view")
+
+
+def test_typing_in_the_lowest_field_of_a_low_window(panel):
+    panel.press_until_focused(*KEY)
+    hands.write("k")
+    until(lambda: in_view(panel, KEY), "the key's field in view")
+
+
+def test_wheel_over_a_field_scrolls_the_page(panel):
+    before = page(panel).find(*SERVER).box
+    hands.wheel_down(before, 2)
+    until(lambda: page(panel).find(*SERVER).box.y < before.y, "the page to scroll")
+    assert settings.field(panel, SERVER) == settings.DEFAULT_URL
+
+
+def test_polls_leave_the_page_where_it_is(panel, backend):
+    hands.wheel_down(page(panel).box, 3)
+    seen = []
+
+    def still():
+        seen.append(page(panel))
+        return len(seen) > 1 and seen[-1] == seen[-2] and seen[-1]
+
+    before = until(still, "the page to come to rest", step=0.2)
+    backend.wait_for_poll()
+    assert page(panel) == before

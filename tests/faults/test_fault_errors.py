@@ -1,0 +1,87 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""System calls of a save or an import that fail, each in turn."""
+
+import pytest
+
+import scene
+import traced
+
+SCENES = scene.scenes("/tmp/disturbed")
+# A folder on a file system that cannot exchange two files.
+NO_EXCHANGE = "error=EINVAL"
+
+
+def errors(call):
+    yield "error=EIO"
+    if call.name in ("write", "openat", "mkdir", "fsync"):
+        yield "error=ENOSPC"
+    if call.name == "renameat2":
+        yield NO_EXCHANGE
+    if call.name in ("read", "write"):
+        yield "error=EINTR"
+
+
+CASES = [
+    pytest.param(name, fault, id=f"{name}-{fault}")
+    for name, one in SCENES.items()
+    for fault in traced.faults_of(one, errors)
+]
+
+
+def check(one, *faults):
+    """Runs with the faults, and expects that the message says what is true."""
+    one.set_up()
+    run = traced.run(one.command, one.home, faults)
+    assert {fault.call for fault in faults} == set(run.disturbed)
+    assert not run.killed
+    assert run.message == "ok" or run.message.startswith("Error: ")
+    assert one.state() == ("new" if run.message == "ok" else "old"), run.message
+    # What cannot be removed stays: that must be one file, no reader but the
+    # user, and only when the removal itself failed.
+    unremovable = any(fault.call.name == "unlink" for fault in faults)
+    assert len(one.leftovers()) <= int(unremovable)
+    assert all(path.stat().st_mode & 0o077 == 0 for path in one.leftovers())
+    return run
+
+
+@pytest.mark.parametrize("name", SCENES)
+def test_undisturbed(name):
+    assert check(SCENES[name]).message == "ok"
+    assert SCENES[name].state() == "new"
+
+
+@pytest.mark.parametrize("name, fault", CASES)
+def test_one_error(name, fault):
+    check(SCENES[name], fault)
+
+
+@pytest.mark.parametrize(
+    "name, fault",
+    [case for case in CASES if case.values[1].effect in ("error=EIO", NO_EXCHANGE)],
+)
+def test_another_error_while_the_first_is_handled(name, fault):
+    one = SCENES[name]
+    run = check(one, fault)
+    for call in run.calls[run.calls.index(fault.call) + 1 :]:
+        # strace takes one kind of fault for each name of a call.
+        effect = fault.effect if call.name == fault.call.name else "error=EIO"
+        check(one, fault, traced.Fault(call, effect))
+
+
+def test_the_calls_are_those_that_write_a_file():
+    """Else the cases above were about nothing."""
+    names = {case.values[1].call.name for case in CASES}
+    assert names >= {"openat", "read", "write", "fchmod", "fsync", "close", "mkdir"}
+    assert names >= {"renameat2", "rename", "unlink"}
+
+
+def test_errors_are_told_in_the_systems_words():
+    told = {
+        (fault.call.name, fault.effect): check(SCENES[name], fault).message
+        for name, fault in (case.values for case in CASES)
+        if fault.call.name in ("write", "mkdir", "fchmod")
+    }
+    assert told["write", "error=ENOSPC"] == "Error: No space left on device"
+    assert told["mkdir", "error=EIO"] == "Error: Input/output error"
+    assert told["fchmod", "error=EIO"] == "Error: Input/output error"

@@ -1,0 +1,64 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The process killed at each system call of a save or an import."""
+
+import pytest
+
+import scene
+import traced
+
+SCENES = scene.scenes("/tmp/killed")
+NO_EXCHANGE = "error=EINVAL"
+
+
+def kill(_call):
+    yield "signal=SIGKILL"
+
+
+CASES = [
+    pytest.param(name, fault, id=f"{name}-{fault}")
+    for name, one in SCENES.items()
+    for fault in traced.faults_of(one, kill)
+]
+
+
+def check(one, *faults):
+    one.set_up()
+    run = traced.run(one.command, one.home, faults)
+    assert run.killed
+    assert run.message == ""
+    # A file beside it may stay behind, for the user alone.
+    assert all(path.stat().st_mode & 0o077 == 0 for path in one.leftovers())
+    assert len(one.leftovers()) <= 1
+    return one.state()
+
+
+@pytest.mark.parametrize("name, fault", CASES)
+def test_killed(name, fault):
+    assert check(SCENES[name], fault) in ("old", "new")
+    # And the next time it works.
+    one = SCENES[name]
+    assert traced.run(one.command, one.home).message == "ok"
+    assert one.state() == "new"
+
+
+@pytest.mark.parametrize("name", SCENES)
+def test_the_file_changes_once(name):
+    """Killed later and later, the action has first done nothing and then all."""
+    states = [check(SCENES[name], case.values[1]) for case in CASES if case.values[0] == name]
+    assert states == sorted(states, key=["old", "new"].index)
+    assert set(states) == {"old", "new"}
+
+
+@pytest.mark.parametrize("name", ["save-over-old", "import-over-old"])
+def test_killed_where_files_cannot_be_exchanged(name):
+    one = SCENES[name]
+    one.set_up()
+    exchange = traced.Fault(
+        next(c for c in traced.run(one.command, one.home).calls if c.name == "renameat2"),
+        NO_EXCHANGE,
+    )
+    one.set_up()
+    run = traced.run(one.command, one.home, [exchange])
+    for call in run.calls[run.calls.index(exchange.call) + 1 :]:
+        assert check(one, exchange, traced.Fault(call, "signal=SIGKILL")) in ("old", "new")

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+#include "client/TaskExecutor.h"
+#include "main/WindowGroup.h"
+#include "viewmodel/GuiTest.h"
+
+namespace quillmark::test {
+
+/// What tests share that open the panel's windows; inside the sandbox alone,
+/// for what is in a window polls.
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest();
+  ~WindowTest() override;
+
+  /// The windows that exist, oldest first.
+  [[nodiscard]] static QList<QQuickWindow*> windows();
+
+  /// The one window, on screen.
+  [[nodiscard]] QQuickWindow* presented();
+
+  /// The item in `window` whose property has this value; null if there is none.
+  [[nodiscard]] static QQuickItem* itemWith(const QQuickWindow& window, const char* property,
+                                            const QString& value);
+
+  /// Clicks in the middle of `item`.
+  static void click(QQuickItem* item);
+
+  QQmlEngine engine_;
+  WindowGroup& group() { return *group_; }
+
+ private:
+  TaskExecutor executor_;
+  std::unique_ptr<WindowGroup> group_;
+};
+
+}  // namespace quillmark::test

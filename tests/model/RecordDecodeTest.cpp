@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "model/Outcome.h"
+#include "model/Records.h"
+#include "model/Samples.h"
+
+namespace quillmark::test {
+namespace {
+
+template <class R>
+class RecordDecode : public testing::Test {};
+TYPED_TEST_SUITE(RecordDecode, AllRecords, RecordNames);
+
+TYPED_TEST(RecordDecode, FillsEveryField) {
+  EXPECT_TRUE(decodesTo(objectOf(sampleMembers<TypeParam>()), sample<TypeParam>()));
+}
+
+TYPED_TEST(RecordDecode, TakesKeysInAnyOrder) {
+  auto members = sampleMembers<TypeParam>();
+  std::reverse(members.begin(), members.end());
+  EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>()));
+}
+
+TYPED_TEST(RecordDecode, MissesOnlyRequiredKeys) {
+  for (const auto& key : keysOf<TypeParam>()) {
+    const std::string json = sampleWithout<TypeParam>(key);
+    if (isOptional<TypeParam>(key)) {
+      const auto decoded = decode<TypeParam>(json);
+      ASSERT_TRUE(decoded) << key;
+      EXPECT_EQ(JsonText::of(*decoded), json) << "no value, and nothing else changed";
+    } else {
+      EXPECT_TRUE(failsWith<TypeParam>(json, DecodeFailure::keyNotFound, key));
+    }
+  }
+}
+
+TYPED_TEST(RecordDecode, TakesNullForOptionalKeysOnly) {
+  for (const auto& key : keysOf<TypeParam>()) {
+    const std::string json = sampleWith<TypeParam>(key, "null");
+    if (isOptional<TypeParam>(key)) {
+      const auto decoded = decode<TypeParam>(json);
+      ASSERT_TRUE(decoded) << key;
+      EXPECT_EQ(JsonText::of(*decoded), sampleWithout<TypeParam>(key)) << "as if absent";
+    } else {
+      EXPECT_TRUE(failsWith<TypeParam>(json, DecodeFailure::valueNotFound, key));
+    }
+  }
+}
+
+TYPED_TEST(RecordDecode, RefusesEveryOtherJsonType) {
+  struct Value {
+    char type;
+    const char* text;
+  };
+  constexpr std::array values{
+      Value{'b', "true"},      Value{'b', "false"},  Value{'n', "0"},
+      Value{'n', "1"},         Value{'n', "2.5"},    Value{'s', R"("")"},
+      Value{'s', R"("true")"}, Value{'s', R"("1")"}, Value{'a', R"(["1"])"},
+      Value{'a', "[]"},        Value{'o', "{}"},     Value{'o', R"({"0":1})"}};
+  const auto typeOf = [](const std::string& text) {
+    switch (text.front()) {
+      case 't':
+        return 'b';
+      case '"':
+        return 's';
+      case '[':
+        return 'a';
+      default:
+        return 'n';
+    }
+  };
+  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
+    for (const auto& value : values) {
+      if (value.type != typeOf(good)) {
+        EXPECT_TRUE(failsWith<TypeParam>(sampleWith<TypeParam>(key, value.text),
+                                         DecodeFailure::typeMismatch, key))
+            << key << ": " << value.text;
+      }
+    }
+  }
+}
+
+TYPED_TEST(RecordDecode, IgnoresKeysOutsideTheTable) {
+  auto members = sampleMembers<TypeParam>();
+  members.insert(members.begin(), {"id", R"("not yours")"});
+  members.emplace_back("Status", "null");
+  members.emplace_back("", R"([1e400,{"deep":[{}]},123456789012345678901234567890])");
+  EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>()));
+}
+
+// A key is its exact text: no other case, no blanks around it.
+TYPED_TEST(RecordDecode, TakesKeysLiterally) {
+  for (const auto& key : keysOf<TypeParam>()) {
+    if (isOptional<TypeParam>(key)) {
+      continue;
+    }
+    for (const auto& other : {" " + key, key + " ", "X" + key, key + R"(\u0000)"}) {
+      auto members = sampleMembers<TypeParam>();
+      std::find_if(members.begin(), members.end(), [&](const auto& member) {
+        return member.first == key;
+      })->first = other;
+      EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::keyNotFound, key));
+    }
+  }
+}
+
+TYPED_TEST(RecordDecode, TakesTheLastOfDuplicateKeys) {
+  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
+    auto members = sampleMembers<TypeParam>();
+    members.insert(members.begin(), {key, "{}"});
+    EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << key;
+
+    members = sampleMembers<TypeParam>();
+    members.emplace_back(key, "{}");
+    EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::typeMismatch, key));
+  }
+}
+
+TYPED_TEST(RecordDecode, RefusesWhatIsNoObject) {
+  for (const std::string json : {"null", "true", "1", R"("text")", "[]", "[{}]"}) {
+    EXPECT_TRUE(failsWith<TypeParam>(json, DecodeFailure::typeMismatch, "")) << json;
+  }
+  EXPECT_TRUE(failsWith<TypeParam>(arrayOf({objectOf(sampleMembers<TypeParam>())}),
+                                   DecodeFailure::typeMismatch, ""));
+}
+
+TYPED_TEST(RecordDecode, ReportsTheFirstFailureInTableOrder) {
+  Members members;
+  std::string first;
+  for (const auto& key : keysOf<TypeParam>()) {
+    members.insert(members.begin(), {key, "{}"});
+    first = first.empty() ? key : first;
+  }
+  EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::typeMismatch, first));
+}
+
+}  // namespace
+}  // namespace quillmark::test

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/ChildProcess.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "platform/Files.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/Waiting.h"
+
+namespace quillmark::test {
+namespace {
+
+Command bash(const std::string& script) { return {"/bin/bash", {"-c", script}}; }
+
+class ChildProcess : public testing::Test {
+ protected:
+  const TemporaryFolder folder;
+};
+
+TEST_F(ChildProcess, TellsTheExitStatus) {
+  EXPECT_EQ(runSilently(bash("exit 0")).value(), 0);
+  EXPECT_EQ(runSilently(bash("exit 3")).value(), 3);
+  EXPECT_EQ(runSilently(bash("exit 255")).value(), 255);
+}
+
+TEST_F(ChildProcess, TellsTheSignalThatEndedIt) {
+  EXPECT_EQ(runSilently(bash("kill -TERM $$")).value(), 128 + SIGTERM);
+  EXPECT_EQ(runSilently(bash("kill -KILL $$")).value(), 128 + SIGKILL);
+}
+
+// Who starts this program may have done so with that signal ignored, and then
+// the system keeps no exit status.
+TEST_F(ChildProcess, TellsTheExitStatusAlsoWhereEndedChildrenWereIgnored) {
+  const auto before = std::signal(SIGCHLD, SIG_IGN);
+  const auto failed = runSilently(bash("exit 1"));
+  std::signal(SIGCHLD, SIG_IGN);
+  const auto succeeded = runSilently(bash("exit 0"));
+  std::signal(SIGCHLD, before);
+  EXPECT_EQ(failed.value(), 1);
+  EXPECT_EQ(succeeded.value(), 0);
+}
+
+// Such as a socket that was not opened with care.
+TEST_F(ChildProcess, GetsTheStandardStreamsAlone) {
+  const int leaking = open("/dev/null", O_RDONLY);
+  const int status =
+      runSilently(bash("[[ ! -e /proc/self/fd/" + std::to_string(leaking) + " ]]")).value();
+  const auto error = startDetached(bash("ls /proc/$$/fd > " + (folder / "open") + ".new; mv " +
+                                        (folder / "open") + ".new " + (folder / "open")));
+  EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(folder / "open"); }));
+  close(leaking);
+  EXPECT_GT(leaking, STDERR_FILENO);
+  EXPECT_EQ(status, 0);
+  EXPECT_FALSE(error);
+  EXPECT_EQ(contentOf(folder / "open").find(std::to_string(leaking) + "\n"), std::string::npos)
+      << contentOf(folder / "open");
+}
+
+TEST_F(ChildProcess, InheritsNoIgnoredOrBlockedSignals) {
+  sigset_t blocked{};
+  sigset_t before{};
+  sigemptyset(&blocked);
+  sigaddset(&blocked, SIGTERM);
+  pthread_sigmask(SIG_BLOCK, &blocked, &before);
+  const auto status = runSilently(bash("kill -TERM $$"));
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  const auto handler = std::signal(SIGTERM, SIG_IGN);
+  const auto ignored = runSilently(bash("kill -TERM $$"));
+  std::signal(SIGTERM, handler);
+  EXPECT_EQ(status.value(), 128 + SIGTERM);
+  EXPECT_EQ(ignored.value(), 128 + SIGTERM);
+}
+
+TEST_F(ChildProcess, PassesArgumentsAsTheyAre) {
+  const std::string odd = "a  b'\"$HOME`*\\\n\xFF";
+  ASSERT_EQ(runSilently({"/bin/bash", {"-c", "printf %s \"$1\" > \"$2\"", "", odd, folder / "out"}})
+                .value(),
+            0);
+  EXPECT_EQ(contentOf(folder / "out"), odd);
+}
+
+TEST_F(ChildProcess, DiscardsWhatItSays) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  const auto status = runSilently(bash("echo output; echo errors >&2; exit 5"));
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_EQ(status.value(), 5);
+}
+
+TEST_F(ChildProcess, WritesToTheNullDevice) {
+  EXPECT_EQ(
+      runSilently(bash("[[ /proc/self/fd/1 -ef /dev/null && /proc/self/fd/2 -ef /dev/null ]]"))
+          .value(),
+      0);
+}
+
+TEST_F(ChildProcess, SpeaksOnThisProgramsStreamsWhenDetached) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  const auto error = startDetached(bash("echo output; echo errors >&2; : > " + (folder / "done")));
+  const bool done = waitUntil([&] { return std::filesystem::exists(folder / "done"); });
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "output\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "errors\n");
+  EXPECT_TRUE(done);
+  EXPECT_FALSE(error);
+}
+
+TEST_F(ChildProcess, HasASessionOfItsOwnWhenDetached) {
+  const auto told = folder / "told";
+  ASSERT_FALSE(startDetached(bash("read -ra stat < /proc/$$/stat; echo $(($$ - stat[5])) > " +
+                                  told + ".new; mv " + told + ".new " + told)));
+  ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(told); }));
+  EXPECT_EQ(contentOf(told), "0\n");
+}
+
+TEST_F(ChildProcess, IsNotWaitedForWhenDetached) {
+  const auto gate = folder / "gate";
+  // It comes to its end only after this has returned.
+  ASSERT_FALSE(startDetached(
+      bash("until [[ -e " + gate + " ]]; do sleep 0.01; done; : > " + gate + ".passed")));
+  EXPECT_FALSE(std::filesystem::exists(gate + ".passed"));
+  std::ofstream{gate};
+  EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(gate + ".passed"); }));
+}
+
+TEST_F(ChildProcess, IsAnErrorWhenItCannotBeStarted) {
+  std::ofstream(folder / "text") << "no program";
+  for (const auto& [path, message] : {std::pair{folder / "none", "No such file or directory"},
+                                      {folder.path(), "Permission denied"},
+                                      {folder / "text", "Permission denied"},
+                                      {folder / "text/x", "Not a directory"},
+                                      {std::string("bash"), "No such file or directory"},
+                                      {std::string(), "No such file or directory"}}) {
+    const auto status = runSilently({path, {}});
+    ASSERT_TRUE(status.has_error()) << path;
+    EXPECT_EQ(status.error().message(), message) << path;
+    EXPECT_EQ(startDetached({path, {}}).message(), message) << path;
+  }
+}
+
+}  // namespace
+}  // namespace quillmark::test

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/FileError.h"
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <boost/system/errc.hpp>
+
+namespace quillmark::test {
+namespace {
+
+namespace errc = boost::system::errc;
+using boost::system::error_code;
+
+TEST(FileErrors, SpeakToTheUser) {
+  EXPECT_EQ(error_code(FileError::notRegular).message(), "Not a regular file");
+  EXPECT_EQ(error_code(FileError::tooLarge).message(), "The file is too large");
+  EXPECT_EQ(error_code(FileError::notUtf8).message(), "The file is not UTF-8 text");
+  EXPECT_EQ(error_code(FileError::unquotablePath).message(),
+            "The application's path holds an apostrophe or a control character");
+}
+
+TEST(FileErrors, EqualPortableConditions) {
+  EXPECT_EQ(error_code(FileError::notRegular), errc::not_supported);
+  EXPECT_EQ(error_code(FileError::tooLarge), errc::file_too_large);
+  EXPECT_EQ(error_code(FileError::notUtf8), errc::illegal_byte_sequence);
+  EXPECT_EQ(error_code(FileError::unquotablePath), errc::invalid_argument);
+}
+
+TEST(FileErrors, AreErrorsAndDifferFromOneAnother) {
+  const std::set<error_code> all{FileError::notRegular, FileError::tooLarge, FileError::notUtf8,
+                                 FileError::unquotablePath};
+  EXPECT_EQ(all.size(), 4U);
+  for (const auto& error : all) {
+    EXPECT_TRUE(error);
+    EXPECT_STREQ(error.category().name(), "file");
+  }
+}
+
+}  // namespace
+}  // namespace quillmark::test

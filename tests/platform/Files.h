@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+#include <sys/stat.h>
+
+namespace quillmark::test {
+
+/// Every byte of the file at `path`; none when it cannot be read.
+[[nodiscard]] inline std::string contentOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The mode's permission bits, links followed; all ones when nothing is there.
+[[nodiscard]] inline mode_t modeOf(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : ~mode_t{0};
+}
+
+/// What lies in `folder`.
+[[nodiscard]] inline std::set<std::string> namesIn(const std::string& folder) {
+  std::set<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.insert(entry.path().filename());
+  }
+  return names;
+}
+
+}  // namespace quillmark::test

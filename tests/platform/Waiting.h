@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <chrono>
+#include <thread>
+
+namespace quillmark::test {
+
+/// Looks until `condition` holds; false when it does not for very long: a
+/// loaded machine must not decide a result.
+template <class Condition>
+[[nodiscard]] bool waitUntil(Condition condition) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > end) {
+      return false;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return true;
+}
+
+}  // namespace quillmark::test

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Token.h"
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "PrivateFile.h"
+#include "sample-agent/FixtureTree.h"
+#include "scan/SystemFile.h"
+
+namespace quillmark::sample {
+namespace {
+
+using test::FixtureTree;
+
+const std::string goodToken = "00112233445566778899aabbccddeeff00112233445566778899aabbccddeeff";
+
+std::string failureOf(const std::string& path) {
+  const auto token = loadOrMakeToken(path);
+  return token ? "no failure" : token.error().text;
+}
+
+TEST(TokenPath, IsSystemWideForRootOnly) {
+  EXPECT_EQ(tokenPath(0, "/root"), "/var/run/quillmark/token");
+  EXPECT_EQ(tokenPath(1000, "/home/ann"), "/home/ann/.quillmark/token");
+}
+
+TEST(LoadOrMakeToken, MakesAFileForThisUserAlone) {
+  const FixtureTree tree;
+  const auto token = loadOrMakeToken(tree.path("quillmark/token"));
+  ASSERT_TRUE(token) << token.error().text;
+  EXPECT_EQ(token->size(), 64U);
+  EXPECT_EQ(token->find_first_not_of("0123456789abcdef"), std::string::npos);
+  EXPECT_EQ(readSystemFile(tree.path("quillmark/token")), *token);
+  EXPECT_EQ(tree.mode("quillmark/token"), 0600U);
+  EXPECT_EQ(tree.mode("quillmark"), 0700U);
+  EXPECT_EQ(namesIn(tree.path("quillmark")), std::vector<std::string>{"token"})
+      << "nothing else is left behind";
+}
+
+TEST(LoadOrMakeToken, DependsOnNoUmask) {
+  const FixtureTree tree;
+  const mode_t former = umask(0277);
+  const auto token = loadOrMakeToken(tree.path("token"));
+  umask(former);
+  ASSERT_TRUE(token) << token.error().text;
+  EXPECT_EQ(tree.mode("token"), 0600U);
+}
+
+TEST(LoadOrMakeToken, GivesTheSameTokenAgain) {
+  const FixtureTree tree;
+  const auto first = loadOrMakeToken(tree.path("token"));
+  const auto second = loadOrMakeToken(tree.path("token"));
+  ASSERT_TRUE(first && second);
+  EXPECT_EQ(*first, *second);
+}
+
+TEST(LoadOrMakeToken, MakesAnotherTokenElsewhere) {
+  const FixtureTree tree;
+  const auto first = loadOrMakeToken(tree.path("a"));
+  const auto second = loadOrMakeToken(tree.path("b"));
+  ASSERT_TRUE(first && second);
+  EXPECT_NE(*first, *second);
+}
+
+TEST(LoadOrMakeToken, TakesATokenWithTheLineBreakOfAnEditor) {
+  const FixtureTree tree;
+  const auto token = loadOrMakeToken(tree.write("token", goodToken + "\r\n"));
+  ASSERT_TRUE(token) << token.error().text;
+  EXPECT_EQ(*token, goodToken);
+}
+
+TEST(LoadOrMakeToken, ClosesATokenThatOthersMayRead) {
+  const FixtureTree tree;
+  tree.write("token", goodToken);
+  tree.setMode("token", 0644);
+  const auto token = loadOrMakeToken(tree.path("token"));
+  ASSERT_TRUE(token);
+  EXPECT_EQ(*token, goodToken);
+  EXPECT_EQ(tree.mode("token"), 0600U);
+}
+
+TEST(LoadOrMakeToken, OverwritesNothingThatIsNoToken) {
+  const FixtureTree tree;
+  for (const std::string& content :
+       {std::string(), std::string("\n"), std::string("secret"), goodToken.substr(1),
+        goodToken + '0', goodToken + std::string(100, ' ') + 'x', goodToken.substr(0, 63) + 'G',
+        std::string(100, '\xFF')}) {
+    const auto path = tree.write("token", content);
+    EXPECT_TRUE(failureOf(path).starts_with(path + ": holds no token of this agent")) << content;
+    EXPECT_EQ(readSystemFile(path), content);
+  }
+}
+
+TEST(LoadOrMakeToken, ReadsRegularFilesOnly) {
+  const FixtureTree tree;
+  EXPECT_EQ(failureOf(tree.folder("folder")), tree.path("folder") + ": not a regular file");
+  ASSERT_EQ(mkfifo(tree.path("fifo").c_str(), 0600), 0);
+  EXPECT_EQ(failureOf(tree.path("fifo")), tree.path("fifo") + ": not a regular file");
+  const auto target = tree.write("target", goodToken);
+  EXPECT_EQ(failureOf(tree.link("link", target)), tree.path("link") + ": not a regular file");
+  EXPECT_EQ(failureOf(tree.link("dangling", "nowhere")),
+            tree.path("dangling") + ": not a regular file");
+}
+
+TEST(LoadOrMakeToken, TakesNoTokenOfAnotherUser) {
+  if (geteuid() != 0) {
+    GTEST_SKIP() << "only root can give a file away";
+  }
+  const FixtureTree tree;
+  const auto path = tree.write("token", goodToken);
+  ASSERT_EQ(chown(path.c_str(), 1000, 1000), 0);
+  EXPECT_EQ(failureOf(path), path + ": belongs to another user");
+}
+
+TEST(LoadOrMakeToken, FailsWhereNoFileCanBeMade) {
+  const FixtureTree tree;
+  tree.write("file", "");
+  EXPECT_NE(failureOf(tree.path("file/token")), "no failure");
+  EXPECT_NE(failureOf(tree.path("missing/folder/token")), "no failure");
+}
+
+TEST(LoadOrMakeToken, GivesOneTokenToAllThatStartAtOnce) {
+  for (int round = 0; round < 50; ++round) {
+    const FixtureTree tree;
+    constexpr std::size_t startCount = 8;
+    std::vector<std::string> tokens(startCount);
+    {
+      std::vector<std::jthread> starts;
+      starts.reserve(startCount);
+      for (auto& token : tokens) {
+        starts.emplace_back([&] {
+          const auto result = loadOrMakeToken(tree.path("quillmark/token"));
+          token = result ? *result : result.error().text;
+        });
+      }
+    }
+    EXPECT_EQ(std::set<std::string>(tokens.begin(), tokens.end()).size(), 1U) << tokens[0];
+    EXPECT_EQ(readSystemFile(tree.path("quillmark/token")), tokens[0]);
+    EXPECT_EQ(namesIn(tree.path("quillmark")).size(), 1U);
+  }
+}
+
+TEST(MakePrivateFile, TakesTheirPlaceFromNoOtherFile) {
+  const FixtureTree tree;
+  const auto path = tree.write("file", "old");
+  EXPECT_EQ(makePrivateFile(path, "new"), boost::system::errc::file_exists);
+  EXPECT_EQ(readSystemFile(path), "old");
+  EXPECT_EQ(namesIn(tree.root()).size(), 1U);
+}
+
+TEST(RandomHex, HasTwoDigitsAByte) {
+  EXPECT_EQ(randomHex(0), "");
+  EXPECT_EQ(randomHex(32).size(), 64U);
+  EXPECT_NE(randomHex(32), randomHex(32));
+}
+
+}  // namespace
+}  // namespace quillmark::sample

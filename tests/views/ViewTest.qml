@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtTest
+
+/// A test of built views: fails on any warning, and finds what is in a view.
+/// Only what can be seen is found.
+TestCase {
+    id: testCase
+
+    width: 1000
+    height: 700
+    visible: true
+    when: windowShown
+
+    function init() {
+        failOnWarning(/.?/);
+        setUp();
+    }
+
+    /// For test cases, before each test function.
+    function setUp() {
+    }
+
+    /// A view of this component, gone after the test function.
+    function make(component, properties) {
+        const view = createTemporaryObject(component, testCase, properties ?? {});
+        verify(view, "the view is built");
+        settle(view);
+        return view;
+    }
+
+    /// Waits until rows and columns have placed what is in them.
+    function settle(view) {
+        const isUnsettled = () => itemsIn(view).concat([view]).some(isPolishScheduled);
+        for (let i = 0; i < 1000 && isUnsettled(); ++i)
+            wait(1);
+        verify(!isUnsettled());
+    }
+
+    /// The items inside `root` that can be seen, outermost first.
+    function itemsIn(root) {
+        let found = [];
+        for (const child of Array.from(root.children)) {
+            if (child.visible)
+                found = found.concat([child], itemsIn(child));
+        }
+        return found;
+    }
+
+    /// Those of the type of this name.
+    function itemsOfType(root, name) {
+        return itemsIn(root).filter(item => isOfType(item, name));
+    }
+
+    function isOfType(item, name) {
+        return new RegExp("^(QQuick)?" + name + "(_QML|\\()").test(item.toString());
+    }
+
+    /// The one item of the type of this name.
+    function itemOfType(root, name) {
+        const found = itemsOfType(root, name);
+        compare(found.length, 1, "items of type " + name);
+        return found[0];
+    }
+
+    function labelsIn(root) {
+        return itemsIn(root).filter(item => item.textFormat !== undefined);
+    }
+
+    /// The texts that can be read in `root`, top to bottom.
+    function textsIn(root) {
+        return labelsIn(root).map(label => label.text);
+    }
+
+    /// The one label with this text.
+    function labelOf(root, text) {
+        const found = labelsIn(root).filter(label => label.text === text);
+        compare(found.length, 1, "labels with the text " + text);
+        return found[0];
+    }
+
+    function compareColor(actual, expected, what) {
+        verify(Qt.colorEqual(actual, expected), (what ?? "colour") + ": " + actual + ", not " + expected);
+    }
+
+    /// What a label of this size, weight and colour looks like.
+    function compareLabel(label, size, weight, color) {
+        compare(label.font.pixelSize, size, "size of " + label.text);
+        compare(label.font.weight, weight, "weight of " + label.text);
+        compareColor(label.color, color, "colour of " + label.text);
+        verify(!label.font.italic && !label.font.underline);
+        compare(label.textFormat, Text.PlainText);
+    }
+
+    /// Where `item` lies in `root`.
+    function boxIn(item, root) {
+        return item.mapToItem(root, 0, 0, item.width, item.height);
+    }
+
+    /// The room between two items that lie one under the other.
+    function roomBelow(upper, lower) {
+        return boxIn(lower, testCase).y - boxIn(upper, testCase).bottom;
+    }
+
+    /// The room between two items that lie side by side.
+    function roomBeside(left, right) {
+        return boxIn(right, testCase).x - boxIn(left, testCase).right;
+    }
+
+    /// Whether two items have the same middle, but for the half pixel that is
+    /// rounded away.
+    function compareMiddleHeight(one, other) {
+        const distance = middleHeight(one) - middleHeight(other);
+        verify(Math.abs(distance) <= 0.5, "middles are " + distance + " apart");
+    }
+
+    function middleHeight(item) {
+        const box = boxIn(item, testCase);
+        return box.y + box.height / 2;
+    }
+}

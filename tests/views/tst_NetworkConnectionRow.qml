@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Tests
+import Quillmark.Views
+
+ViewTest {
+    name: "NetworkConnectionRow"
+
+    function row(address, port, state) {
+        return make(component, { width: 600, connection: Sample.connection(address, port, state) });
+    }
+
+    function test_texts() {
+        const view = row("127.0.0.1", "7823", "ESTABLISHED");
+        compare(textsIn(view), ["127.0.0.1:7823", "→ 127.0.0.1:7823", "ESTABLISHED"]);
+        compareLabel(labelOf(view, "127.0.0.1:7823"), 13, Font.DemiBold, Theme.text);
+        compareLabel(labelOf(view, "→ 127.0.0.1:7823"), 12, Font.Normal, Theme.gray);
+        compareLabel(labelOf(view, "ESTABLISHED"), 11, Font.Normal, Theme.blue);
+    }
+
+    function test_emptyFields() {
+        compare(textsIn(row("", "", "")), [":", "→ :", ""]);
+    }
+
+    function test_ipv6AddressHasNoBrackets() {
+        compare(textsIn(row("fe80::1", "22", "LISTEN"))[0], "fe80::1:22");
+    }
+
+    function test_layout() {
+        const view = row("127.0.0.1", "7823", "ESTABLISHED");
+        const local = labelOf(view, "127.0.0.1:7823");
+        const remote = labelOf(view, "→ 127.0.0.1:7823");
+        compare(boxIn(local, view).x, 0);
+        compare(boxIn(remote, view).x, 0);
+        compare(boxIn(local, view).y, 8);
+        compare(roomBelow(local, remote), 4);
+        compare(view.implicitHeight, 8 + local.height + 4 + remote.height + 8);
+    }
+
+    function test_stateIsCentredAtTheTrailingEdge() {
+        const view = row("127.0.0.1", "7823", "ESTABLISHED");
+        const state = labelOf(view, "ESTABLISHED");
+        compare(boxIn(state, view).right, view.width);
+        compareMiddleHeight(state, view);
+    }
+
+    function test_isOneHeightWhateverTheState() {
+        compare(row("a", "1", "").implicitHeight, row("a", "1", "ESTABLISHED").implicitHeight);
+    }
+
+    Component {
+        id: component
+
+        NetworkConnectionRow {}
+    }
+}

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtTest
+import Quillmark.Views
+
+ViewTest {
+    name: "Pressable"
+
+    function pressable() {
+        const view = make(component, { width: 100, height: 40, label: "press" });
+        pressed.target = view;
+        pressed.clear();
+        return view;
+    }
+
+    function ringOf(view) {
+        return itemsOfType(view, "FocusRing");
+    }
+
+    function test_click() {
+        mouseClick(pressable());
+        compare(pressed.count, 1);
+    }
+
+    function test_clickBeside() {
+        const view = pressable();
+        mouseClick(view.parent, view.width + 50, 20);
+        compare(pressed.count, 0);
+    }
+
+    function test_keys_data() {
+        return [
+            { tag: "Space", key: Qt.Key_Space, count: 1 },
+            { tag: "Return", key: Qt.Key_Return, count: 1 },
+            { tag: "Enter", key: Qt.Key_Enter, count: 1 },
+            { tag: "a letter", key: Qt.Key_A, count: 0 }
+        ];
+    }
+
+    function test_keys(data) {
+        const view = pressable();
+        view.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(data.key);
+        compare(pressed.count, data.count);
+    }
+
+    function test_keysGoToTheFocusOnly() {
+        pressable();
+        keyClick(Qt.Key_Space);
+        compare(pressed.count, 0);
+    }
+
+    function test_tabReachesIt() {
+        const first = pressable();
+        const second = make(component, { y: 50, width: 100, height: 40, label: "next" });
+        first.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Tab);
+        verify(second.activeFocus);
+        keyClick(Qt.Key_Backtab);
+        verify(first.activeFocus);
+    }
+
+    function test_focusIsVisible() {
+        const view = pressable();
+        compare(ringOf(view).length, 0);
+        view.forceActiveFocus(Qt.TabFocusReason);
+        const ring = ringOf(view)[0];
+        verify(ring, "there is a ring");
+        verify(ring.border.width >= 2);
+        compareColor(ring.border.color, Theme.blue);
+    }
+
+    function test_hover() {
+        const view = pressable();
+        mouseMove(view, 10, 10);
+        tryVerify(() => view.hovered);
+        mouseMove(view.parent, 300, 300);
+        tryVerify(() => !view.hovered);
+    }
+
+    function test_accessible() {
+        const view = pressable();
+        compare(view.Accessible.role, Accessible.Button);
+        compare(view.Accessible.name, "press");
+        verify(view.Accessible.focusable);
+        view.Accessible.pressAction();
+        compare(pressed.count, 1);
+    }
+
+    Component {
+        id: component
+
+        Pressable {}
+    }
+
+    SignalSpy {
+        id: pressed
+
+        signalName: "pressed"
+    }
+}
