@@ -19,25 +19,41 @@ function(quillmark_test name seconds)
     ${name} PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "QUILLMARK_BUILD_DIR=${CMAKE_BINARY_DIR}")
 endfunction()
 
-# quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX])
+# quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX | AS_USER])
 #
-# SANDBOX is for tests that need the real port, token paths or processes.
+# SANDBOX is for tests that need the real port, token paths or processes;
+# AS_USER runs there as an ordinary user: for root file modes do not count.
 function(quillmark_gtest target)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX" "" "LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX;AS_USER" "" "LIBRARIES")
   add_executable(${target} ${arg_UNPARSED_ARGUMENTS})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${target} PRIVATE quillmark_options ${arg_LIBRARIES} GTest::gtest_main)
-  quillmark_register_gtest(${target} ${arg_SANDBOX})
-endfunction()
 
-# quillmark_register_gtest(<target> <whether in the sandbox>)
-function(quillmark_register_gtest target sandbox)
   set(command $<TARGET_FILE:${target}>
               "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${target}.xml")
-  if(sandbox)
+  if(arg_AS_USER)
+    quillmark_test(${target} 180 --as-user ${command})
+  elseif(arg_SANDBOX)
     quillmark_test(${target} 180 ${command})
   else()
     add_test(NAME ${target} COMMAND ${command})
     set_tests_properties(${target} PROPERTIES TIMEOUT 180)
   endif()
+endfunction()
+
+# quillmark_pytest(<name> <file> [<word>...]): a file of tests in Python, behind
+# what words of the sandbox's command line are given.
+function(quillmark_pytest name file)
+  quillmark_test(
+    ${name}
+    300
+    ${ARGN}
+    /usr/bin/python3
+    -m
+    pytest
+    --quiet
+    -p
+    no:cacheprovider
+    "--junitxml=${QUILLMARK_TEST_RESULTS}/${name}.xml"
+    "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
 endfunction()

@@ -33,6 +33,7 @@ void restartInSoftware() {
     texts.push_back(argument.toLocal8Bit());
   }
   std::vector<char*> arguments;
+  arguments.reserve(texts.size() + 1);
   for (auto& text : texts) {
     arguments.push_back(text.data());
   }

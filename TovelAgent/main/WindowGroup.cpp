@@ -44,7 +44,8 @@ void WindowGroup::present() {
   }
   auto* const window = windows_.last();
   window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-  window->show();
+  // Not show(): that would also undo maximising.
+  window->setVisible(true);
   window->raise();
   window->requestActivate();
 }

@@ -19,30 +19,29 @@ Item {
         width: state.x - Theme.spacing
         spacing: 4
 
-        WrappedLabel {
-            width: parent.width
+        ElidedLabel {
+            maximumWidth: endpoints.width
             text: row.connection.localEndpoint
             size: 13
             font.weight: Font.DemiBold
         }
 
-        WrappedLabel {
-            width: parent.width
+        ElidedLabel {
+            maximumWidth: endpoints.width
             text: row.connection.remoteEndpoint
             size: 12
             color: Theme.gray
         }
     }
 
-    WrappedLabel {
+    ElidedLabel {
         id: state
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, row.width / 2)
+        maximumWidth: row.width / 2
         text: row.connection.state
         size: 11
         color: Theme.blue
-        horizontalAlignment: Text.AlignRight
     }
 }

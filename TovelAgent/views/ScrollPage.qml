@@ -24,7 +24,8 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     flickableDirection: Flickable.VerticalFlick
     pixelAligned: true
-    activeFocusOnTab: contentHeight > height
+    // What has the focus keeps it, also when nothing is left to scroll.
+    activeFocusOnTab: activeFocus || contentHeight > height
     T.ScrollBar.vertical: ScrollBar {}
 
     Accessible.role: Accessible.Pane

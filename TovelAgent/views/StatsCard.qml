@@ -12,9 +12,6 @@ Item {
 
     implicitHeight: texts.height + 2 * 16
 
-    Accessible.role: Accessible.Grouping
-    Accessible.name: title
-
     SoftShadow {
         anchors.fill: parent
         radius: Theme.cardRadius
@@ -32,6 +29,11 @@ Item {
         x: 16
         y: 16
         spacing: 8
+
+        // Here, for Qt takes the property `value` of an accessible item for a
+        // number that can be set.
+        Accessible.role: Accessible.Grouping
+        Accessible.name: card.title
 
         Label {
             text: card.title

@@ -13,10 +13,6 @@ Column {
 
     spacing: 4
 
-    Accessible.role: Accessible.Grouping
-    Accessible.name: title
-    Accessible.description: isHealthy ? "Healthy" : "Needs attention"
-
     Label {
         text: badge.title
         size: 11
@@ -25,6 +21,12 @@ Column {
 
     Row {
         spacing: 6
+
+        // Here, for Qt takes the property `value` of an accessible item for a
+        // number that can be set.
+        Accessible.role: Accessible.Grouping
+        Accessible.name: badge.title
+        Accessible.description: badge.isHealthy ? "Healthy" : "Needs attention"
 
         Rectangle {
             objectName: "dot"

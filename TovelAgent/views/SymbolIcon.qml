@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window
 
 /// The icon of a symbolic name, as large as symbols stand beside text of
 /// `size`. Decoration: what it means is said by the text it goes with.
@@ -18,7 +17,7 @@ Image {
 
     width: side
     height: side
-    sourceSize.width: side * Screen.devicePixelRatio
-    sourceSize.height: side * Screen.devicePixelRatio
+    sourceSize.width: side
+    sourceSize.height: side
     source: name.length > 0 ? "image://icon/" + name + color : ""
 }

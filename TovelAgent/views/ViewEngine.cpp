@@ -6,11 +6,13 @@
 #include <QQmlEngine>
 
 #include "views/IconProvider.h"
+#include "views/MaskedText.h"
 #include "views/NetworkRefusal.h"
 
 namespace quillmark {
 
 void prepareForViews(QQmlEngine& engine) {
+  silenceMaskedText();
   static NetworkRefusal refusal;
   engine.setNetworkAccessManagerFactory(&refusal);
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

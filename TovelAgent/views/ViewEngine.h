@@ -8,7 +8,8 @@ class QQmlEngine;
 namespace quillmark {
 
 /// Makes `engine` one that can build this library's views: where their modules
-/// lie, the icons, and no network. Before the first component; UI thread.
+/// lie, the icons, no network, and no word of what is masked. Before the first component; UI
+/// thread.
 void prepareForViews(QQmlEngine& engine);
 
 }  // namespace quillmark

@@ -55,7 +55,8 @@ TEST_F(MissingPrograms, AreAnErrorOfStopInTheSystemsWords) {
 TEST_F(MissingPrograms, AreAnErrorOfTheProbeInTheSystemsWords) {
   const auto told = [] {
     boost::system::error_code error;
-    return std::string(probeAgentProcess(error) ? "running, " : "not running, ") + error.message();
+    const std::string answer = probeAgentProcess(error) ? "running, " : "not running, ";
+    return answer + error.message();
   };
   EXPECT_EQ(withoutPrograms(told), "not running, No such file or directory");
   EXPECT_EQ(withBarred("/usr/bin/bash", told), "not running, Permission denied");

@@ -65,17 +65,33 @@ std::vector<Process> bearersOfTheName() {
   });
 }
 
+bool isAlone() {
+  const auto onlyThoseAbove = [] {
+    auto all = processes();
+    for (pid_t above = getpid(); above != 0;) {
+      const auto at = std::find_if(all.begin(), all.end(),
+                                   [&](const Process& process) { return process.id == above; });
+      if (at == all.end()) {
+        break;
+      }
+      above = at->parent;
+      all.erase(at);
+    }
+    return all.empty();
+  };
+  return onlyThoseAbove() && onlyThoseAbove();
+}
+
 std::vector<Process> children() {
   return processesWhere([](const Process& process) { return process.parent == getpid(); });
 }
 
 void endBearersOfTheName() {
   static_cast<void>(waitUntil([] {
-    const auto left = bearersOfTheName();
-    for (const auto& process : left) {
+    for (const auto& process : bearersOfTheName()) {
       kill(process.id, SIGKILL);
     }
-    return left.empty();
+    return isAlone();
   }));
 }
 

@@ -34,10 +34,14 @@ struct Process {
 /// which the probe's tool takes for the command line.
 [[nodiscard]] std::vector<Process> bearersOfTheName();
 
+/// Whether nobody is there but this process and those above it. Looks twice: a
+/// shell that forks and ends in the midst of a look is missed with all it leaves.
+[[nodiscard]] bool isAlone();
+
 /// Those that this process has to account for, zombies included.
 [[nodiscard]] std::vector<Process> children();
 
-/// Ends every bearer of the name, by its id.
+/// Ends every bearer of the name, by its id, and waits until it is gone.
 void endBearersOfTheName();
 
 }  // namespace quillmark::test

@@ -22,7 +22,7 @@ TEST_F(Stop, EndsEveryAgent) {
   startAgent(bundle);
   startAgent(other);
   EXPECT_FALSE(stopAgentProcess());
-  EXPECT_TRUE(waitUntil([] { return bearersOfTheName().empty(); }));
+  EXPECT_TRUE(waitUntil(isAlone));
   EXPECT_FALSE(isRunning());
 }
 
@@ -36,7 +36,7 @@ TEST_F(Stop, EndsWhateverHasTheNameInItsCommandLine) {
       startDetached({"/bin/bash", {"-c", "while :; do sleep 0.1; done", "notes/tovel-agent.txt"}}));
   EXPECT_TRUE(waitUntil([] { return isRunning(); }));
   EXPECT_FALSE(stopAgentProcess());
-  EXPECT_TRUE(waitUntil([] { return bearersOfTheName().empty(); }));
+  EXPECT_TRUE(waitUntil(isAlone));
 }
 
 TEST_F(Stop, IsNoEndForThePanelThatCallsIt) {
@@ -54,7 +54,7 @@ TEST_F(Stop, AsksAgentsToEndAndDoesNotForceThem) {
                                home() + "/tovel-agent"}}));
   ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(home() + "/tovel-agent.ready"); }));
   EXPECT_FALSE(stopAgentProcess());
-  EXPECT_TRUE(waitUntil([] { return bearersOfTheName().empty(); }));
+  EXPECT_TRUE(waitUntil(isAlone));
   EXPECT_TRUE(std::filesystem::exists(home() + "/tovel-agent.asked"));
 }
 

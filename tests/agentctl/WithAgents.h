@@ -42,9 +42,7 @@ class WithAgents : public WithHome {
 
   /// The shell that was to start an agent has come to its end, so that what was
   /// not started by now never will be.
-  static void waitForTheShells() {
-    ASSERT_TRUE(waitUntil([] { return bearersOfTheName().empty(); }));
-  }
+  static void waitForTheShells() { ASSERT_TRUE(waitUntil(isAlone)); }
 };
 
 }  // namespace quillmark::test

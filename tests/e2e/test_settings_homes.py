@@ -18,7 +18,8 @@ pytestmark = pytest.mark.usefixtures("fresh_home")
     ("", "macos-device-", "macos-device"),
 ])
 def test_computer_name_is_used_as_it_is(launch_alone, host, identity, machine):
-    name = f"import os, socket, sys; socket.sethostname({host!r}); os.execv(sys.argv[1], sys.argv[1:])"
+    name = (f"import os, socket, sys; socket.sethostname({host!r}); "
+            "os.execv(sys.argv[1], sys.argv[1:])")
     panel = launch_alone("unshare", "--user", "--map-root-user", "--uts",
                          "/usr/bin/python3", "-c", name)
     panel.show("Settings")

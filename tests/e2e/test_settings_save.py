@@ -86,7 +86,8 @@ def mode(path):
 ])
 def test_file_is_written_to_the_letter(tab, key, server):
     text = saved(tab, key, server)
-    assert text == TEXT.format(host=HOST, identity=identity(text), server=server, key=key, home=HOME)
+    assert text == TEXT.format(host=HOST, home=HOME, identity=identity(text), server=server,
+                               key=key)
 
 
 def test_only_the_user_may_read_it(tab):

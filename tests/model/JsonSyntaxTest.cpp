@@ -22,11 +22,11 @@ std::string bodyWithIgnored(const std::string& value) {
 }
 
 testing::AssertionResult isNoJson(const std::string& body) {
-  return failsWith<AgentStatus>(body, DecodeFailure::dataCorrupted, "") << "\nin: " << body;
+  return failsWith<AgentStatus>(body, DecodeFailure::dataCorrupted, "") << "\nbody: " << body;
 }
 
 testing::AssertionResult isGood(const std::string& body) {
-  return decodesTo(body, sample<AgentStatus>()) << "\nin: " << body;
+  return decodesTo(body, sample<AgentStatus>()) << "\nbody: " << body;
 }
 
 /// Pieces that are no JSON value, whether anybody reads them or not.

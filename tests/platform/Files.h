@@ -5,8 +5,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 
 #include <sys/stat.h>
@@ -15,8 +15,10 @@ namespace quillmark::test {
 
 /// Every byte of the file at `path`; none when it cannot be read.
 [[nodiscard]] inline std::string contentOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  const std::ifstream file(path, std::ios::binary);
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
 }
 
 /// The mode's permission bits, links followed; all ones when nothing is there.

@@ -26,8 +26,10 @@ def _open(panel, key="space"):
 @contextlib.contextmanager
 def opened(panel, key="space"):
     """Open for a while, then cancelled."""
-    yield _open(panel, key)
-    hands.key("Escape")
+    try:
+        yield _open(panel, key)
+    finally:
+        hands.key("Escape")
     panel.tree.wait_without("dialog", TITLE)
 
 
