@@ -49,7 +49,7 @@ ViewTest {
 
     function test_accessible() {
         const view = card();
-        compare(view.Accessible.name, "Recent Alerts");
+        compare(labelOf(view, "Recent Alerts").parent.Accessible.name, "Recent Alerts");
     }
 
     Component {

@@ -59,8 +59,9 @@ ViewTest {
     // The dot's colour is nothing to those who cannot see it.
     function test_accessible(data) {
         const view = badge(data.isHealthy);
-        compare(view.Accessible.name, "Status");
-        compare(view.Accessible.description, data.description);
+        const value = labelsIn(view)[1].parent;
+        compare(value.Accessible.name, "Status");
+        compare(value.Accessible.description, data.description);
     }
 
     Component {
