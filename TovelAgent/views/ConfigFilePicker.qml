@@ -3,11 +3,23 @@
 
 import QtQuick
 import QtQuick.Dialogs
+import Quillmark.Settings
 
 /// The open dialog for a configuration file; the desktop's own if it has one.
 FileDialog {
+    required property SettingsState settings
+    /// Has the keyboard again afterwards; Qt's own dialog leaves it with nobody.
+    required property Item opener
+
     title: "Select config.toml file"
     acceptLabel: "Import"
     fileMode: FileDialog.OpenFile
     nameFilters: ["Configuration files (*.toml *.txt)", "All files (*)"]
+    onAccepted: settings.fileChosen(selectedFile)
+    onVisibleChanged: {
+        if (!visible)
+            opener.forceActiveFocus();
+    }
+
+    Component.onCompleted: open()
 }

@@ -15,11 +15,10 @@ Rectangle {
         id: settings
 
         Component.onCompleted: appear()
-        onPickerRequested: {
-            if (picker.active)
-                picker.item.open();
-            picker.active = true;
-        }
+        onPickerRequested: picker.setSource("ConfigFilePicker.qml", {
+            settings: settings,
+            opener: advanced.browse
+        })
         onStatusChanged: page.reveal(advanced.notice)
     }
 
@@ -50,24 +49,5 @@ Rectangle {
     // Only made when asked for: a dialog costs more than the whole tab.
     Loader {
         id: picker
-
-        active: false
-        source: "ConfigFilePicker.qml"
-        onLoaded: item.open()
-    }
-
-    Connections {
-        target: picker.item
-
-        function onAccepted() {
-            settings.fileChosen(picker.item.selectedFile);
-        }
-
-        // Qt's own dialog leaves the keyboard with nobody.
-        function onVisibleChanged() {
-            if (!picker.item.visible) {
-                advanced.browse.forceActiveFocus();
-            }
-        }
     }
 }
