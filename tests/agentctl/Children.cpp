@@ -5,32 +5,30 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
-#include <sched.h>
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace quillmark::test {
-namespace {
-
-/// The first line on the standard output of a child that runs `body`. What the
-/// child started may live on and keep that output open, so nobody waits for
-/// its end.
-std::string firstLineFrom(const std::function<void()>& body) {
+// The first line of the child's output. What the child started may live on and
+// keep that output open, so nobody waits for its end.
+std::string firstLineOf(const std::vector<std::string>& program) {
   std::array<int, 2> ends{};
-  if (pipe(ends.data()) != 0) {
+  if (pipe2(ends.data(), O_CLOEXEC) != 0) {
     return std::strerror(errno);
   }
+  std::vector<char*> arguments;
+  for (const auto& argument : program) {
+    arguments.push_back(const_cast<char*>(argument.c_str()));
+  }
+  arguments.push_back(nullptr);
   const pid_t child = fork();
   if (child == 0) {
     dup2(ends[1], STDOUT_FILENO);
-    close(ends[0]);
-    close(ends[1]);
-    body();
-    std::fflush(stdout);
-    _exit(0);
+    execv(arguments.front(), arguments.data());
+    _exit(127);
   }
   close(ends[1]);
   std::string line;
@@ -42,25 +40,13 @@ std::string firstLineFrom(const std::function<void()>& body) {
   return line;
 }
 
-}  // namespace
-
-std::string firstLineOf(const std::vector<std::string>& program) {
-  std::vector<char*> arguments;
-  for (const auto& argument : program) {
-    arguments.push_back(const_cast<char*>(argument.c_str()));
-  }
-  arguments.push_back(nullptr);
-  return firstLineFrom([&] {
-    execv(arguments.front(), arguments.data());
-    std::puts(std::strerror(errno));
-  });
-}
-
-std::string inNamespaces(int flags, const std::function<std::string()>& action) {
-  return firstLineFrom([&] {
-    const bool unshared = unshare(flags | CLONE_NEWUSER) == 0;
-    std::puts(unshared ? action().c_str() : std::strerror(errno));
-  });
+std::string elsewhere(const std::vector<std::string>& options,
+                      const std::vector<std::string>& action) {
+  std::vector<std::string> program{"/usr/bin/bwrap", "--dev-bind", "/", "/"};
+  program.insert(program.end(), options.begin(), options.end());
+  program.insert(program.end(), {"--", QUILLMARK_AGENTCTL_DRIVER});
+  program.insert(program.end(), action.begin(), action.end());
+  return firstLineOf(program);
 }
 
 }  // namespace quillmark::test

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,9 +11,9 @@ namespace quillmark::test {
 /// The first line that a program prints.
 [[nodiscard]] std::string firstLineOf(const std::vector<std::string>& program);
 
-/// What `action` returns in a child process that has namespaces of its own:
-/// `flags` as for unshare(2). A user namespace comes with them, so that it may
-/// change what is in them.
-[[nodiscard]] std::string inNamespaces(int flags, const std::function<std::string()>& action);
+/// The first line that the driver prints for `action` on a machine that differs
+/// from this one by `options`, which are bubblewrap's.
+[[nodiscard]] std::string elsewhere(const std::vector<std::string>& options,
+                                    const std::vector<std::string>& action);
 
 }  // namespace quillmark::test

@@ -13,6 +13,7 @@
 
 #include "agentctl/AgentProcess.h"
 #include "agentctl/ConfigFile.h"
+#include "platform/ComputerName.h"
 
 namespace {
 
@@ -44,6 +45,9 @@ std::string act(const std::string& action, const std::string& argument) {
   }
   if (action == "import") {
     return told(importConfigFile(argument));
+  }
+  if (action == "name") {
+    return computerName().value_or("none");
   }
   return "no such action";
 }
