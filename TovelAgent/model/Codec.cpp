@@ -3,37 +3,21 @@
 
 #include "model/Codec.h"
 
-#include <boost/json/monotonic_resource.hpp>
-#include <boost/json/parse.hpp>
+#include <utility>
+
 #include <boost/json/serialize.hpp>
 
 #include "model/JsonReader.h"
+#include "model/JsonShape.h"
 #include "model/JsonWriter.h"
 
 namespace quillmark {
-namespace {
-
-// Deep enough that no ignored value of a sensible body refuses it, shallow
-// enough that a hostile one cannot exhaust the stack.
-constexpr std::size_t maxNesting = 512;
-
-}  // namespace
 
 template <Record R>
 Decoded<R> decode(std::string_view json) {
-  boost::json::monotonic_resource arena;
-  boost::json::parse_options options;
-  options.max_depth = maxNesting;
-  boost::json::error_code failure;
-  const auto document = boost::json::parse({json.data(), json.size()}, failure, &arena, options);
-  if (failure) {
-    return DecodeError{DecodeFailure::dataCorrupted, {}, failure.message()};
-  }
-
   R record;
-  JsonReader reader;
-  if (!reader.read(document, record)) {
-    return reader.error();
+  if (auto failure = readJson(json, JsonShapeOf<R>::shape, &record)) {
+    return std::move(*failure);
   }
   return record;
 }

@@ -10,6 +10,8 @@
 namespace quillmark {
 namespace {
 
+// The base class is never deleted through, so its destructor is not virtual.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor,*-non-virtual-destructor)
 class Category final : public boost::system::error_category {
  public:
   [[nodiscard]] const char* name() const noexcept override { return "file"; }

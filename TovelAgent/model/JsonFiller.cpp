@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "model/JsonFiller.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <functional>
+
+namespace quillmark {
+namespace {
+
+using Kind = JsonShape::Kind;
+
+std::string_view nameOf(Kind kind) {
+  switch (kind) {
+    case Kind::boolean:
+      return "boolean";
+    case Kind::integer:
+      return "integer";
+    case Kind::string:
+      return "string";
+    case Kind::array:
+      return "array";
+    case Kind::object:
+      break;
+  }
+  return "object";
+}
+
+/// The failure as it is told one step further out.
+DecodeError within(std::string step, DecodeError failure) {
+  const bool separate = !failure.path.empty() && failure.path.front() != '[';
+  failure.path = std::move(step) + (separate ? "." : "") + failure.path;
+  return failure;
+}
+
+}  // namespace
+
+bool JsonFiller::on_object_begin(ErrorCode& /*error*/) {
+  begin(Kind::object);
+  return true;
+}
+
+bool JsonFiller::on_object_end(std::size_t /*count*/, ErrorCode& /*error*/) {
+  end();
+  return true;
+}
+
+bool JsonFiller::on_array_begin(ErrorCode& /*error*/) {
+  begin(Kind::array);
+  return true;
+}
+
+bool JsonFiller::on_array_end(std::size_t /*count*/, ErrorCode& /*error*/) {
+  end();
+  return true;
+}
+
+bool JsonFiller::on_key_part(Text text, std::size_t /*size*/, ErrorCode& /*error*/) {
+  // More than this is no key of any record.
+  constexpr std::size_t enough = 256;
+  key_.append(text.substr(0, enough - std::min(enough, key_.size())));
+  return true;
+}
+
+bool JsonFiller::on_key(Text text, std::size_t size, ErrorCode& error) {
+  heard(text);
+  if (ignoredDepth_ > 0) {
+    return true;
+  }
+  if (key_.empty()) {
+    chooseMember({text.data(), text.size()});
+    return true;
+  }
+  on_key_part(text, size, error);
+  chooseMember(key_);
+  key_.clear();
+  return true;
+}
+
+bool JsonFiller::on_string_part(Text text, std::size_t /*size*/, ErrorCode& /*error*/) {
+  if (!inString_) {
+    inString_ = true;
+    beginString();
+  }
+  if (string_ != nullptr) {
+    string_->append(text.data(), text.size());
+  }
+  return true;
+}
+
+bool JsonFiller::on_string(Text text, std::size_t size, ErrorCode& error) {
+  heard(text);
+  on_string_part(text, size, error);
+  inString_ = false;
+  if (std::exchange(string_, nullptr) != nullptr) {
+    came();
+  }
+  return true;
+}
+
+bool JsonFiller::on_int64(std::int64_t value, Text /*text*/, ErrorCode& /*error*/) {
+  number(value);
+  return true;
+}
+
+// Comes for what is beyond the range of the signed one.
+bool JsonFiller::on_uint64(std::uint64_t /*value*/, Text /*text*/, ErrorCode& /*error*/) {
+  number(std::nullopt);
+  return true;
+}
+
+bool JsonFiller::on_double(double value, Text /*text*/, ErrorCode& /*error*/) {
+  // 2.0 and 1e3 are integers as well. Below 2^63 on either side the conversion
+  // is exact; what reads as -2^63 may be a number beyond it that was rounded.
+  constexpr double limit = 9223372036854775808.0;
+  const bool whole = value > -limit && value < limit && std::trunc(value) == value;
+  number(whole ? std::optional(static_cast<std::int64_t>(value)) : std::nullopt);
+  return true;
+}
+
+bool JsonFiller::on_bool(bool flag, ErrorCode& /*error*/) {
+  const auto target = nextTarget();
+  if (target.shape == nullptr) {
+    return true;
+  }
+  if (target.shape->kind != Kind::boolean) {
+    mismatch(target, "boolean");
+    return true;
+  }
+  *static_cast<bool*>(target.place) = flag;
+  came();
+  return true;
+}
+
+bool JsonFiller::on_null(ErrorCode& /*error*/) {
+  const auto* const member = currentMember();
+  if (member != nullptr && member->forget != nullptr) {
+    member->forget(open_.back().target.place);
+    came();
+  } else if (const auto target = nextTarget(); target.shape != nullptr) {
+    mismatch(target, "null");
+  }
+  return true;
+}
+
+/// The member whose value comes next; null if it is none's.
+const JsonMember* JsonFiller::currentMember() const {
+  if (ignoredDepth_ > 0 || open_.empty() || open_.back().current == none) {
+    return nullptr;
+  }
+  const auto& [shape, place] = open_.back().target;
+  return shape->kind == Kind::object ? &shape->members[open_.back().current] : nullptr;
+}
+
+JsonFiller::Target JsonFiller::nextTarget() {
+  if (ignoredDepth_ > 0) {
+    return {};
+  }
+  if (open_.empty()) {
+    return root_;
+  }
+  if (open_.back().target.shape->kind == Kind::array) {
+    return nextElement(open_.back());
+  }
+  const auto* const member = currentMember();
+  return member == nullptr ? Target{}
+                           : Target{member->shape, member->place(open_.back().target.place)};
+}
+
+JsonFiller::Target JsonFiller::nextElement(Open& array) const {
+  if (!array.failures.empty()) {
+    return {};
+  }
+  ++array.current;
+  const auto& [shape, place] = array.target;
+  // What was read tells how many will come. Reserved in vain this costs
+  // nothing; growing without it holds the elements twice.
+  constexpr std::size_t enough = 32;
+  if (array.current >= enough && std::has_single_bit(array.current)) {
+    const auto read = static_cast<double>(position_ - array.start);
+    const auto left = static_cast<double>(json_.data() + json_.size() - position_);
+    const auto more = static_cast<double>(array.current) * left / std::max(read, 1.0);
+    constexpr double margin = 1.02;
+    shape->reserve(place, array.current + 1 + static_cast<std::size_t>(more * margin));
+  }
+  return {shape->element, shape->append(place)};
+}
+
+void JsonFiller::chooseMember(std::string_view key) {
+  auto& record = open_.back();
+  const auto& members = record.target.shape->members;
+  // Most agents keep to the table's order.
+  const std::size_t next = record.current + 1;
+  if (next < members.size() && members[next].key == key) {
+    record.current = next;
+    return;
+  }
+  const auto found = std::ranges::find(members, key, &JsonMember::key);
+  record.current =
+      found == members.end() ? none : static_cast<std::size_t>(found - members.begin());
+}
+
+void JsonFiller::begin(Kind kind) {
+  const auto target = nextTarget();
+  if (target.shape == nullptr) {
+    ++ignoredDepth_;
+  } else if (target.shape->kind != kind) {
+    mismatch(target, nameOf(kind));
+    ++ignoredDepth_;
+  } else {
+    if (kind == Kind::array) {
+      target.shape->clear(target.place);
+    }
+    open_.push_back({target, position_});
+  }
+}
+
+void JsonFiller::end() {
+  if (ignoredDepth_ > 0) {
+    --ignoredDepth_;
+    return;
+  }
+  auto ended = std::move(open_.back());
+  open_.pop_back();
+  const auto& members = ended.target.shape->members;
+  for (std::size_t index = 0; index < members.size(); ++index) {
+    const bool came = (ended.seen >> index & 1) != 0;
+    if (!came && members[index].forget == nullptr) {
+      ended.failures.push_back(
+          {index,
+           {DecodeFailure::keyNotFound, std::string(members[index].key), "required key missing"}});
+    }
+  }
+  if (ended.failures.empty()) {
+    came();
+  } else {
+    fail(std::move(std::ranges::min_element(ended.failures, {}, [](const auto& failure) {
+                     return failure.first;
+                   })->second));
+  }
+}
+
+void JsonFiller::beginString() {
+  const auto target = nextTarget();
+  if (target.shape == nullptr) {
+    return;
+  }
+  if (target.shape->kind != Kind::string) {
+    mismatch(target, "string");
+    return;
+  }
+  string_ = static_cast<std::string*>(target.place);
+  string_->clear();
+}
+
+void JsonFiller::number(std::optional<std::int64_t> whole) {
+  const auto target = nextTarget();
+  if (target.shape == nullptr) {
+    return;
+  }
+  if (target.shape->kind != Kind::integer) {
+    mismatch(target, "number");
+  } else if (!whole) {
+    fail({DecodeFailure::dataCorrupted, {}, "a whole number of 64 bits expected"});
+  } else {
+    *static_cast<std::int64_t*>(target.place) = *whole;
+    came();
+  }
+}
+
+// A text that had to be unescaped lies elsewhere and tells nothing.
+void JsonFiller::heard(Text text) {
+  const auto* const end = json_.data() + json_.size();
+  if (!std::less<>()(text.data(), position_) && !std::less<>()(end, text.data())) {
+    position_ = text.data();
+  }
+}
+
+// The value that is read has come, and what failed of it before counts no more.
+void JsonFiller::came() {
+  if (open_.empty()) {
+    return;
+  }
+  auto& around = open_.back();
+  if (around.target.shape->kind == Kind::object) {
+    around.seen |= std::uint64_t{1} << around.current;
+    std::erase_if(around.failures,
+                  [&](const auto& earlier) { return earlier.first == around.current; });
+  }
+}
+
+void JsonFiller::fail(DecodeError failure) {
+  if (open_.empty()) {
+    failure_ = std::move(failure);
+    return;
+  }
+  came();
+  auto& around = open_.back();
+  const auto& shape = *around.target.shape;
+  auto step = shape.kind == Kind::object ? std::string(shape.members[around.current].key)
+                                         : '[' + std::to_string(around.current) + ']';
+  around.failures.emplace_back(around.current, within(std::move(step), std::move(failure)));
+}
+
+// A record must be an object, and null is no exception there.
+void JsonFiller::mismatch(const Target& target, std::string_view found) {
+  const Kind expected = target.shape->kind;
+  const bool isMissing = found == "null" && expected != Kind::object;
+  fail({isMissing ? DecodeFailure::valueNotFound : DecodeFailure::typeMismatch,
+        {},
+        std::string(nameOf(expected)) + " expected, " + std::string(found) + " found"});
+}
+
+}  // namespace quillmark
