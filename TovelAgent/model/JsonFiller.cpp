@@ -59,6 +59,9 @@ bool JsonFiller::on_array_end(std::size_t /*count*/, ErrorCode& /*error*/) {
 }
 
 bool JsonFiller::on_key_part(Text text, std::size_t /*size*/, ErrorCode& /*error*/) {
+  if (ignoredDepth_ > 0) {
+    return true;
+  }
   // More than this is no key of any record.
   constexpr std::size_t enough = 256;
   key_.append(text.substr(0, enough - std::min(enough, key_.size())));
