@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window
 import Quillmark.Views
 
 /// The window: no title bar of the desktop's, the content from edge to edge.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window
 
 /// A strip along one edge, or a square at a corner, that resizes the window.
 MouseArea {

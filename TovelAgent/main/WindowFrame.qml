@@ -4,7 +4,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
 import Quillmark.Views
 
 /// What a title bar and a frame would do: drag the window at its header band,

@@ -10,6 +10,7 @@
 
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
+#include <boost/asio/post.hpp>
 
 #include "client/TaskExecutor.h"
 
@@ -90,11 +91,14 @@ boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardV
 }
 
 void DashboardViewModel::assign(PollResult result) {
+  PollResult before{status_, alerts_, networkConnections_, inventory_};
   publish(status_, std::move(result.status), &DashboardViewModel::statusChanged);
   publish(alerts_, std::move(result.alerts), &DashboardViewModel::alertsChanged);
   publish(networkConnections_, std::move(result.networkConnections),
           &DashboardViewModel::networkConnectionsChanged);
   publish(inventory_, std::move(result.inventory), &DashboardViewModel::inventoryChanged);
+  // A long list takes longer to free than a window may take to answer.
+  boost::asio::post(TaskExecutor::current(), [before = std::move(before)] {});
 }
 
 template <class Value>

@@ -49,9 +49,16 @@ class SnapshotListModel final : public ListModel {
   // As many as a Qt model can number.
   static constexpr std::size_t unlimited{std::numeric_limits<int>::max()};
 
+  // Comparing more rows than this takes longer than showing anew those in view.
+  static constexpr int mostCompared = 2'000;
+
   /// Names the span from the first to the last of the leading `common` rows
   /// that differ: looking from both ends costs next to nothing when all do.
   void announceChanges(const std::vector<Row>& old, int common) {
+    if (common > mostCompared) {
+      Q_EMIT dataChanged(index(0), index(common - 1));
+      return;
+    }
     const auto oldEnd = old.begin() + common;
     const auto first = std::mismatch(old.begin(), oldEnd, rows_->begin()).first;
     if (first == oldEnd) {

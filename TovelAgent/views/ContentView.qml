@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window
 import Quillmark.ViewModel
 
 /// The root view: header, tab bar, and the selected tab's view. It keeps the
@@ -15,11 +14,11 @@ Item {
     readonly property alias headerHeight: headerBand.height
 
     readonly property var tabs: [
-        { identifier: "dashboard", title: "Dashboard", icon: "square.grid.2x2" },
-        { identifier: "network", title: "Network", icon: "network" },
-        { identifier: "inventory", title: "Inventory", icon: "rectangle.stack" },
-        { identifier: "alerts", title: "Alerts", icon: "bell.badge" },
-        { identifier: "settings", title: "Settings", icon: "gear" }
+        { identifier: "dashboard", title: "Dashboard", icon: "square.grid.2x2", view: "DashboardTabView.qml", showsAgent: true },
+        { identifier: "network", title: "Network", icon: "network", view: "NetworkTabView.qml", showsAgent: true },
+        { identifier: "inventory", title: "Inventory", icon: "rectangle.stack", view: "InventoryTabView.qml", showsAgent: true },
+        { identifier: "alerts", title: "Alerts", icon: "bell.badge", view: "AlertsTabView.qml", showsAgent: true },
+        { identifier: "settings", title: "Settings", icon: "gear", view: "SettingsTabView.qml", showsAgent: false }
     ]
 
     readonly property bool onScreen: Window.visibility !== Window.Hidden
@@ -73,45 +72,12 @@ Item {
         width: parent.width
         clip: true
 
-        // A Loader of Qt 6.4 refuses components that are bound to their ids.
-        // qmllint disable unqualified
+        // By name, so that a tab costs nothing before it is first in front.
         Loader {
-            anchors.fill: parent
-            active: root.selectedTab === "dashboard"
-            sourceComponent: DashboardTabView {
-                viewModel: root.viewModel
-            }
-        }
+            readonly property var tab: root.tabs.find(tab => tab.identifier === root.selectedTab)
 
-        Loader {
             anchors.fill: parent
-            active: root.selectedTab === "network"
-            sourceComponent: NetworkTabView {
-                viewModel: root.viewModel
-            }
+            onTabChanged: setSource(tab.view, tab.showsAgent ? { viewModel: root.viewModel } : {})
         }
-
-        Loader {
-            anchors.fill: parent
-            active: root.selectedTab === "inventory"
-            sourceComponent: InventoryTabView {
-                viewModel: root.viewModel
-            }
-        }
-
-        Loader {
-            anchors.fill: parent
-            active: root.selectedTab === "alerts"
-            sourceComponent: AlertsTabView {
-                viewModel: root.viewModel
-            }
-        }
-
-        Loader {
-            anchors.fill: parent
-            active: root.selectedTab === "settings"
-            sourceComponent: SettingsTabView {}
-        }
-        // qmllint enable unqualified
     }
 }

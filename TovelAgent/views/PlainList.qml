@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Templates as T
 import Quillmark.Views
 
 /// A plain list: rows on white with a line between them. It keeps its scroll
@@ -20,7 +19,6 @@ ListView {
     // Rows are read, not chosen; and a highlight would cost frames at start.
     keyNavigationEnabled: false
     currentIndex: -1
-    T.ScrollBar.vertical: ScrollBar {}
 
     Accessible.role: Accessible.List
     Accessible.name: label
@@ -59,6 +57,10 @@ ListView {
     }
 
     ScrollKeys {
+        target: list
+    }
+
+    ScrollBar {
         target: list
     }
 

@@ -2,26 +2,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Templates as T
 
 /// A slim bar at the right that can be dragged; there only when there is
-/// something to scroll.
-T.ScrollBar {
+/// something to scroll. What it does, the keyboard does at what it scrolls.
+MouseArea {
     id: bar
 
-    implicitWidth: 14
-    minimumSize: 24 / Math.max(24, height)
-    padding: 3
-    // At the window's edge, where the pointer resizes, it could not be held.
-    rightPadding: 5
-    visible: size < 1
+    required property Flickable target
 
-    // What it does, the keyboard does at what it scrolls.
+    // Where on the thumb it was taken.
+    property real grip: 0
+
+    parent: target
+    anchors.top: parent?.top
+    anchors.bottom: parent?.bottom
+    anchors.right: parent?.right
+    width: 14
+    visible: target.visibleArea.heightRatio < 1
+    hoverEnabled: true
+    preventStealing: true
+
+    onPressed: mouse => {
+        grip = thumb.contains(thumb.mapFromItem(bar, mouse.x, mouse.y)) ? mouse.y - thumb.y : thumb.height / 2;
+        thumb.moveTo(mouse.y - grip);
+    }
+    onPositionChanged: mouse => {
+        if (pressed)
+            thumb.moveTo(mouse.y - grip);
+    }
+    onReleased: target.returnToBounds()
+    // The wheel belongs to what lies below.
+    onWheel: wheel => wheel.accepted = false
+
     Accessible.ignored: true
 
-    contentItem: Rectangle {
+    Rectangle {
+        id: thumb
+
+        readonly property real way: bar.height - 2 * 3 - height
+        readonly property real share: bar.target.visibleArea.yPosition / (1 - bar.target.visibleArea.heightRatio)
+
+        function moveTo(top: real) {
+            const share = Math.max(0, Math.min(1, (top - 3) / way));
+            bar.target.contentY = bar.target.originY + share * (bar.target.contentHeight - bar.target.height);
+        }
+
+        // At the window's edge, where the pointer resizes, it could not be held.
+        x: 3
+        width: bar.width - 3 - 5
+        y: 3 + Math.max(0, Math.min(1, share)) * way
+        height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * 3))
         radius: width / 2
         color: Theme.scrollBar
-        opacity: bar.pressed || bar.hovered ? 1 : 0.6
+        opacity: bar.pressed || bar.containsMouse ? 1 : 0.6
     }
 }

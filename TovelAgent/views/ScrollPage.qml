@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Templates as T
 import Quillmark.Views
 
 /// A column of cards that scrolls vertically, by pointer and keyboard.
@@ -26,7 +25,6 @@ Flickable {
     pixelAligned: true
     // What has the focus keeps it, also when nothing is left to scroll.
     activeFocusOnTab: activeFocus || contentHeight > height
-    T.ScrollBar.vertical: ScrollBar {}
 
     Accessible.role: Accessible.Pane
     Accessible.name: label
@@ -46,6 +44,10 @@ Flickable {
     FocusFollower {
         id: follower
 
+        target: page
+    }
+
+    ScrollBar {
         target: page
     }
 

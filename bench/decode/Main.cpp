@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <cstddef>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include "decode/Contenders.h"
+#include "decode/PeakMemory.h"
+#include "decode/SampleBodies.h"
+#include "model/Codec.h"
+
+namespace {
+
+using namespace quillmark;
+
+template <class R>
+void compete(const std::string& name, const R& records,
+             const std::function<R(const std::string&)>& decodeBody) {
+  const auto body = encode(records);
+  if (decodeBody && decodeBody(body) != records) {
+    std::abort();
+  }
+  const auto action = [=] {
+    if (decodeBody) {
+      benchmark::DoNotOptimize(decodeBody(body));
+    } else {
+      benchmark::DoNotOptimize(bench::documentByBoost(body));
+    }
+  };
+  const double peak = bench::peakExtraBytes(action) / static_cast<double>(body.size());
+  benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+    for (auto _ : state) {
+      action();
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(body.size()));
+    state.counters["peak_by_body"] = peak;
+  })->Unit(benchmark::kMicrosecond);
+}
+
+template <class R>
+void competeAll(const std::string& name, const R& records,
+                const std::function<R(const std::string&)>& bySimdjson,
+                const std::function<R(const std::string&)>& byQt) {
+  compete<R>(name + "/panel", records,
+             [](const std::string& body) { return std::move(*decode<R>(body)); });
+  compete<R>(name + "/simdjson", records, bySimdjson);
+  compete<R>(name + "/boost_document", records, {});
+  compete<R>(name + "/qt", records, byQt);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  for (const std::size_t count : {std::size_t{100}, std::size_t{10'000}, std::size_t{200'000}}) {
+    competeAll<NetworkResponse>("connections/" + std::to_string(count),
+                                bench::sampleConnections(count), bench::connectionsBySimdjson,
+                                bench::connectionsByQt);
+  }
+  competeAll<InventoryData>("apps/5000", bench::sampleInventory(5'000), bench::inventoryBySimdjson,
+                            bench::inventoryByQt);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+}

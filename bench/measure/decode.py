@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""From a body's bytes to its records."""
+
+import json
+import subprocess
+
+from . import stage
+from .figures import goal, number, table
+
+
+def run(report):
+    done = subprocess.run(
+        [str(stage.BENCH / "decode/bench_decode"), "--benchmark_format=json",
+         "--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
+         "--benchmark_min_time=0.05", "--benchmark_report_aggregates_only=true"],
+        capture_output=True, text=True, check=True)
+    medians = {b["run_name"]: b for b in json.loads(done.stdout)["benchmarks"]
+               if b["aggregate_name"] == "median"}
+    rows = []
+    for name, figures in medians.items():
+        body, _, contender = name.rpartition("/")
+        peer = medians[f"{body}/simdjson"]
+        ratio = figures["real_time"] / peer["real_time"]
+        rows.append((body, contender, number(figures["bytes_per_second"] / 1e6), f"{ratio:.2f}",
+                     f"{figures['peak_by_body']:.2f}"))
+        if contender == "panel" and body == "connections/10000":
+            report.goal("decode 10,000 connections ÷ simdjson's document into the same records",
+                        goal(ratio, 1.5))
+        if contender == "panel" and body != "connections/100":
+            report.goal(f"decode {body}: peak extra memory ÷ body",
+                        goal(figures["peak_by_body"], 2.5))
+    report.section("Decode", "Peak memory counts whole pages, result included; at 100 connections "
+                   "these outweigh the body.\n\n" + table(
+                       ("body", "by", "MB/s", "time ÷ simdjson", "peak memory ÷ body"), rows))

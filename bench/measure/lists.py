@@ -1,0 +1,102 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""How the panel takes lists far longer than anyone reads."""
+
+import time
+
+from harness import hands, window
+from harness.waiting import until
+
+from . import process, stage
+from .figures import goal, number, table
+from .observed import Observed
+
+SIZES = (1_000, 10_000, 100_000, 200_000, 1_000_000)
+POLLS = 4
+SCREENS = ((1000, 700), (2560, 1440))
+
+
+def ready(server, panel):
+    server.wait_for_poll()
+    stage.key("ctrl+2")
+    server.wait_for_poll()
+    time.sleep(2)
+
+
+def swaps(server, panel):
+    """Over some polls: the milliseconds from the last answer sent to the next
+    frame, and the longest time in which the UI thread heard of nothing."""
+    since, shown = time.monotonic(), []
+    for _ in range(POLLS):
+        server.wait_for_poll()
+        time.sleep(2)
+        sent = server.seen("inventory")[-1].answered
+        frames = [frame for frame in panel.frames() if frame > sent]
+        if frames:
+            shown.append((frames[0] - sent) * 1000)
+    return shown, 1000 * max((span for _, span in panel.busy(since)), default=0)
+
+
+def draws(panel, key):
+    since = time.monotonic()
+    hands.key(key)
+    time.sleep(0.3)
+    return any(frame > since for frame in panel.frames())
+
+
+def focus_the_list(panel):
+    """Walks there by Tab: it is where End draws something."""
+    for _ in range(15):
+        hands.key("Tab")
+        time.sleep(0.3)
+        # Again and again: a poll may have drawn something in between.
+        if all(draws(panel, key) for key in ("End", "Home", "End", "Home")):
+            return
+    raise AssertionError("the list cannot be reached")
+
+
+def scrolling(panel, size):
+    """The longest frame in milliseconds while the list is scrolled."""
+    shown = window.visible(panel.pid)[0]
+    shown.move(0, 0)
+    shown.resize(*size)
+    until(lambda: (shown.box.width, shown.box.height) == size, "the window's size")
+    time.sleep(1)
+    longest = {}
+    for name, action in (
+        ("wheel", lambda: hands.wheel_down(shown.box, 60)),
+        ("page keys", lambda: hands.key("Next", times=40)),
+        ("End key", lambda: hands.key("End")),
+    ):
+        hands.key("Home")
+        time.sleep(0.5)
+        since = time.monotonic()
+        action()
+        time.sleep(1.5)
+        drawn = sum(frame > since for frame in panel.frames())
+        assert drawn, f"{name} scrolled nothing"
+        longest[name] = 1000 * max((span for _, span in panel.busy(since)), default=0)
+    return longest
+
+
+def run(report, sizes=SIZES):
+    rows = []
+    for count in sizes:
+        with stage.backend(stage.full(count, 0), stage.full(count, 1)) as server:
+            with Observed(stage.PANEL) as panel:
+                ready(server, panel)
+                shown, gap = swaps(server, panel)
+                resident = process.rss_mib(panel.pid)
+                focus_the_list(panel)
+                frames = [scrolling(panel, size) for size in SCREENS]
+        rows.append((f"{count:,}", number(max(shown)) + " ms" if shown else "none",
+                     number(gap) + " ms", number(resident) + " MiB",
+                     *(", ".join(f"{number(v)}" for v in f.values()) for f in frames)))
+        if count == 200_000:
+            report.goal("swap of 200,000 connections, UI thread's longest gap", goal(gap, 8, " ms"))
+            report.goal("longest frame while scrolling 200,000 rows, 1000 × 700",
+                        goal(max(frames[0].values()), 16, " ms"))
+    report.section("Large lists", "Every row differs from poll to poll; the Network tab is in "
+                   "front. Longest frames in ms: " + "wheel, page keys, End key.\n\n" + table(
+                       ("connections", "poll to shown", "longest gap of the UI thread",
+                        "resident", "frames 1000 × 700", "frames 2560 × 1440"), rows))

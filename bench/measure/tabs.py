@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""From the key to the tab."""
+
+import time
+
+from . import stage
+from .figures import goal, spread, table, told
+from .observed import Observed
+
+ROUNDS = 10
+NAMES = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+
+
+def run(report):
+    first, later = {n: [] for n in NAMES}, {n: [] for n in NAMES}
+    with stage.backend(stage.full(10_000)):
+        for _ in range(3):
+            with Observed(stage.PANEL) as panel:
+                for turn in range(ROUNDS):
+                    for number, name in enumerate(NAMES, 1):
+                        pressed = time.monotonic()
+                        stage.key(f"ctrl+{number}")
+                        time.sleep(0.4)
+                        frames = [f for f in panel.frames() if f > pressed]
+                        if frames:
+                            (later if turn else first)[name].append((frames[0] - pressed) * 1000)
+    report.section("Tab switch", "From the moment before the key is sent, which costs some "
+                   "milliseconds of its own, to the first frame with the tab; 10,000 "
+                   "connections.\n\n" + table(
+                       ("tab", "the first time", "later"),
+                       [(n, told(first[n], "ms") if first[n] else "was in front",
+                         told(later[n], "ms")) for n in NAMES]))
+    report.goal("tab switch, to painted, slowest tab",
+                goal(max(spread(s)[0] for s in [*later.values(), *first.values()] if s), 30, " ms"))

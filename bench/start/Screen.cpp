@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Screen.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+#include <span>
+
+#include <poll.h>
+
+namespace quillmark::bench {
+namespace {
+
+constexpr std::uint16_t leastSide = 200;
+constexpr std::size_t coloursOfText = 8;
+
+/// What xcb hands over and wants freed.
+struct Free {
+  void operator()(void* memory) const { std::free(memory); }
+};
+
+template <class T>
+std::unique_ptr<T, Free> owned(T* memory) {
+  return std::unique_ptr<T, Free>(memory);
+}
+
+}  // namespace
+
+Screen::Screen() : connection_(xcb_connect(nullptr, nullptr), xcb_disconnect) {
+  auto* const connection = connection_.get();
+  if (xcb_connection_has_error(connection) != 0) {
+    std::fputs("no display\n", stderr);
+    std::exit(1);
+  }
+  root_ = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+  const auto version = owned(xcb_damage_query_version_reply(
+      connection, xcb_damage_query_version(connection, 1, 1), nullptr));
+  damage_ = xcb_generate_id(connection);
+  xcb_damage_create(connection, damage_, root_, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
+  xcb_flush(connection);
+}
+
+bool Screen::waitForDrawing(std::chrono::milliseconds patience) {
+  auto* const connection = connection_.get();
+  pollfd descriptor{xcb_get_file_descriptor(connection), POLLIN, 0};
+  bool drawn = false;
+  while (!drawn) {
+    while (const auto event = owned(xcb_poll_for_event(connection))) {
+      drawn = true;
+    }
+    if (!drawn && poll(&descriptor, 1, static_cast<int>(patience.count())) <= 0) {
+      return false;
+    }
+  }
+  xcb_damage_subtract(connection, damage_, XCB_NONE, XCB_NONE);
+  xcb_flush(connection);
+  return true;
+}
+
+bool Screen::showsAWindow() const {
+  auto* const connection = connection_.get();
+  const auto tree =
+      owned(xcb_query_tree_reply(connection, xcb_query_tree(connection, root_), nullptr));
+  const std::span windows(xcb_query_tree_children(tree.get()),
+                          static_cast<std::size_t>(xcb_query_tree_children_length(tree.get())));
+  for (const auto window : windows) {
+    if (isPainted(window)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool Screen::isPainted(xcb_window_t window) const {
+  auto* const connection = connection_.get();
+  const auto attributes = owned(xcb_get_window_attributes_reply(
+      connection, xcb_get_window_attributes(connection, window), nullptr));
+  const auto box =
+      owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+  if (attributes == nullptr || attributes->map_state != XCB_MAP_STATE_VIEWABLE || box == nullptr ||
+      box->width < leastSide || box->height < leastSide) {
+    return false;
+  }
+  const auto image =
+      owned(xcb_get_image_reply(connection,
+                                xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0,
+                                              box->width, box->height, ~0U),
+                                nullptr));
+  if (image == nullptr) {
+    return false;
+  }
+  const auto* const bytes = xcb_get_image_data(image.get());
+  const auto size = static_cast<std::size_t>(xcb_get_image_data_length(image.get()));
+  std::set<std::uint32_t> colours;
+  for (std::size_t at = 0; at + 4 <= size && colours.size() < coloursOfText; at += 4) {
+    colours.insert(std::uint32_t{bytes[at]} | std::uint32_t{bytes[at + 1]} << 8U |
+                   std::uint32_t{bytes[at + 2]} << 16U);
+  }
+  return colours.size() >= coloursOfText;
+}
+
+}  // namespace quillmark::bench
