@@ -77,7 +77,7 @@ Item {
             readonly property var tab: root.tabs.find(tab => tab.identifier === root.selectedTab)
 
             anchors.fill: parent
-            onTabChanged: setSource(tab.view, tab.showsAgent ? { viewModel: root.viewModel } : {})
+            onTabChanged: setSource(tab?.view ?? "", tab?.showsAgent ? { viewModel: root.viewModel } : {})
         }
     }
 }
