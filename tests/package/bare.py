@@ -1,0 +1,43 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Programs of the bare system, started in it."""
+
+import os
+import subprocess
+from pathlib import Path
+
+from gi.repository import GLib
+
+ROOT = Path(os.environ["QUILLMARK_BUILD_DIR"]) / "bare" / "root"
+PROGRAMS = "/usr/lib/quillmark-agent/QuillmarkAgent.app/Contents/MacOS"
+
+# Its files, with the sandbox's processes, network, sockets and home. Menus start
+# programs in the home directory.
+INSIDE = [
+    "bwrap", "--ro-bind", str(ROOT), "/", "--dev", "/dev", "--proc", "/proc",
+    "--bind", "/tmp", "/tmp", "--bind", "/run", "/run",
+    "--chdir", os.environ["HOME"], "--die-with-parent", "--",
+]
+
+
+class Entry:
+    """The panel's entry in the menu."""
+
+    def __init__(self):
+        self._file = GLib.KeyFile()
+        path = ROOT / "usr/share/applications/org.quillmark.Agent.desktop"
+        self._file.load_from_file(str(path), GLib.KeyFileFlags.NONE)
+
+    def command(self, group="Desktop Entry"):
+        return GLib.shell_parse_argv(self._file.get_string(group, "Exec"))[1]
+
+    def value(self, key):
+        return self._file.get_string("Desktop Entry", key)
+
+
+def entry():
+    return Entry()
+
+
+def run(*command):
+    return subprocess.run([*INSIDE, *command], capture_output=True, text=True, timeout=60)
