@@ -102,8 +102,10 @@ def import_configuration(panel):
     take(panel, "imported")
 
 
-def test_quit_from_the_menu(start):
+def test_window_and_quit_of_the_menu_entry(start):
     panel = start()
+    # By this a task bar knows whose window it is, and whose icon it gets.
+    assert f'"{bare.entry().value("StartupWMClass")}"' in panel.window.property("WM_CLASS")
     done = bare.run(*bare.entry().command("Desktop Action quit"))
     assert (done.returncode, done.stdout, done.stderr) == (0, "", "")
     until(panel.ended, "the panel to end")
