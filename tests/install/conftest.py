@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """An installation to try, in the sandbox."""
 
+import os
 import subprocess
 import sys
 from pathlib import Path
@@ -18,15 +19,16 @@ COMPONENTS = ("panel", "sample_agent")
 
 
 class Installation:
-    def __init__(self, prefix, notes):
-        self.prefix = prefix
+    def __init__(self, prefix, notes, stage=""):
+        self.prefix = Path(f"{stage}{prefix}")
+        self._environment = os.environ | {"DESTDIR": str(stage)}
         self._notes = notes
         notes.mkdir()
         for component in COMPONENTS:
             subprocess.run(
                 ["cmake", "--install", str(BUILD), "--prefix", str(prefix),
                  "--component", component],
-                check=True, capture_output=True,
+                check=True, capture_output=True, env=self._environment,
             )
             # Away from the notes that a developer's own installation has left.
             note = BUILD / f"install_manifest_{component}.txt"
@@ -40,12 +42,12 @@ class Installation:
     def uninstall(self):
         script = Path(__file__).parents[2] / "cmake" / "Uninstall.cmake"
         subprocess.run(["cmake", "-P", str(script)], cwd=self._notes, check=True,
-                       capture_output=True)
+                       capture_output=True, env=self._environment)
 
 
 @pytest.fixture
 def install(tmp_path):
-    return lambda prefix: Installation(Path(prefix), tmp_path / "notes")
+    return lambda prefix, **options: Installation(prefix, tmp_path / "notes", **options)
 
 
 @pytest.fixture

@@ -72,6 +72,17 @@ def test_uninstalling_leaves_what_others_put(install, tmp_path):
     assert installation.paths() == ["bin", "bin/other"]
 
 
+def test_uninstalling_leaves_the_systems_own_folders(install, tmp_path):
+    installation = install("/usr/local", stage=tmp_path / "stage")
+    assert f"/usr/local/{PROGRAMS.partition('/Quill')[0]}/" in (
+        installation.prefix / f"share/applications/{APPLICATION}.desktop").read_text()
+    installation.uninstall()
+    left = installation.paths()
+    assert {"bin", "lib", "share", "share/man/man1"} <= set(left)
+    assert all((installation.prefix / path).is_dir() for path in left)
+    assert not [path for path in left if "quillmark" in path]
+
+
 def test_uninstalling_twice_says_so(install, tmp_path):
     installation = install(tmp_path / "usr")
     installation.uninstall()
