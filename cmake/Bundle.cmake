@@ -20,6 +20,7 @@ function(quillmark_bundle_program target output_name)
     ${target}
     PROPERTIES OUTPUT_NAME ${output_name}
                RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${QUILLMARK_BUNDLE_PROGRAMS}")
+  add_dependencies(quillmark_installed ${target})
   set(programs "${QUILLMARK_INSTALL_HOME}/${QUILLMARK_BUNDLE_PROGRAMS}")
   install(TARGETS ${target} RUNTIME DESTINATION "${programs}" COMPONENT ${component})
   if(NOT APPLE)

@@ -62,7 +62,7 @@ function(quillmark_install_compressed file folder component)
   install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component} ${ARGN})
 endfunction()
 
-# What is made beside the programs, as one target to build.
+# All that is installed, as one target to build.
 add_custom_target(quillmark_installed ALL)
 
 # quillmark_installed_file(<file>...): made by a custom command of this folder.
