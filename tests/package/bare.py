@@ -39,5 +39,11 @@ def entry():
     return Entry()
 
 
+def commands():
+    """Every command that the packages brought."""
+    links = (p for p in (ROOT / "usr/bin").iterdir() if p.is_symlink())
+    return sorted(p.name for p in links if "/quillmark-agent/" in os.readlink(p))
+
+
 def run(*command):
     return subprocess.run([*INSIDE, *command], capture_output=True, text=True, timeout=60)

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What a new user does with the packages, with nothing there but what they ask for."""
 
+import gzip
 import os
 import re
 import stat
@@ -24,11 +25,20 @@ def take(panel, name):
     save(BUILD / "pictures" / f"package-{name}.png", panel.window.box)
 
 
-@pytest.mark.parametrize("name", ["quillmark-agent", processes.AGENT])
-def test_commands_answer(name):
+def test_both_packages_bring_commands():
+    assert {"quillmark-agent", processes.AGENT} <= set(bare.commands())
+
+
+@pytest.mark.parametrize("name", bare.commands())
+def test_command_answers_and_is_described(name):
     done = bare.run(name, "--version")
     assert (done.returncode, done.stderr) == (0, "")
     assert re.fullmatch(rf"{name} \d+\.\d+\.\d+\n", done.stdout)
+    share = bare.ROOT / "usr/share"
+    with gzip.open(share / f"man/man1/{name}.1.gz", "rt") as page:
+        assert f"\n.Nm {name}\n" in page.read()
+    for completion in (f"bash-completion/completions/{name}", f"zsh/vendor-completions/_{name}"):
+        assert name in (share / completion).read_text()
 
 
 def test_every_way_in_leads_to_the_same_program():
