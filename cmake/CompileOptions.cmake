@@ -43,7 +43,9 @@ else()
   target_compile_options(
     quillmark_options INTERFACE -fstack-protector-strong
                                 $<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
-  target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
+  if(NOT APPLE)
+    target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
+  endif()
 endif()
 
 if(QUILLMARK_COVERAGE)

@@ -21,6 +21,7 @@
 #include "Scanner.h"
 #include "Server.h"
 #include "Token.h"
+#include "platform/CommandLine.h"
 #include "platform/HomeDirectory.h"
 #include "scan/SystemPaths.h"
 
@@ -31,6 +32,20 @@ using namespace quillmark::sample;
 enum ExitCode : int { cleanEnd = 0, cannotRun = 1, badConfiguration = 2 };
 
 constexpr std::chrono::seconds scanInterval(60);
+
+const quillmark::CommandLineRules commandLineRules{
+    .program = "tovel-agent",
+    .version = QUILLMARK_VERSION,
+    .help =
+        "Usage: tovel-agent [OPTION]\n"
+        "\n"
+        "Serves what it sees on this machine to the Quillmark control panel, until ended.\n"
+        "A sample, not the product's agent: it only looks.\n"
+        "\n"
+        "  -h, --help      print this and end\n"
+        "  -V, --version   print the version and end\n",
+    .flags = {},
+    .passedOn = {}};
 
 int fail(ExitCode code, const std::string& reason) {
   std::cerr << reason << std::endl;
@@ -74,8 +89,12 @@ int run() {
 
 }  // namespace
 
-int main() {
+int main(int argc, char* argv[]) {
   try {
+    const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules);
+    if (commandLine.exitCode) {
+      return *commandLine.exitCode;
+    }
     return run();
   } catch (const std::exception& error) {
     return fail(cannotRun, error.what());

@@ -14,6 +14,9 @@ Window {
     height: 700
     minimumWidth: 1000
     minimumHeight: 700
+    // Qt's own file dialog lays this colour, meant for a strong ground, onto a
+    // pale one: its chosen row would be white on light blue.
+    palette.highlightedText: Theme.text
 
     ContentView {
         id: content

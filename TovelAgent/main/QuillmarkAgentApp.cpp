@@ -35,6 +35,9 @@ int QuillmarkAgentApp::run() {
 
   WindowGroup windows(engine);
   QObject::connect(&instance, &SingleInstance::activated, &windows, &WindowGroup::present);
+  // Queued, so that whoever asks gets an answer first.
+  QObject::connect(&instance, &SingleInstance::quitAsked, qGuiApp, &QCoreApplication::quit,
+                   Qt::QueuedConnection);
 
   windows.open();
   appDelegate.applicationDidFinishLaunching();

@@ -12,6 +12,8 @@
 
 #include <unistd.h>
 
+#include "platform/OperatingSystem.h"
+
 namespace quillmark {
 namespace {
 
@@ -38,7 +40,7 @@ void restartInSoftware() {
     arguments.push_back(text.data());
   }
   arguments.push_back(nullptr);
-  execv("/proc/self/exe", arguments.data());
+  execv(programPath().c_str(), arguments.data());
   qFatal("The panel cannot start itself again: %s", std::strerror(errno));
 }
 

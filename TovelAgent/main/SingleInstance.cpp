@@ -14,6 +14,8 @@ constexpr int answerTimeoutMs = 3000;
 
 const auto objectPath = QStringLiteral("/org/quillmark/Agent");
 const auto interfaceName = QStringLiteral("org.freedesktop.Application");
+/// As the desktop entry names it.
+const auto quitAction = QStringLiteral("quit");
 const auto activationToken = QStringLiteral("activation-token");
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
 
@@ -21,6 +23,18 @@ constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
 bool hasSessionBus() {
   return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
          QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+}
+
+/// A call to the panel that holds the name; never a reason to start one.
+QDBusMessage callTo(const QString& method) {
+  auto call = QDBusMessage::createMethodCall(SingleInstance::applicationId, objectPath,
+                                             interfaceName, method);
+  call.setAutoStartService(false);
+  return call;
+}
+
+bool isAnswered(const QDBusConnection& bus, const QDBusMessage& call) {
+  return bus.call(call, QDBus::Block, answerTimeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
 }  // namespace
@@ -37,10 +51,19 @@ bool SingleInstance::handOver() {
   if (bus.registerService(applicationId)) {
     return false;
   }
-  auto activate = QDBusMessage::createMethodCall(applicationId, objectPath, interfaceName,
-                                                 QStringLiteral("Activate"));
+  auto activate = callTo(QStringLiteral("Activate"));
   activate << QVariantMap{{activationToken, qEnvironmentVariable(activationVariable)}};
-  return bus.call(activate, QDBus::Block, answerTimeoutMs).type() == QDBusMessage::ReplyMessage;
+  return isAnswered(bus, activate);
+}
+
+bool SingleInstance::quitRunning() {
+  if (!hasSessionBus()) {
+    return false;
+  }
+  const auto bus = QDBusConnection::sessionBus();
+  auto quit = callTo(QStringLiteral("ActivateAction"));
+  quit << quitAction << QVariantList{} << QVariantMap{};
+  return bus.isConnected() && isAnswered(bus, quit);
 }
 
 void SingleInstance::Activate(const QVariantMap& platformData) {
@@ -56,8 +79,12 @@ void SingleInstance::Open(const QStringList& /*uris*/, const QVariantMap& platfo
   Activate(platformData);
 }
 
-void SingleInstance::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
+void SingleInstance::ActivateAction(const QString& action, const QVariantList& /*parameter*/,
                                     const QVariantMap& platformData) {
+  if (action == quitAction) {
+    Q_EMIT quitAsked();
+    return;
+  }
   Activate(platformData);
 }
 

@@ -24,6 +24,10 @@ class SingleInstance final : public QObject {
   /// later launches from now on.
   [[nodiscard]] bool handOver();
 
+  /// Asks the session's panel to end. False if there is none, or it does not
+  /// answer; none is started for it.
+  [[nodiscard]] static bool quitRunning();
+
  public Q_SLOTS:
   // The methods of the desktop's interface for activatable applications.
   Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
@@ -34,6 +38,9 @@ class SingleInstance final : public QObject {
  Q_SIGNALS:
   /// Another launch asks the panel to come forward.
   void activated();
+
+  /// Somebody asks the panel to end.
+  void quitAsked();
 };
 
 }  // namespace quillmark

@@ -1,16 +1,62 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <iostream>
+
 #include <QGuiApplication>
 
 #include "client/TaskExecutor.h"
 #include "main/QuillmarkAgentApp.h"
 #include "main/Renderer.h"
+#include "main/SingleInstance.h"
+#include "platform/CommandLine.h"
+
+namespace {
+
+constexpr auto programName = "quillmark-agent";
+constexpr auto quitFlag = "quit";
+
+quillmark::CommandLineRules commandLineRules() {
+  return {.program = programName,
+          .version = QUILLMARK_VERSION,
+          .help =
+              "Usage: quillmark-agent [OPTION]\n"
+              "\n"
+              "Opens the control panel of the Quillmark agent, or brings the open one forward.\n"
+              "\n"
+              "      --quit      end the panel that is open\n"
+              "  -h, --help      print this and end\n"
+              "  -V, --version   print the version and end\n",
+          .flags = {quitFlag},
+          // What a session manager adds when it starts the panel again.
+          .passedOn = {"session"}};
+}
+
+/// 1 when no panel is there to end.
+int quitOpenPanel(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  if (quillmark::SingleInstance::quitRunning()) {
+    return 0;
+  }
+  std::cerr << programName << ": no panel is open\n";
+  return 1;
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
+  // First, because it needs no display and should cost nothing.
+  const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
+  if (commandLine.exitCode) {
+    return *commandLine.exitCode;
+  }
+  if (commandLine.has(quitFlag)) {
+    return quitOpenPanel(argc, argv);
+  }
+
   quillmark::chooseRenderer();
   const QGuiApplication application(argc, argv);
-  QCoreApplication::setApplicationName(QStringLiteral("quillmark-agent"));
+  QCoreApplication::setApplicationName(QString::fromLatin1(programName));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUILLMARK_VERSION));
 
   const quillmark::TaskExecutor executor;

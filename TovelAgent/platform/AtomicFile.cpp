@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "platform/FileError.h"
+#include "platform/OperatingSystem.h"
 #include "platform/SystemError.h"
 
 namespace quillmark {
@@ -114,9 +115,7 @@ error_code syncFolder(const std::string& path) {
 /// Swaps the two files, so that the old one is still there should the folder
 /// not reach the disk.
 error_code swapInto(const TemporaryFile& file, const Target& target) {
-  const auto swapped = [&] {
-    return renameat2(AT_FDCWD, file.path(), AT_FDCWD, target.path.c_str(), RENAME_EXCHANGE) == 0;
-  };
+  const auto swapped = [&] { return exchangeFiles(file.path(), target.path.c_str()); };
   if (!swapped()) {
     return lastSystemError();
   }

@@ -3,8 +3,9 @@
 
 #include "platform/BundlePath.h"
 
-#include <filesystem>
 #include <string_view>
+
+#include "platform/OperatingSystem.h"
 
 namespace quillmark {
 namespace {
@@ -21,9 +22,6 @@ std::string bundlePathOf(const std::string& executable) {
   return folder;
 }
 
-std::string bundlePath() {
-  std::error_code unknown;
-  return bundlePathOf(std::filesystem::read_symlink("/proc/self/exe", unknown).string());
-}
+std::string bundlePath() { return bundlePathOf(programPath()); }
 
 }  // namespace quillmark

@@ -13,6 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/OperatingSystem.h"
 #include "platform/SystemError.h"
 
 namespace quillmark {
@@ -27,13 +28,12 @@ class SpawnSetup final {
     posix_spawn_file_actions_init(&actions_);
     posix_spawnattr_init(&attributes_);
     // Our sockets and signal habits are none of the child's business.
-    posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+    inheritStandardStreamsOnly(actions_, flags_);
     sigset_t signals{};
     sigemptyset(&signals);
     posix_spawnattr_setsigmask(&attributes_, &signals);
     sigfillset(&signals);
     posix_spawnattr_setsigdefault(&attributes_, &signals);
-    posix_spawnattr_setflags(&attributes_, inheritNoSignals);
   }
   ~SpawnSetup() {
     posix_spawn_file_actions_destroy(&actions_);
@@ -47,11 +47,10 @@ class SpawnSetup final {
       posix_spawn_file_actions_addopen(&actions_, stream, "/dev/null", O_WRONLY, 0);
     }
   }
-  void ownSession() {
-    posix_spawnattr_setflags(&attributes_, inheritNoSignals | POSIX_SPAWN_SETSID);
-  }
+  void ownSession() { flags_ |= POSIX_SPAWN_SETSID; }
 
-  [[nodiscard]] error_code spawn(const Command& command, pid_t& child) const {
+  [[nodiscard]] error_code spawn(const Command& command, pid_t& child) {
+    posix_spawnattr_setflags(&attributes_, flags_);
     std::vector<char*> arguments{const_cast<char*>(command.executable.c_str())};
     for (const auto& argument : command.arguments) {
       arguments.push_back(const_cast<char*>(argument.c_str()));
@@ -63,10 +62,9 @@ class SpawnSetup final {
   }
 
  private:
-  static constexpr short inheritNoSignals = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
-
   posix_spawn_file_actions_t actions_{};
   posix_spawnattr_t attributes_{};
+  short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
 /// Whoever started this program may have had it ignore that children end; then

@@ -9,7 +9,7 @@ import pytest
 from gi.repository import Gio, GLib
 
 from harness import bodies, colours, hands
-from harness.panel import spawn
+from harness.panel import EXECUTABLE, spawn
 from harness.screen import Picture
 from harness.waiting import never, until
 from harness.window import Box, tool
@@ -116,6 +116,25 @@ def test_quit_ends_the_process(launch):
     assert panel.process.returncode == 0
 
 
+def quit_by_command():
+    return subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True, timeout=15)
+
+
+def test_quit_by_command_ends_the_open_panel(launch):
+    panel = launch()
+    close_window(panel)
+    asked = quit_by_command()
+    assert (asked.returncode, asked.stdout, asked.stderr) == (0, "", "")
+    until(panel.ended, "the panel to end")
+    assert panel.process.returncode == 0
+
+
+def test_quit_by_command_without_a_panel(display):
+    asked = quit_by_command()
+    assert (asked.returncode, asked.stdout) == (1, "")
+    assert asked.stderr == "quillmark-agent: no panel is open\n"
+
+
 def bus_call(method, path, interface, arguments, destination=BUS_NAME):
     bus = Gio.bus_get_sync(Gio.BusType.SESSION)
     return bus.call_sync(
@@ -134,6 +153,21 @@ def test_activation_over_the_session_bus(launch):
     bus_call("Activate", "/org/quillmark/Agent", "org.freedesktop.Application",
              GLib.Variant("(a{sv})", ({},)))
     until(panel.windows, "a new window")
+
+
+def test_actions_over_the_session_bus(launch):
+    panel = launch()
+
+    def act(name):
+        bus_call("ActivateAction", "/org/quillmark/Agent", "org.freedesktop.Application",
+                 GLib.Variant("(sava{sv})", (name, [], {})))
+
+    close_window(panel)
+    act("nothing-it-knows")
+    until(panel.windows, "a new window, as from any other request")
+    act("quit")
+    until(panel.ended, "the panel to end")
+    assert panel.process.returncode == 0
 
 
 @pytest.mark.parametrize("address", [None, "unix:path=/nowhere/bus"])

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/CommandLine.h"
+
+#include <algorithm>
+#include <iostream>
+#include <string_view>
+
+#include <getopt.h>
+
+namespace quillmark {
+namespace {
+
+// Beyond the characters, so that they collide with no short option.
+enum Meaning : int { flagMeaning = 256, passedOnMeaning };
+
+std::vector<option> optionTable(const CommandLineRules& rules) {
+  std::vector<option> table{{"help", no_argument, nullptr, 'h'},
+                            {"version", no_argument, nullptr, 'V'}};
+  for (const auto& flag : rules.flags) {
+    table.push_back({flag.c_str(), no_argument, nullptr, flagMeaning});
+  }
+  for (const auto& name : rules.passedOn) {
+    table.push_back({name.c_str(), required_argument, nullptr, passedOnMeaning});
+  }
+  table.push_back({nullptr, 0, nullptr, 0});
+  return table;
+}
+
+CommandLine done(int exitCode) { return {.exitCode = exitCode, .flags = {}}; }
+
+CommandLine misused(const CommandLineRules& rules, const std::string& reason) {
+  std::cerr << rules.program << ": " << reason << '\n' << rules.help;
+  return done(usageError);
+}
+
+}  // namespace
+
+bool CommandLine::has(const std::string& flag) const {
+  return std::find(flags.begin(), flags.end(), flag) != flags.end();
+}
+
+CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules) {
+  const auto table = optionTable(rules);
+  CommandLine line;
+  opterr = 0;
+  while (true) {
+    // What getopt is about to read: it does not say which word it refused.
+    const std::string_view word = optind < argc ? argv[optind] : "";
+    int index = 0;
+    switch (getopt_long_only(argc, argv, "+:hV", table.data(), &index)) {
+      case -1:
+        if (optind < argc) {
+          return misused(rules, std::string("unexpected argument '") + argv[optind] + "'");
+        }
+        return line;
+      case 'h':
+        std::cout << rules.help;
+        return done(0);
+      case 'V':
+        std::cout << rules.program << ' ' << rules.version << '\n';
+        return done(0);
+      case flagMeaning:
+        line.flags.emplace_back(table[static_cast<std::size_t>(index)].name);
+        break;
+      case passedOnMeaning:
+        break;
+      case ':':
+        return misused(rules, "a value is missing behind '" + std::string(word) + "'");
+      default:
+        return misused(rules, "unknown option '" + std::string(word) + "'");
+    }
+  }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,4 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+complete -W '--json --watch --help --version' quillmark-doctor
