@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Processes.h"
+#include "procfs/Processes.h"
 
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
-#include "scan/Number.h"
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/Number.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
-namespace quillmark::sample {
+namespace quillmark {
 namespace {
 
 // The kernel keeps this many bytes of a program's name.
@@ -126,4 +126,4 @@ std::unordered_map<std::uint64_t, const Process*> socketOwners(
   return owners;
 }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 /// One running process, as far as this user may look into it.
 struct Process {
@@ -30,4 +30,4 @@ struct Process {
 [[nodiscard]] std::unordered_map<std::uint64_t, const Process*> socketOwners(
     const std::vector<Process>& processes);
 
-}  // namespace quillmark::sample
+}  // namespace quillmark
