@@ -6,10 +6,8 @@
 #include <exception>
 #include <utility>
 
-#include <boost/url/parse.hpp>
-#include <boost/url/url_view.hpp>
-
 #include "client/AccessToken.h"
+#include "client/AgentRequest.h"
 #include "client/HttpExchange.h"
 #include "model/Codec.h"
 
@@ -17,21 +15,6 @@ namespace quillmark {
 namespace {
 
 namespace asio = boost::asio;
-
-/// The parts of `url` that a request needs; no value if it is no URL that
-/// names an IPv4 address and a port. No name is ever looked up.
-std::optional<HttpRequest> requestTo(const std::string& url) {
-  const auto parsed = boost::urls::parse_uri(url);
-  if (!parsed || parsed->host_type() != boost::urls::host_type::ipv4 || !parsed->has_port()) {
-    return std::nullopt;
-  }
-  HttpRequest request;
-  request.server = {asio::ip::address_v4(parsed->host_ipv4_address().to_uint()),
-                    parsed->port_number()};
-  request.host = parsed->encoded_host_and_port();
-  request.target = parsed->encoded_target();
-  return request;
-}
 
 }  // namespace
 
@@ -81,11 +64,11 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
 
     const HttpLimits limits;
     auto exchanged = exchange(std::move(*request), limits);
-    const auto body = co_await std::move(exchanged);
-    if (!body) {
+    const auto answer = co_await std::move(exchanged);
+    if (!answer) {
       co_return std::nullopt;
     }
-    auto decoded = decode<R>(*body);
+    auto decoded = decode<R>(answer->body);
     if (!decoded) {
       co_return std::nullopt;
     }
