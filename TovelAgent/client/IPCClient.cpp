@@ -23,11 +23,11 @@ IPCClient::IPCClient() { loadAuthToken(); }
 void IPCClient::loadAuthToken() { authToken = readAccessToken(); }
 
 asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
-  return makeRequest<AgentStatus>("/api/status", "GET");
+  return makeRequest<AgentStatus>(statusPath, "GET");
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  auto request = makeRequest<AlertsResponse>("/api/alerts", "GET");
+  auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
@@ -36,7 +36,7 @@ asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() 
 }
 
 asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNetwork() const {
-  auto request = makeRequest<NetworkResponse>("/api/network", "GET");
+  auto request = makeRequest<NetworkResponse>(networkPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
@@ -45,7 +45,7 @@ asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNet
 }
 
 asio::awaitable<std::optional<InventoryData>> IPCClient::getInventory() const {
-  return makeRequest<InventoryData>("/api/inventory", "GET");
+  return makeRequest<InventoryData>(inventoryPath, "GET");
 }
 
 template <class R>

@@ -41,6 +41,10 @@ bool readStat(const std::string& folder, Process& process) {
   process.parent = parseNumber<int>(fields[1]).value_or(0);
   process.session = parseNumber<int>(fields[3]).value_or(0);
   process.terminal = parseNumber<int>(fields[4]).value_or(0);
+  constexpr std::size_t start = 19;
+  if (fields.size() > start) {
+    process.startTicks = parseNumber<std::uint64_t>(fields[start]).value_or(0);
+  }
   return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThread) == 0;
 }
 

@@ -16,6 +16,7 @@ struct Process {
   int parent = 0;
   int session = 0;
   int terminal = 0;                    ///< 0 for none
+  std::uint64_t startTicks = 0;        ///< when it began, in the kernel's ticks since the boot
   std::string name;                    ///< bytes, not yet text
   std::string unit;                    ///< the systemd service that it belongs to, or empty
   std::string executable;              ///< the link /proc/PID/exe; empty where it cannot be read
