@@ -18,8 +18,8 @@ namespace {
 void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& harmless) {
   Finding finding;
   finding.check = "bundle";
-  finding.text = harmless(bundle);
-  finding.facts["path"] = finding.text;
+  finding.facts["path"] = harmless(bundle);
+  finding.text = harmless(bundle) + ": ";
   if (!staysQuoted(bundle)) {
     finding.say(Mark::wrong,
                 "holds an apostrophe or a control character, so Start Agent does nothing",
@@ -31,6 +31,9 @@ void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& 
                 "Agent ends it",
                 "Move the application to a path without " + std::string(agentFileName) + ".");
   }
+  if (finding.mark == Mark::ok) {
+    finding.say(Mark::ok, "fit for Start Agent");
+  }
   findings.push_back(std::move(finding));
 }
 
@@ -39,8 +42,8 @@ void judgeProgram(Findings& findings, const std::string& bundle, const Harmless&
   finding.check = "program";
   std::string path = bundle;
   path.append(programsInBundle).append("/").append(agentFileName);
-  finding.text = harmless(path);
-  finding.facts["path"] = finding.text;
+  finding.facts["path"] = harmless(path);
+  finding.text = harmless(path) + ": ";
   const auto mode = modeOf(path);
   if (!mode) {
     finding.say(Mark::wrong, "not there, so Start Agent starts nothing",

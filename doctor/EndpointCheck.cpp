@@ -145,11 +145,12 @@ class Judge final {
   }
 
   void refused(const DecodeError& error, unsigned httpStatus) {
-    finding.facts["failure_path"] = error.path;
-    finding.facts["failure_detail"] = error.detail;
-    const auto place = error.path.empty() ? "the body" : error.path;
-    const auto words = place + ": " + error.detail + " (" + nameOf(error.kind) + ')';
-    fail(nameOf(error.kind), words, stepAfter(httpStatus, place + ": " + error.detail));
+    const auto path = harmless_(error.path);
+    const auto detail = harmless_(error.detail);
+    finding.facts["failure_path"] = path;
+    finding.facts["failure_detail"] = detail;
+    const auto fault = (path.empty() ? "the body" : path) + ": " + detail;
+    fail(nameOf(error.kind), fault + " (" + nameOf(error.kind) + ')', stepAfter(httpStatus, fault));
     if (httpStatus != httpOk) {
       reason = std::string(endpoint_.path) + " brings nothing to show (HTTP " +
                std::to_string(httpStatus) + ')';

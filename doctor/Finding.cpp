@@ -8,7 +8,7 @@
 namespace quillmark::doctor {
 
 void Finding::say(Mark how, const std::string& sentence, const std::string& whatToDo) {
-  text += (text.empty() ? "" : "; ") + sentence;
+  text += (text.empty() || text.ends_with(": ") ? "" : "; ") + sentence;
   if (how > mark || step.empty()) {
     step = whatToDo;
   }

@@ -26,8 +26,8 @@ struct Finding {
   std::string step;  ///< what to do about it; empty when there is nothing to do
   boost::json::object facts;
 
-  /// Adds a sentence. The mark becomes the worse of both, and the step is that
-  /// of the worst sentence so far.
+  /// Adds a sentence behind those that are there, or behind "subject: ". The mark becomes the worse
+  /// of both, and the step is that of the worst sentence so far.
   void say(Mark how, const std::string& sentence, const std::string& whatToDo = {});
 };
 

@@ -31,7 +31,7 @@ void judgeHome(Findings& findings, const std::string& home, const Harmless& harm
   Finding finding;
   finding.check = "home";
   finding.facts["path"] = harmless(home);
-  finding.text = home.empty() ? "/" : harmless(home);
+  finding.text = (home.empty() ? "/" : harmless(home)) + ": ";
   const auto odd = std::find_if(home.begin(), home.end(), breaksAWord);
   if (odd != home.end()) {
     finding.say(Mark::wrong,
@@ -40,6 +40,8 @@ void judgeHome(Findings& findings, const std::string& home, const Harmless& harm
                 startOtherwise);
   } else if (!home.starts_with('/') && !home.empty()) {
     finding.say(Mark::wrong, "is no absolute path", "Set HOME to an absolute path.");
+  } else {
+    finding.say(Mark::ok, "fit for Start Agent");
   }
   findings.push_back(std::move(finding));
 }
@@ -49,8 +51,8 @@ void judgeLogs(Findings& findings, const std::string& home, const Harmless& harm
   finding.check = "logs";
   const std::string file = home + std::string(agentLogInHome);
   const std::string folder = file.substr(0, file.rfind('/'));
-  finding.text = harmless(folder);
-  finding.facts["path"] = finding.text;
+  finding.facts["path"] = harmless(folder);
+  finding.text = harmless(folder) + ": ";
   const auto mode = modeOf(folder);
   if (!mode) {
     finding.say(Mark::wrong, "not there, and without it Start Agent starts nothing",

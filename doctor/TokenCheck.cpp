@@ -94,7 +94,7 @@ TokenInUse choose(const std::vector<Place>& places) {
     }
     return {*place.token, place.path, {}};
   }
-  return {std::nullopt, {}, "there is no token that it can read"};
+  return {std::nullopt, {}, "there is no token that the panel can read"};
 }
 
 Finding summary(const TokenInUse& inUse, const std::vector<Place>& places,

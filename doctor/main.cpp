@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
       return wrongUsage;
     }
     const int code = run(*options);
-    return std::cout ? code : somethingWrong;
+    return std::cout.flush() ? code : somethingWrong;
   } catch (const std::exception& error) {
     std::cerr << "quillmark-doctor: " << error.what() << std::endl;
     return somethingWrong;
