@@ -4,6 +4,7 @@
 #include "Asking.h"
 
 #include <exception>
+#include <stdexcept>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -30,7 +31,7 @@ std::vector<Asked> askAll(const std::string& token, const std::vector<std::strin
           std::rethrow_exception(failure);
         }
         asked.result = std::move(result);
-      } catch (const std::exception& error) {
+      } catch (const std::length_error& error) {
         asked.unsent = error.what();
       }
     };

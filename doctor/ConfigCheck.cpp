@@ -5,13 +5,13 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <string_view>
 #include <vector>
 
 #include <boost/system/result.hpp>
 
 #include "ConfigToml.h"
+#include "ConfigValues.h"
 #include "FileLook.h"
 #include "agentctl/ConfigFile.h"
 #include "agentctl/ConfigReadBack.h"
@@ -24,9 +24,6 @@ struct Place {
   std::string path;
   boost::system::result<std::string> text;
 };
-
-constexpr auto enrol =
-    "Enter the API key on the panel's Settings tab, press Save & Connect, and restart the agent.";
 
 Finding judgePlace(const Place& place, const char* check, bool isTaken, const Harmless& harmless) {
   Finding finding;
@@ -60,74 +57,6 @@ Finding judgePlace(const Place& place, const char* check, bool isTaken, const Ha
       finding.say(Mark::wrong, "mode " + modeText(*mode) + " lets every user read it, key and all",
                   "Close " + path + " to others (mode 0600).");
     }
-  }
-  return finding;
-}
-
-Finding judgeToml(const ConfigToml& toml, const std::string& path) {
-  Finding finding;
-  finding.check = "config-toml";
-  if (toml.error) {
-    const auto line = std::to_string(toml.error->line);
-    finding.facts["line"] = toml.error->line;
-    finding.facts["column"] = toml.error->column;
-    finding.say(Mark::wrong,
-                "no TOML: line " + line + ", column " + std::to_string(toml.error->column),
-                "Mend line " + line + " of " + path + ": the agent may refuse to start with it.");
-  } else if (!toml.hasAgent) {
-    finding.say(Mark::wrong, "no section [agent]",
-                "Add the section [agent] to " + path + ", or write it anew with Save & Connect.");
-  } else {
-    finding.say(Mark::ok, "TOML, with a section [agent]");
-  }
-  return finding;
-}
-
-/// Compares what the file says with what the Settings tab makes of it.
-void sayReadBack(Finding& finding, const std::optional<std::string>& written,
-                 const std::optional<std::string>& readBack) {
-  if (readBack) {
-    finding.facts["read_back_length"] = readBack->size();
-  }
-  if (written) {
-    finding.facts["length"] = written->size();
-  }
-  if (!written) {
-    finding.say(Mark::ok, counted(readBack->size(), "byte") + ", as the Settings tab reads it");
-    return;
-  }
-  if (written == readBack) {
-    finding.say(Mark::ok, counted(written->size(), "byte") + ", read back as written");
-    return;
-  }
-  const bool isCut = written->find('=') != std::string::npos;
-  finding.say(Mark::note,
-              counted(written->size(), "byte") + ", but the Settings tab reads back " +
-                  std::to_string(readBack ? readBack->size() : 0) +
-                  (isCut ? R"(: it cuts a value at its first "=")" : ": it reads line by line"),
-              "Type it anew before Save & Connect, which would write what the tab shows.");
-}
-
-Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries) {
-  Finding finding;
-  finding.check = "config-key";
-  if (toml.apiKey && isPlaceholderKey(*toml.apiKey)) {
-    finding.say(Mark::wrong, "a placeholder, no key", enrol);
-  } else if (toml.apiKey ? toml.apiKey->empty() : !entries.apiKey) {
-    finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrol);
-  } else {
-    sayReadBack(finding, toml.apiKey, entries.apiKey);
-  }
-  return finding;
-}
-
-Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries) {
-  Finding finding;
-  finding.check = "config-url";
-  if (toml.serverUrl ? toml.serverUrl->empty() : !entries.serverUrl) {
-    finding.say(Mark::note, "none, the Settings tab shows its own default", enrol);
-  } else {
-    sayReadBack(finding, toml.serverUrl, entries.serverUrl);
   }
   return finding;
 }
