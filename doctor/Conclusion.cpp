@@ -14,7 +14,8 @@ namespace quillmark::doctor {
 namespace {
 
 /// Whatever keeps an agent from starting, in the order in which it does.
-constexpr std::string_view startsNothing[] = {"bundle", "program", "home", "logs", "config-toml"};
+constexpr std::string_view startsNothing[] = {"bundle", "program", "tools",
+                                              "home",   "logs",    "config-toml"};
 
 /// The step of the first finding with this mark that has one.
 template <class Accept>

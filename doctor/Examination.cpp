@@ -16,6 +16,7 @@
 #include "PortCheck.h"
 #include "ProbeCheck.h"
 #include "TokenCheck.h"
+#include "ToolsCheck.h"
 
 namespace quillmark::doctor {
 
@@ -34,6 +35,7 @@ Report examine() {
                   std::make_move_iterator(config.end()));
   checkFolders(findings, harmless);
   checkBundle(findings, harmless);
+  checkTools(findings);
   checkProbe(findings, port, harmless);
   checkPanels(findings, inUse);
   report.conclusion = conclude(findings, shown, port);

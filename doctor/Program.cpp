@@ -11,16 +11,8 @@
 
 namespace quillmark::doctor {
 
-namespace {
-
-std::string executableOf(const CommandLine& process) {
-  return pathIn(procRoot, std::to_string(process.pid)) + "/exe";
-}
-
-}  // namespace
-
 std::string programName(const CommandLine& process) {
-  auto path = readLink(executableOf(process));
+  auto path = readLink(pathIn(procRoot, std::to_string(process.pid)) + "/exe");
   if (!path) {
     return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
   }
@@ -33,9 +25,7 @@ std::string programName(const CommandLine& process) {
 }
 
 Kind kindOf(const CommandLine& process) {
-  const bool isUntold = process.arguments == CommandLine::Arguments::none;
-  // One that lives may have wiped its command line.
-  if (isUntold && !readLink(executableOf(process))) {
+  if (process.arguments == CommandLine::Arguments::none) {
     return Kind::ended;
   }
   return programName(process) == agentFileName ? Kind::agent : Kind::other;

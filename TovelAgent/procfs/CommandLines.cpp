@@ -13,14 +13,15 @@ namespace quillmark {
 CommandLine readCommandLine(const std::string& procRoot, int pid) {
   const std::string folder = pathIn(procRoot, std::to_string(pid));
   CommandLine line{pid, readSystemFile(folder + "/cmdline").value_or("")};
-  // A program that rewrites its title pads the rest with zeros.
-  line.text.erase(line.text.find_last_not_of('\0') + 1);
-  std::replace(line.text.begin(), line.text.end(), '\0', ' ');
   if (line.text.empty()) {
     line.arguments = CommandLine::Arguments::none;
     line.text = readSystemFile(folder + "/comm").value_or("");
     line.text.erase(line.text.find_last_not_of('\n') + 1);
+    return line;
   }
+  // A program that rewrites its title pads the rest with zeros.
+  line.text.erase(line.text.find_last_not_of('\0') + 1);
+  std::replace(line.text.begin(), line.text.end(), '\0', ' ');
   return line;
 }
 

@@ -84,3 +84,13 @@ def test_agent_that_ended_and_was_not_collected(backend, tmp_path):
                                f"{AGENT}")]
     assert found.step == (f"End the program that started process {child.pid} and takes no notice "
                           "of its end.")
+
+
+def test_agent_with_a_blank_command_line(backend, tmp_path):
+    program = tmp_path / AGENT
+    program.write_bytes(open("/bin/cat", "rb").read())
+    program.chmod(0o700)
+    with subprocess.Popen([""], executable=program, stdin=subprocess.PIPE):
+        found = look()
+        assert real_probe() == []
+    assert found.of("probe")[0].startswith(line("note", "probe", "finds no agent"))

@@ -85,5 +85,13 @@ def test_bundle_with_the_agents_name(tmp_path):
     assert found.step == f"Move the application to a path without {scene.AGENT}."
 
 
+def test_no_search_for_processes(tmp_path):
+    found = look(PATH=str(tmp_path))
+    assert found.of("tools") == [
+        line("wrong", "tools", "pgrep not there, so the Settings tab cannot start, stop or find an "
+                               "agent")]
+    assert found.step == "Install what brings pgrep."
+
+
 def test_with_all_in_place_the_agent_is_next():
     assert look().step == START_AGENT

@@ -48,6 +48,7 @@ def test_every_line():
         line("ok", "logs", f"{scene.LOGS}: writable"),
         line("ok", "bundle", f"{scene.BUNDLE}: fit for Start Agent"),
         line("ok", "program", f"{scene.PROGRAMS / scene.AGENT}: executable"),
+        line("ok", "tools", "/bin/bash, pgrep, /usr/bin/pkill"),
         line("ok", "probe", f"process {agent.pid} is an agent: ./{scene.AGENT}"),
         line("ok", "panel", "not running"),
     ]
