@@ -35,6 +35,8 @@ const char* factOf(Kind kind) {
   switch (kind) {
     case Kind::agent:
       return "agent";
+    case Kind::starter:
+      return "starter";
     case Kind::ended:
       return "ended";
     case Kind::other:
@@ -61,6 +63,8 @@ class Judge final {
                   "End process " + std::to_string(process.pid) + ": one agent is enough.");
     } else if (kind == Kind::agent) {
       finding.say(Mark::ok, who + " is an agent: " + command);
+    } else if (kind == Kind::starter) {
+      finding.say(Mark::ok, who + " is the shell in which Start Agent started one: " + command);
     } else if (kind == Kind::ended) {
       finding.say(otherwiseMark(), who + " has ended and still counts as an agent: " + command,
                   "End the program that started process " + std::to_string(process.pid) +

@@ -6,10 +6,24 @@
 #include <string_view>
 
 #include "agentctl/AgentProcess.h"
+#include "platform/BundlePath.h"
+#include "platform/HomeDirectory.h"
 #include "procfs/SystemFile.h"
 #include "procfs/Text.h"
 
 namespace quillmark::doctor {
+
+namespace {
+
+std::string starterText() {
+  auto [text, arguments] = startCommand(bundlePath(), homeDirectory());
+  for (const auto& argument : arguments) {
+    text.append(1, ' ').append(argument);
+  }
+  return text;
+}
+
+}  // namespace
 
 std::string programName(const CommandLine& process) {
   auto path = readLink(pathIn(procRoot, std::to_string(process.pid)) + "/exe");
@@ -28,7 +42,10 @@ Kind kindOf(const CommandLine& process) {
   if (process.arguments == CommandLine::Arguments::none) {
     return Kind::ended;
   }
-  return programName(process) == agentFileName ? Kind::agent : Kind::other;
+  if (programName(process) == agentFileName) {
+    return Kind::agent;
+  }
+  return process.text == starterText() ? Kind::starter : Kind::other;
 }
 
 }  // namespace quillmark::doctor

@@ -11,8 +11,9 @@ namespace quillmark::doctor {
 
 /// What a process is to the panel's way of finding the agent.
 enum class Kind {
-  agent,  ///< runs a program with the agent's file name
-  ended,  ///< ended, but its parent has not taken notice
+  agent,    ///< runs a program with the agent's file name
+  starter,  ///< the shell of Start Agent, which waits for its agent to end
+  ended,    ///< ended, but its parent has not taken notice
   other,
 };
 

@@ -30,11 +30,16 @@ void sayMode(Finding& finding, const Place& place, const std::string& shownPath)
     return;
   }
   finding.facts["mode"] = modeText(*mode);
-  if (othersMayRead(*mode)) {
-    // Root's agent may have to open its token to the panel's user; nobody's own has to.
-    finding.say(place.owner == Place::Owner::system ? Mark::note : Mark::wrong,
-                "mode " + modeText(*mode) + " lets every user read it",
-                "Close " + shownPath + " to others (mode 0600).");
+  if (!othersMayRead(*mode)) {
+    return;
+  }
+  const auto fault = "mode " + modeText(*mode) + " lets every user read it";
+  // Root's agent may have to open its token to the panel's user; nobody's own has to.
+  if (place.owner == Place::Owner::system) {
+    finding.say(Mark::note, fault,
+                "Open " + shownPath + " to the panel's user alone, by a group (mode 0640).");
+  } else {
+    finding.say(Mark::wrong, fault, "Close " + shownPath + " to others (mode 0600).");
   }
 }
 

@@ -82,10 +82,10 @@ def test_json_facts_of_a_fault(backend):
 
 
 def test_help_and_version():
-    for option, begin in (("--help", "Usage: quillmark-doctor"), ("--version", "quillmark-doctor ")):
+    for option, begin in (("--help", "Usage: "), ("--version", "")):
         done = scene.run(option)
         assert (done.returncode, done.stderr) == (0, "")
-        assert done.stdout.startswith(begin)
+        assert done.stdout.startswith(begin + "quillmark-doctor ")
 
 
 @pytest.mark.parametrize("arguments", [["--unknown"], ["-j"], ["status"], ["--json=1"], [""]])

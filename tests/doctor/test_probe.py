@@ -5,6 +5,7 @@
 import subprocess
 
 import scene
+from harness.processes import end_agents
 from harness.waiting import until
 from scene import AGENT, line, look
 
@@ -38,8 +39,8 @@ def test_editor_counts_as_an_agent(backend):
         found = look()
         assert real_probe() == [editor.pid]
     assert found.of("probe") == [
-        line("wrong", "probe", f"process {editor.pid} is no agent, but counts as one and Stop Agent "
-                               f"would end it: /bin/sh -c sleep 600; : {AGENT}.log")]
+        line("wrong", "probe", f"process {editor.pid} is no agent, but counts as one and Stop "
+                               f"Agent would end it: /bin/sh -c sleep 600; : {AGENT}.log")]
     assert found.step == (f"Close process {editor.pid}, or take the agent's name off its command "
                           "line.")
 
@@ -94,3 +95,22 @@ def test_agent_with_a_blank_command_line(backend, tmp_path):
         found = look()
         assert real_probe() == []
     assert found.of("probe")[0].startswith(line("note", "probe", "finds no agent"))
+
+
+def test_agent_that_start_agent_started():
+    line_of_shell = (f"cd '{scene.PROGRAMS}' && ./{AGENT} > {scene.LOG} 2>&1 &")
+    try:
+        with scene.process("/bin/bash", "-c", line_of_shell) as shell:
+            shell.wait()
+            until(lambda: scene.run().returncode == 0, "the agent to answer")
+            found = look()
+            assert sorted(real_probe()) == sorted(pids(found))
+            assert len(pids(found)) == 2
+        command = f"/bin/bash -c {line_of_shell}"
+        shown = command if len(command) <= 120 else command[:120] + "…"
+        said = f"process {min(pids(found))} is the shell in which Start Agent started one: {shown}"
+        assert line("ok", "probe", said) in found.lines
+        assert found.of("probe")[1].endswith(f" is an agent: ./{AGENT}")
+        assert (found.step, found.code) == ("none.", 0)
+    finally:
+        end_agents()

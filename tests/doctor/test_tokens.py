@@ -111,7 +111,7 @@ def test_others_may_read_the_system_wide_one(backend):
     assert found.of("token-system") == [
         line("note", "token-system",
              f"{SYSTEM_TOKEN}: 22 bytes; mode 0644 lets every user read it")]
-    assert found.step == f"Close {SYSTEM_TOKEN} to others (mode 0600)."
+    assert found.step == f"Open {SYSTEM_TOKEN} to the panel's user alone, by a group (mode 0640)."
     assert found.code == 0
 
 
