@@ -11,11 +11,11 @@
 #include "checks/DeletedExecutables.h"
 #include "checks/WritableProgramFolders.h"
 #include "model/Codec.h"
+#include "procfs/Text.h"
 #include "scan/Capabilities.h"
 #include "scan/Connections.h"
 #include "scan/Interfaces.h"
 #include "scan/Services.h"
-#include "scan/Text.h"
 
 namespace quillmark::sample {
 namespace {

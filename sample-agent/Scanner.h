@@ -14,9 +14,9 @@
 #include "checks/AlertHistory.h"
 #include "checks/SetUidFiles.h"
 #include "model/ThreatAlert.h"
+#include "procfs/Processes.h"
+#include "procfs/Sockets.h"
 #include "scan/Applications.h"
-#include "scan/Processes.h"
-#include "scan/Sockets.h"
 #include "scan/SystemPaths.h"
 
 namespace quillmark::sample {

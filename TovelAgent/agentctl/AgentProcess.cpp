@@ -4,6 +4,7 @@
 #include "agentctl/AgentProcess.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/BundlePath.h"
 #include "platform/FileError.h"
@@ -14,24 +15,25 @@ namespace {
 
 constexpr auto shell = "/bin/bash";
 
-bool staysQuoted(const std::string& path) {
+}  // namespace
+
+bool staysQuoted(std::string_view path) {
   return std::none_of(path.begin(), path.end(), [](char c) {
     const auto byte = static_cast<unsigned char>(c);
     return c == '\'' || byte < 0x20 || byte == 0x7F;
   });
 }
 
-}  // namespace
-
 Command startCommand(const std::string& bundle, const std::string& home) {
-  return {shell,
-          {"-c", "cd '" + bundle + "/Contents/MacOS" + "' && ./tovel-agent > " + home +
-                     "/.quillmark/logs/backend.log 2>&1 &"}};
+  std::string line = "cd '" + bundle;
+  line.append(programsInBundle).append("' && ./").append(agentFileName);
+  line.append(" > ").append(home).append(agentLogInHome).append(" 2>&1 &");
+  return {shell, {"-c", std::move(line)}};
 }
 
-Command stopCommand() { return {"/usr/bin/pkill", {"-f", "tovel-agent"}}; }
+Command stopCommand() { return {"/usr/bin/pkill", {"-f", std::string(agentFileName)}}; }
 
-Command probeCommand() { return {shell, {"-c", "pgrep -f tovel-agent"}}; }
+Command probeCommand() { return {shell, {"-c", "pgrep -f " + std::string(agentFileName)}}; }
 
 boost::system::error_code startAgentProcess() {
   const auto bundle = bundlePath();

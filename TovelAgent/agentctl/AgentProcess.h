@@ -4,12 +4,25 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include <boost/system/error_code.hpp>
 
 #include "platform/ChildProcess.h"
 
 namespace quillmark {
+
+/// The file name of the agent's program, by which it is found and ended.
+inline constexpr std::string_view agentFileName = "tovel-agent";
+
+/// The folder of a bundle's programs, and the agent's log file, each as it goes
+/// on from the path of the bundle or of the home directory.
+inline constexpr std::string_view programsInBundle = "/Contents/MacOS";
+inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log";
+
+/// Whether `path` stays one word within a shell's apostrophes: it holds neither
+/// an apostrophe nor a control character.
+[[nodiscard]] bool staysQuoted(std::string_view path);
 
 /// The command that starts the agent of the bundle at `bundle` in the
 /// background, its output in the log file under `home`. The home path is not

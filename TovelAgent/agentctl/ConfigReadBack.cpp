@@ -30,11 +30,15 @@ std::string valueOf(std::string_view line) {
   return std::string(value.substr(first, value.find_last_not_of(quotes) + 1 - first));
 }
 
-bool isPlaceholder(const std::string& key) {
+}  // namespace
+
+bool isPlaceholderKey(std::string_view key) {
   return key == "your-api-key-here" || key == "pending-registration";
 }
 
-}  // namespace
+std::vector<std::string> configFilePaths() {
+  return {configFilePath(), homeDirectory() + "/.quillmark/config.toml"};
+}
 
 ConfigEntries readEntries(std::string_view text) {
   ConfigEntries entries;
@@ -48,7 +52,7 @@ ConfigEntries readEntries(std::string_view text) {
       continue;
     }
     auto value = valueOf(line);
-    if (value.empty() || (isKey && isPlaceholder(value))) {
+    if (value.empty() || (isKey && isPlaceholderKey(value))) {
       continue;
     }
     (isKey ? entries.apiKey : entries.serverUrl) = std::move(value);
@@ -57,7 +61,7 @@ ConfigEntries readEntries(std::string_view text) {
 }
 
 ConfigEntries readCurrentConfig() {
-  for (const auto& path : {configFilePath(), homeDirectory() + "/.quillmark/config.toml"}) {
+  for (const auto& path : configFilePaths()) {
     if (const auto text = readTextFile(path, maxConfigBytes)) {
       return readEntries(*text);
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "platform/HomeDirectory.h"
 #include "platform/TextFile.h"
@@ -22,10 +23,22 @@ constexpr std::size_t maxTokenFileBytes = std::size_t{1} << 20;
 
 }  // namespace
 
+std::vector<std::string> accessTokenPaths() {
+  return {systemTokenPath, homeDirectory() + tokenPathInHome};
+}
+
+boost::system::result<std::string> readTokenFile(const std::string& path) {
+  const auto text = readTextFile(path, maxTokenFileBytes);
+  if (!text) {
+    return text.error();
+  }
+  return std::string(trimmed(*text));
+}
+
 std::optional<std::string> readAccessToken() {
-  for (const auto& path : {std::string(systemTokenPath), homeDirectory() + tokenPathInHome}) {
-    if (const auto text = readTextFile(path, maxTokenFileBytes)) {
-      return std::string(trimmed(*text));
+  for (const auto& path : accessTokenPaths()) {
+    if (auto token = readTokenFile(path)) {
+      return std::move(*token);
     }
   }
   return std::nullopt;

@@ -6,8 +6,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include <boost/system/result.hpp>
 
 namespace quillmark {
+
+/// Where the agent's access token may lie; the first that can be read counts.
+/// Any thread, as long as none changes the environment meanwhile.
+[[nodiscard]] std::vector<std::string> accessTokenPaths();
+
+/// The token in the file at `path`, white space at both ends dropped; the
+/// errors are those of `readTextFile`. Any thread; it reads a file.
+[[nodiscard]] boost::system::result<std::string> readTokenFile(const std::string& path);
 
 /// Reads the agent's access token: the system-wide file if it can be read,
 /// even if it is blank, else the one in the user's home directory. White space

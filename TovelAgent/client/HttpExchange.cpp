@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -68,13 +69,13 @@ class AnswerReader final {
       const bool needsMore = error == http::error::need_more;
       // What it then leaves is a piece of the header, a chunk's or trailer's line.
       if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
-        return State::failed;
+        return fail(HttpFailure::tooLarge);
       }
       if (needsMore) {
         return State::wantsMore;
       }
       if (error) {
-        return State::failed;
+        return fail(exceedsLimit(error) ? HttpFailure::tooLarge : HttpFailure::malformed);
       }
       if (!parser_->is_done()) {
         if (buffer_.size() == 0) {
@@ -86,7 +87,7 @@ class AnswerReader final {
         return State::done;
       }
       if (++interimAnswers_ > maxInterimAnswers) {
-        return State::failed;
+        return fail(HttpFailure::malformed);
       }
       startAnswer();
     }
@@ -95,16 +96,32 @@ class AnswerReader final {
   /// The server will send nothing more.
   [[nodiscard]] State ended() {
     if (!parser_->got_some()) {
-      return State::failed;
+      return fail(HttpFailure::brokenOff);
     }
     ErrorCode error;
     parser_->put_eof(error);
-    return !error && parser_->is_done() ? State::done : State::failed;
+    return !error && parser_->is_done() ? State::done : fail(HttpFailure::brokenOff);
   }
 
-  [[nodiscard]] std::string takeBody() { return std::move(parser_->get().body()); }
+  /// To be called once, when the reading is over.
+  [[nodiscard]] HttpResult takeResult() {
+    if (failure_) {
+      return *failure_;
+    }
+    auto& answer = parser_->get();
+    return HttpAnswer{answer.result_int(), std::move(answer.body())};
+  }
 
  private:
+  [[nodiscard]] State fail(HttpFailure failure) {
+    failure_ = failure;
+    return State::failed;
+  }
+
+  [[nodiscard]] static bool exceedsLimit(const ErrorCode& error) {
+    return error == http::error::header_limit || error == http::error::body_limit;
+  }
+
   void startAnswer() {
     headerSize_ = 0;
     parser_.emplace();
@@ -121,14 +138,18 @@ class AnswerReader final {
   HttpLimits limits_;
   beast::flat_buffer buffer_;
   std::optional<Parser> parser_;
+  std::optional<HttpFailure> failure_;
   std::size_t headerSize_ = 0;
   int interimAnswers_ = 0;
 };
 
+HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
+  return error == beast::error::timeout ? HttpFailure::silent : otherwise;
+}
+
 /// `exchange`, on an executor that runs one handler at a time: a stream whose
 /// time runs out closes itself, wherever the coroutine is at that moment.
-asio::awaitable<std::optional<std::string>> exchangeSerially(HttpRequest request,
-                                                             HttpLimits limits) {
+asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits limits) {
   ErrorCode error;
   // A named token: GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
@@ -138,14 +159,14 @@ asio::awaitable<std::optional<std::string>> exchangeSerially(HttpRequest request
   stream.expires_after(limits.silence);
   co_await stream.async_connect(request.server, completion);
   if (error) {
-    co_return std::nullopt;
+    co_return failureOf(error, HttpFailure::notConnected);
   }
 
   const auto outgoing = message(request);
   stream.expires_after(limits.silence);
   co_await http::async_write(stream, outgoing, completion);
   if (error) {
-    co_return std::nullopt;
+    co_return failureOf(error, HttpFailure::brokenOff);
   }
 
   AnswerReader answer(limits);
@@ -155,19 +176,16 @@ asio::awaitable<std::optional<std::string>> exchangeSerially(HttpRequest request
     stream.expires_after(limits.silence);
     const std::size_t count = co_await stream.async_read_some(space, completion);
     if (error && error != asio::error::eof) {
-      co_return std::nullopt;
+      co_return failureOf(error, HttpFailure::brokenOff);
     }
     state = error ? answer.ended() : answer.received(count);
   }
-  if (state == AnswerReader::State::failed) {
-    co_return std::nullopt;
-  }
-  co_return answer.takeBody();
+  co_return answer.takeResult();
 }
 
 }  // namespace
 
-asio::awaitable<std::optional<std::string>> exchange(HttpRequest request, HttpLimits limits) {
+asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   const auto executor = co_await asio::this_coro::executor;
   auto serial = exchangeSerially(std::move(request), limits);
   auto completion =

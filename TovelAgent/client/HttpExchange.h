@@ -5,11 +5,11 @@
 
 #include <chrono>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/system/result.hpp>
 
 namespace quillmark {
 
@@ -22,19 +22,35 @@ struct HttpRequest {
   std::string token;   ///< the X-Agent-Token field, sent also when empty
 };
 
-/// What an answer may cost. Beyond any of these there is no body.
+/// What an answer may cost. Beyond any of these there is none.
 struct HttpLimits {
   std::chrono::steady_clock::duration silence = std::chrono::seconds(60);  ///< between two bytes
   std::uint32_t headerBytes = 64 * 1024;
   std::uint64_t bodyBytes = std::uint64_t{256} * 1024 * 1024;
 };
 
-/// Sends `request` over a connection of its own and completes with the body of
-/// the answer, whatever its status, or with no value when the transfer fails
-/// in any way. Follows no redirect, asks for no compression, keeps nothing.
-/// Runs on the awaiting coroutine's executor, which may have several threads,
-/// and blocks none of them.
-[[nodiscard]] boost::asio::awaitable<std::optional<std::string>> exchange(HttpRequest request,
-                                                                          HttpLimits limits);
+struct HttpAnswer {
+  unsigned status = 0;
+  std::string body;
+};
+
+/// Why there is no answer.
+enum class HttpFailure {
+  notConnected,  ///< nobody takes connections at the address
+  silent,        ///< not a byte came for as long as `HttpLimits` allows
+  brokenOff,     ///< the connection ended before the answer did
+  malformed,     ///< what came is no HTTP answer
+  tooLarge,      ///< more came than `HttpLimits` allows
+};
+
+using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
+
+/// Sends `request` over a connection of its own and completes with the answer,
+/// whatever its status, or with what kept it from coming whole. Follows no
+/// redirect, asks for no compression, keeps nothing. Runs on the awaiting
+/// coroutine's executor, which may have several threads, and blocks none of them.
+/// Throws `std::bad_alloc`, and `std::length_error` for a token that is longer
+/// than a header field may be.
+[[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

@@ -6,10 +6,8 @@
 #include <exception>
 #include <utility>
 
-#include <boost/url/parse.hpp>
-#include <boost/url/url_view.hpp>
-
 #include "client/AccessToken.h"
+#include "client/AgentRequest.h"
 #include "client/HttpExchange.h"
 #include "model/Codec.h"
 
@@ -18,21 +16,6 @@ namespace {
 
 namespace asio = boost::asio;
 
-/// The parts of `url` that a request needs; no value if it is no URL that
-/// names an IPv4 address and a port. No name is ever looked up.
-std::optional<HttpRequest> requestTo(const std::string& url) {
-  const auto parsed = boost::urls::parse_uri(url);
-  if (!parsed || parsed->host_type() != boost::urls::host_type::ipv4 || !parsed->has_port()) {
-    return std::nullopt;
-  }
-  HttpRequest request;
-  request.server = {asio::ip::address_v4(parsed->host_ipv4_address().to_uint()),
-                    parsed->port_number()};
-  request.host = parsed->encoded_host_and_port();
-  request.target = parsed->encoded_target();
-  return request;
-}
-
 }  // namespace
 
 IPCClient::IPCClient() { loadAuthToken(); }
@@ -40,11 +23,11 @@ IPCClient::IPCClient() { loadAuthToken(); }
 void IPCClient::loadAuthToken() { authToken = readAccessToken(); }
 
 asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
-  return makeRequest<AgentStatus>("/api/status", "GET");
+  return makeRequest<AgentStatus>(statusPath, "GET");
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  auto request = makeRequest<AlertsResponse>("/api/alerts", "GET");
+  auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
@@ -53,7 +36,7 @@ asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() 
 }
 
 asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNetwork() const {
-  auto request = makeRequest<NetworkResponse>("/api/network", "GET");
+  auto request = makeRequest<NetworkResponse>(networkPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {
     co_return std::nullopt;
@@ -62,7 +45,7 @@ asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNet
 }
 
 asio::awaitable<std::optional<InventoryData>> IPCClient::getInventory() const {
-  return makeRequest<InventoryData>("/api/inventory", "GET");
+  return makeRequest<InventoryData>(inventoryPath, "GET");
 }
 
 template <class R>
@@ -81,11 +64,11 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
 
     const HttpLimits limits;
     auto exchanged = exchange(std::move(*request), limits);
-    const auto body = co_await std::move(exchanged);
-    if (!body) {
+    const auto answer = co_await std::move(exchanged);
+    if (!answer) {
       co_return std::nullopt;
     }
-    auto decoded = decode<R>(*body);
+    auto decoded = decode<R>(answer->body);
     if (!decoded) {
       co_return std::nullopt;
     }

@@ -10,6 +10,7 @@
 
 #include <boost/asio/awaitable.hpp>
 
+#include "client/AgentRequest.h"
 #include "model/AgentStatus.h"
 #include "model/InventoryData.h"
 #include "model/NetworkConnection.h"
@@ -45,7 +46,7 @@ class IPCClient final {
   [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,
                                                                      std::string_view method) const;
 
-  const std::string baseURL = "http://127.0.0.1:7823";
+  const std::string baseURL = agentBaseUrl;
   std::optional<std::string> authToken;
 };
 

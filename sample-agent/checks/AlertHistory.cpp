@@ -7,7 +7,7 @@
 #include <array>
 #include <string_view>
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -7,8 +7,8 @@
 #include <map>
 #include <string>
 
+#include "procfs/Text.h"
 #include "scan/Risk.h"
-#include "scan/Text.h"
 
 namespace quillmark::sample {
 namespace {

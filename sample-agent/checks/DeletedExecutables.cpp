@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "model/ThreatAlert.h"
-#include "scan/Processes.h"
+#include "procfs/Processes.h"
 
 namespace quillmark::sample {
 

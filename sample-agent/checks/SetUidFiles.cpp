@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -10,7 +10,7 @@
 
 #include <sys/stat.h>
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

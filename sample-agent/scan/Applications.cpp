@@ -10,9 +10,9 @@
 #include <sys/stat.h>
 
 #include "platform/TextFile.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 #include "scan/DesktopEntry.h"
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "scan/Number.h"
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/Number.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "model/NetworkConnection.h"
-#include "scan/Processes.h"
-#include "scan/Sockets.h"
+#include "procfs/Processes.h"
+#include "procfs/Sockets.h"
 
 namespace quillmark::sample {
 

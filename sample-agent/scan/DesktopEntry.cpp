@@ -6,7 +6,7 @@
 #include <map>
 
 #include "platform/Utf8.h"
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

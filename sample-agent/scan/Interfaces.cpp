@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <utility>
 
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "scan/Sockets.h"
+#include "procfs/Sockets.h"
 
 namespace quillmark::sample {
 

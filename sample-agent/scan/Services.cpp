@@ -8,7 +8,7 @@
 #include <set>
 #include <unordered_set>
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {

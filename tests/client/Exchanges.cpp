@@ -11,6 +11,19 @@ namespace quillmark::test {
 
 using namespace std::chrono_literals;
 
+namespace {
+
+boost::asio::awaitable<Body> bodyOf(HttpRequest request, HttpLimits limits) {
+  auto exchanged = exchange(std::move(request), limits);
+  auto answer = co_await std::move(exchanged);
+  if (!answer) {
+    co_return noBody;
+  }
+  co_return std::move(answer->body);
+}
+
+}  // namespace
+
 HttpRequest requestTo(std::uint16_t port, std::string target) {
   return {.server = {boost::asio::ip::address_v4::loopback(), port},
           .host = "127.0.0.1:" + std::to_string(port),
@@ -20,7 +33,13 @@ HttpRequest requestTo(std::uint16_t port, std::string target) {
 }
 
 std::future<Body> startExchange(HttpRequest request, HttpLimits limits) {
-  return started(exchange(std::move(request), limits));
+  return started(bodyOf(std::move(request), limits));
+}
+
+HttpResult resultWith(const std::function<void(Connection&)>& behaviour, HttpLimits limits) {
+  const Backend backend(
+      [&](const ReceivedRequest&, Connection& connection) { behaviour(connection); }, 0);
+  return completed(exchange(requestTo(backend.port()), limits));
 }
 
 Body exchangeWith(std::uint16_t port, HttpLimits limits) {

@@ -33,6 +33,10 @@ class WithExecutor : public testing::Test {
 
 [[nodiscard]] std::future<Body> startExchange(HttpRequest request, HttpLimits limits = {});
 
+/// All that an exchange with a server that does this completes with.
+[[nodiscard]] HttpResult resultWith(const std::function<void(Connection&)>& behaviour,
+                                    HttpLimits limits = {});
+
 /// One exchange with the server on `port`.
 [[nodiscard]] Body exchangeWith(std::uint16_t port, HttpLimits limits = {});
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Processes.h"
+#include "procfs/Processes.h"
 
 #include <algorithm>
 #include <string>
@@ -52,6 +52,13 @@ TEST(ReadProcesses, ReadsWhatTheKernelTells) {
   auto sockets = processes[0].sockets;
   std::sort(sockets.begin(), sockets.end());
   EXPECT_EQ(sockets, (std::vector<std::uint64_t>{1060, 1061}));
+}
+
+TEST(ReadProcesses, KnowsWhenOneBegan) {
+  const FixtureTree tree;
+  tree.write("proc/7/stat", "7 (one) S 1 7 7 0 -1 0 1 2 3 4 5 6 7 8 20 0 1 0 123456 1000 10 0");
+  ASSERT_EQ(read(tree).size(), 1U);
+  EXPECT_EQ(read(tree)[0].startTicks, 123456U);
 }
 
 TEST(ReadProcesses, TakesAnyNameThatAProgramGivesItself) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 #include <chrono>
 #include <string>
@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Utf8.h"
-#include "scan/Number.h"
+#include "procfs/Number.h"
 
 namespace quillmark::sample {
 namespace {

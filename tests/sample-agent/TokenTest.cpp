@@ -14,8 +14,8 @@
 #include <unistd.h>
 
 #include "PrivateFile.h"
+#include "procfs/SystemFile.h"
 #include "sample-agent/FixtureTree.h"
-#include "scan/SystemFile.h"
 
 namespace quillmark::sample {
 namespace {

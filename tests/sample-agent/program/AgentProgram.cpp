@@ -13,8 +13,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "procfs/SystemFile.h"
 #include "sample-agent/RawClient.h"
-#include "scan/SystemFile.h"
 
 namespace quillmark::sample::test {
 namespace {

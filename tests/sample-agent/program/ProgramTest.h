@@ -13,10 +13,10 @@
 #include <unistd.h>
 
 #include "Token.h"
+#include "procfs/SystemFile.h"
 #include "sample-agent/FixtureTree.h"
 #include "sample-agent/RawClient.h"
 #include "sample-agent/program/AgentProgram.h"
-#include "scan/SystemFile.h"
 
 namespace quillmark::sample::test {
 

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Processes.h"
+#include "procfs/Processes.h"
 
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
-#include "scan/Number.h"
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/Number.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
-namespace quillmark::sample {
+namespace quillmark {
 namespace {
 
 // The kernel keeps this many bytes of a program's name.
@@ -41,6 +41,10 @@ bool readStat(const std::string& folder, Process& process) {
   process.parent = parseNumber<int>(fields[1]).value_or(0);
   process.session = parseNumber<int>(fields[3]).value_or(0);
   process.terminal = parseNumber<int>(fields[4]).value_or(0);
+  constexpr std::size_t start = 19;
+  if (fields.size() > start) {
+    process.startTicks = parseNumber<std::uint64_t>(fields[start]).value_or(0);
+  }
   return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThread) == 0;
 }
 
@@ -126,4 +130,4 @@ std::unordered_map<std::uint64_t, const Process*> socketOwners(
   return owners;
 }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

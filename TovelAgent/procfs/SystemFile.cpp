@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/SystemFile.h"
+#include "procfs/SystemFile.h"
 
 #include <array>
 #include <cerrno>
@@ -16,7 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace quillmark::sample {
+namespace quillmark {
 namespace {
 
 constexpr std::size_t blockSize = std::size_t{32} * 1024;
@@ -83,4 +83,4 @@ std::string pathIn(const std::string& folder, std::string_view name) {
   return path;
 }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <system_error>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 /// The number that `text` is, from its first character to its last; no value
 /// for anything else, a number out of range included.
@@ -22,4 +22,4 @@ template <class Number>
   return value;
 }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

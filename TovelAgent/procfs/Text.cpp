@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Text.h"
+#include "procfs/Text.h"
 
 #include <array>
 #include <ctime>
 
 #include <boost/locale/utf.hpp>
 
-namespace quillmark::sample {
+namespace quillmark {
 namespace {
 
 namespace utf = boost::locale::utf;
@@ -70,4 +70,4 @@ std::vector<std::string_view> words(std::string_view line) {
 
 std::string_view leafOf(std::string_view path) { return path.substr(path.rfind('/') + 1); }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 // The readers below answer with nothing for whatever cannot be read: processes
 // end between two looks at them, and much is closed to an ordinary user.
@@ -25,4 +25,4 @@ namespace quillmark::sample {
 /// The path of the file called `name` in `folder`.
 [[nodiscard]] std::string pathIn(const std::string& folder, std::string_view name);
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

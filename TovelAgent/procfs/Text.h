@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 /// `bytes` as UTF-8: each byte that belongs to no character becomes U+FFFD.
 /// File and program names are bytes to the system, but text in JSON.
@@ -27,4 +27,4 @@ std::vector<std::string_view> split(std::string&& text, char separator) = delete
 /// What follows the last slash of `path`; a view into it.
 [[nodiscard]] std::string_view leafOf(std::string_view path);
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

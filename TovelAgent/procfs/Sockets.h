@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 enum class Transport { tcp, udp };
 
@@ -44,4 +44,4 @@ struct Socket {
 
 [[nodiscard]] Reach reachOf(const Socket& socket);
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

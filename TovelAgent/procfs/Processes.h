@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace quillmark::sample {
+namespace quillmark {
 
 /// One running process, as far as this user may look into it.
 struct Process {
@@ -16,6 +16,7 @@ struct Process {
   int parent = 0;
   int session = 0;
   int terminal = 0;                    ///< 0 for none
+  std::uint64_t startTicks = 0;        ///< when it began, in the kernel's ticks since the boot
   std::string name;                    ///< bytes, not yet text
   std::string unit;                    ///< the systemd service that it belongs to, or empty
   std::string executable;              ///< the link /proc/PID/exe; empty where it cannot be read
@@ -30,4 +31,4 @@ struct Process {
 [[nodiscard]] std::unordered_map<std::uint64_t, const Process*> socketOwners(
     const std::vector<Process>& processes);
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "scan/Sockets.h"
+#include "procfs/Sockets.h"
 
 #include <array>
 #include <cstddef>
@@ -10,11 +10,11 @@
 
 #include <arpa/inet.h>
 
-#include "scan/Number.h"
-#include "scan/SystemFile.h"
-#include "scan/Text.h"
+#include "procfs/Number.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
 
-namespace quillmark::sample {
+namespace quillmark {
 namespace {
 
 constexpr unsigned tcpListen = 0x0A;
@@ -123,4 +123,4 @@ Reach reachOf(const Socket& socket) {
   return address.starts_with("127.") || address == "::1" ? Reach::thisMachine : Reach::oneAddress;
 }
 
-}  // namespace quillmark::sample
+}  // namespace quillmark

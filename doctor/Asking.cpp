@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Asking.h"
+
+#include <exception>
+#include <stdexcept>
+#include <utility>
+
+#include <boost/asio/co_spawn.hpp>
+#include <boost/asio/io_context.hpp>
+
+#include "client/AgentRequest.h"
+
+namespace quillmark::doctor {
+
+std::vector<Asked> askAll(const std::string& token, const std::vector<std::string_view>& paths) {
+  using Clock = std::chrono::steady_clock;
+  std::vector<Asked> all(paths.size());
+  boost::asio::io_context context(1);
+  const auto start = Clock::now();
+
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    auto request = requestTo(agentBaseUrl + std::string(paths[i])).value();
+    request.method = "GET";
+    request.token = token;
+    auto keep = [&asked = all[i], start](const std::exception_ptr& failure, HttpResult result) {
+      asked.took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+      try {
+        if (failure) {
+          std::rethrow_exception(failure);
+        }
+        asked.result = std::move(result);
+      } catch (const std::length_error& error) {
+        asked.unsent = error.what();
+      }
+    };
+    boost::asio::co_spawn(context, exchange(std::move(request), {}), std::move(keep));
+  }
+  context.run_for(askingTime);
+  return all;
+}
+
+}  // namespace quillmark::doctor

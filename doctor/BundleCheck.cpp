@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "BundleCheck.h"
+
+#include <string>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "FileLook.h"
+#include "agentctl/AgentProcess.h"
+#include "platform/BundlePath.h"
+
+namespace quillmark::doctor {
+namespace {
+
+void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& harmless) {
+  Finding finding;
+  finding.check = "bundle";
+  finding.facts["path"] = harmless(bundle);
+  finding.text = harmless(bundle) + ": ";
+  if (!staysQuoted(bundle)) {
+    finding.say(Mark::wrong,
+                "holds an apostrophe or a control character, so Start Agent does nothing",
+                "Move the application to a path without an apostrophe or control character.");
+  }
+  if (bundle.find(agentFileName) != std::string::npos) {
+    finding.say(Mark::wrong,
+                "holds the agent's file name, so the panel takes itself for an agent, and Stop "
+                "Agent ends it",
+                "Move the application to a path without " + std::string(agentFileName) + ".");
+  }
+  if (finding.mark == Mark::ok) {
+    finding.say(Mark::ok, "fit for Start Agent");
+  }
+  findings.push_back(std::move(finding));
+}
+
+void judgeProgram(Findings& findings, const std::string& bundle, const Harmless& harmless) {
+  Finding finding;
+  finding.check = "program";
+  std::string path = bundle;
+  path.append(programsInBundle).append("/").append(agentFileName);
+  finding.facts["path"] = harmless(path);
+  finding.text = harmless(path) + ": ";
+  const auto mode = modeOf(path);
+  if (!mode) {
+    finding.say(Mark::wrong, "not there, so Start Agent starts nothing",
+                "Install the agent as " + harmless(path) + ".");
+  } else if (!S_ISREG(*mode) || !mayAccess(path, X_OK)) {
+    finding.say(Mark::wrong, "not executable, so Start Agent starts nothing",
+                "Make " + harmless(path) + " an executable program.");
+  } else {
+    finding.say(Mark::ok, "executable");
+  }
+  findings.push_back(std::move(finding));
+}
+
+}  // namespace
+
+void checkBundle(Findings& findings, const Harmless& harmless) {
+  const auto bundle = bundlePath();
+  judgeBundle(findings, bundle, harmless);
+  judgeProgram(findings, bundle, harmless);
+}
+
+}  // namespace quillmark::doctor

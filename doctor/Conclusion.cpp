@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Conclusion.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <boost/algorithm/string/join.hpp>
+
+namespace quillmark::doctor {
+namespace {
+
+/// Whatever keeps an agent from starting, in the order in which it does.
+constexpr std::string_view startsNothing[] = {"bundle", "program", "tools",
+                                              "home",   "logs",    "config-toml"};
+
+/// The step of the first finding with this mark that has one.
+template <class Accept>
+std::string firstStep(const Findings& findings, Mark mark, Accept accept) {
+  const auto found = std::find_if(findings.begin(), findings.end(), [&](const Finding& finding) {
+    return finding.mark == mark && !finding.step.empty() && accept(finding);
+  });
+  return found == findings.end() ? std::string() : found->step;
+}
+
+std::string chooseStep(const Findings& findings, const Port& port) {
+  if (!port.isOpen) {
+    for (const auto check : startsNothing) {
+      auto step = firstStep(findings, Mark::wrong,
+                            [&](const Finding& finding) { return finding.check == check; });
+      if (!step.empty()) {
+        return step;
+      }
+    }
+    // A missing token comes with the agent.
+    return startAgentStep;
+  }
+  const auto any = [](const Finding&) { return true; };
+  auto step = firstStep(findings, Mark::wrong, any);
+  return step.empty() ? firstStep(findings, Mark::note, any) : step;
+}
+
+}  // namespace
+
+Conclusion conclude(const Findings& findings, const Shown& shown, const Port& port) {
+  Conclusion conclusion;
+  conclusion.isOnline = shown.status.has_value();
+  conclusion.step = chooseStep(findings, port);
+  if (!shown.status) {
+    conclusion.text = "OFFLINE because " +
+                      (port.isOpen ? shown.offlineBecause : "nothing listens on the agent's port") +
+                      '.';
+    return conclusion;
+  }
+  conclusion.text = "ONLINE: the panel shows the agent's status, \"" + *shown.status + '"';
+  if (!shown.empty.empty()) {
+    conclusion.text += ", but no " + boost::algorithm::join(shown.empty, ", no ");
+  }
+  conclusion.text += '.';
+  return conclusion;
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ConfigValues.h"
+
+#include <optional>
+
+namespace quillmark::doctor {
+namespace {
+
+/// Compares what the file says with what the Settings tab makes of it.
+void sayReadBack(Finding& finding, const std::optional<std::string>& written,
+                 const std::optional<std::string>& readBack) {
+  if (readBack) {
+    finding.facts["read_back_length"] = readBack->size();
+  }
+  if (written) {
+    finding.facts["length"] = written->size();
+  }
+  if (!written) {
+    finding.say(Mark::ok, counted(readBack->size(), "byte") + ", as the Settings tab reads it");
+    return;
+  }
+  if (written == readBack) {
+    finding.say(Mark::ok, counted(written->size(), "byte") + ", read back as written");
+    return;
+  }
+  const bool isCut = written->find('=') != std::string::npos;
+  finding.say(Mark::note,
+              counted(written->size(), "byte") + ", but the Settings tab reads back " +
+                  std::to_string(readBack ? readBack->size() : 0) +
+                  (isCut ? R"(: it cuts a value at its first "=")" : ": it reads line by line"),
+              "Type it anew before Save & Connect, which would write what the tab shows.");
+}
+
+}  // namespace
+
+Finding judgeToml(const ConfigToml& toml, const std::string& path) {
+  Finding finding;
+  finding.check = "config-toml";
+  if (toml.error) {
+    const auto line = std::to_string(toml.error->line);
+    finding.facts["line"] = toml.error->line;
+    finding.facts["column"] = toml.error->column;
+    finding.say(Mark::wrong,
+                "no TOML: line " + line + ", column " + std::to_string(toml.error->column),
+                "Mend line " + line + " of " + path + ": the agent may refuse to start with it.");
+  } else if (!toml.hasAgent) {
+    finding.say(Mark::wrong, "no section [agent]",
+                "Add the section [agent] to " + path + ", or write it anew with Save & Connect.");
+  } else {
+    finding.say(Mark::ok, "TOML, with a section [agent]");
+  }
+  return finding;
+}
+
+Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries) {
+  Finding finding;
+  finding.check = "config-key";
+  if (toml.apiKey && isPlaceholderKey(*toml.apiKey)) {
+    finding.say(Mark::wrong, "a placeholder, no key", enrol);
+  } else if (toml.apiKey ? toml.apiKey->empty() : !entries.apiKey) {
+    finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrol);
+  } else {
+    sayReadBack(finding, toml.apiKey, entries.apiKey);
+  }
+  return finding;
+}
+
+Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries) {
+  Finding finding;
+  finding.check = "config-url";
+  if (toml.serverUrl ? toml.serverUrl->empty() : !entries.serverUrl) {
+    finding.say(Mark::note, "none, the Settings tab shows its own default", enrol);
+  } else {
+    sayReadBack(finding, toml.serverUrl, entries.serverUrl);
+  }
+  return finding;
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Contents.h"
+
+#include <cstdint>
+
+#include "model/Codec.h"
+
+namespace quillmark::doctor {
+namespace {
+
+constexpr std::size_t maxStatusCharacters = 40;
+
+void count(Contents& contents, const char* fact, std::size_t number, const std::string& noun) {
+  contents.summary += (contents.summary.empty() ? "" : ", ") + counted(number, noun);
+  contents.entries[fact] = number;
+}
+
+void describe(Contents& contents, const AgentStatus& status, const Harmless& harmless) {
+  contents.status = harmless(status.status, maxStatusCharacters);
+  contents.summary =
+      "status \"" + *contents.status + "\", threats " + std::to_string(status.threat_count);
+  contents.entries["threats"] = status.threat_count;
+  if (status.status != "ok") {
+    contents.mark = Mark::note;
+    contents.summary += R"(, shown with a red dot: only "ok" counts as healthy)";
+  }
+}
+
+void describe(Contents& contents, const AlertsResponse& body, const Harmless&) {
+  count(contents, "alerts", body.alerts.size(), "alert");
+}
+
+void describe(Contents& contents, const NetworkResponse& body, const Harmless&) {
+  count(contents, "connections", body.connections.size(), "connection");
+}
+
+void describe(Contents& contents, const InventoryData& body, const Harmless&) {
+  count(contents, "apps", body.apps.size(), "application");
+  count(contents, "services", body.services.size(), "service");
+  count(contents, "network_interfaces", body.network_interfaces.size(), "interface");
+  count(contents, "permissions", body.permissions.size(), "permission");
+}
+
+template <Record R>
+Contents read(std::string_view body, const Harmless& harmless) {
+  Contents contents;
+  const auto decoded = decode<R>(body);
+  if (decoded) {
+    describe(contents, *decoded, harmless);
+  } else {
+    contents.error = decoded.error();
+  }
+  return contents;
+}
+
+}  // namespace
+
+Contents readStatus(std::string_view body, const Harmless& harmless) {
+  return read<AgentStatus>(body, harmless);
+}
+
+Contents readAlerts(std::string_view body, const Harmless& harmless) {
+  return read<AlertsResponse>(body, harmless);
+}
+
+Contents readNetwork(std::string_view body, const Harmless& harmless) {
+  return read<NetworkResponse>(body, harmless);
+}
+
+Contents readInventory(std::string_view body, const Harmless& harmless) {
+  return read<InventoryData>(body, harmless);
+}
+
+}  // namespace quillmark::doctor

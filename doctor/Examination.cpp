@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Examination.h"
+
+#include <iterator>
+#include <utility>
+
+#include "BundleCheck.h"
+#include "Conclusion.h"
+#include "ConfigCheck.h"
+#include "EndpointCheck.h"
+#include "FolderCheck.h"
+#include "Harmless.h"
+#include "PanelCheck.h"
+#include "PortCheck.h"
+#include "ProbeCheck.h"
+#include "TokenCheck.h"
+#include "ToolsCheck.h"
+
+namespace quillmark::doctor {
+
+Report examine() {
+  Report report;
+  auto& findings = report.findings;
+  Harmless harmless;
+  const auto inUse = checkTokens(findings, harmless);
+  // Told later, but its keys must be hidden before any command line is shown.
+  Findings config;
+  checkConfig(config, harmless);
+
+  const auto port = checkPort(findings, harmless);
+  const auto shown = checkEndpoints(findings, inUse, port, harmless);
+  findings.insert(findings.end(), std::make_move_iterator(config.begin()),
+                  std::make_move_iterator(config.end()));
+  checkFolders(findings, harmless);
+  checkBundle(findings, harmless);
+  checkTools(findings);
+  checkProbe(findings, port, harmless);
+  checkPanels(findings, inUse);
+  report.conclusion = conclude(findings, shown, port);
+  return report;
+}
+
+}  // namespace quillmark::doctor

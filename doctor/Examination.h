@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Finding.h"
+
+namespace quillmark::doctor {
+
+/// Runs every check once; takes no longer than `askingTime` and a little.
+/// Changes nothing and starts nothing.
+[[nodiscard]] Report examine();
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "FileLook.h"
+
+#include <array>
+#include <cstdio>
+
+#include <boost/system/errc.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillmark::doctor {
+
+std::optional<mode_t> modeOf(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) {
+    return std::nullopt;
+  }
+  return status.st_mode;
+}
+
+bool othersMayRead(mode_t mode) { return (mode & S_IROTH) != 0; }
+
+std::string modeText(mode_t mode) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "%04o", static_cast<unsigned>(mode & ALLPERMS));
+  return text.data();
+}
+
+bool meansMissing(const boost::system::error_code& error) {
+  namespace errc = boost::system::errc;
+  return error == errc::no_such_file_or_directory || error == errc::not_a_directory;
+}
+
+bool mayAccess(const std::string& path, int rights) {
+  return faccessat(AT_FDCWD, path.c_str(), rights, AT_EACCESS) == 0;
+}
+
+}  // namespace quillmark::doctor

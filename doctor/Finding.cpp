@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Finding.h"
+
+#include <algorithm>
+
+namespace quillmark::doctor {
+
+void Finding::say(Mark how, const std::string& sentence, const std::string& whatToDo) {
+  text += (text.empty() || text.ends_with(": ") ? "" : "; ") + sentence;
+  if (how > mark || step.empty()) {
+    step = whatToDo;
+  }
+  mark = std::max(mark, how);
+}
+
+bool isWrong(const Finding& finding) { return finding.mark == Mark::wrong; }
+
+std::string nameOf(Mark mark) {
+  switch (mark) {
+    case Mark::ok:
+      return "ok";
+    case Mark::note:
+      return "note";
+    case Mark::wrong:
+      break;
+  }
+  return "wrong";
+}
+
+std::string counted(std::size_t count, const std::string& noun) {
+  return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+#include "Finding.h"
+
+namespace quillmark::doctor {
+
+enum class Colour { none, terminal };
+
+/// For a person: one line a check, then what they come to and what to do.
+[[nodiscard]] std::string asText(const Report& report, Colour colour);
+
+/// For a program: one JSON object on one line. docs/doctor.md describes it.
+[[nodiscard]] std::string asJson(const Report& report);
+
+/// 0 when nothing is wrong, else 1.
+[[nodiscard]] int exitCode(const Report& report);
+
+}  // namespace quillmark::doctor

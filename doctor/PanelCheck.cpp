@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "PanelCheck.h"
+
+#include <chrono>
+#include <string>
+
+#include <sys/stat.h>
+#include <time.h>
+#include <unistd.h>
+
+#include "Program.h"
+#include "procfs/Processes.h"
+
+namespace quillmark::doctor {
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+constexpr auto panelFileName = "quillmark-agent";
+
+Seconds now(clockid_t clock) {
+  timespec time{};
+  clock_gettime(clock, &time);
+  return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+/// Since the epoch.
+Seconds startOf(const Process& process) {
+  const Seconds age = now(CLOCK_BOOTTIME) - Seconds(static_cast<double>(process.startTicks) /
+                                                    static_cast<double>(sysconf(_SC_CLK_TCK)));
+  return now(CLOCK_REALTIME) - age;
+}
+
+bool isNewer(const std::string& path, Seconds than) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) {
+    return false;
+  }
+  const Seconds written = std::chrono::seconds(status.st_mtim.tv_sec) +
+                          std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+  return written > than;
+}
+
+Finding judge(const Process& panel, const TokenInUse& inUse) {
+  Finding finding;
+  finding.check = "panel";
+  finding.facts["pid"] = panel.pid;
+  const auto who = "process " + std::to_string(panel.pid);
+  const bool isOlder = !inUse.path.empty() && isNewer(inUse.path, startOf(panel));
+  finding.facts["older_than_token"] = isOlder;
+  if (isOlder) {
+    finding.say(Mark::note,
+                who +
+                    " was started before this token was written, and reads it only when a "
+                    "window opens",
+                "Start the panel again, so that it reads the token.");
+  } else {
+    finding.say(Mark::ok, who);
+  }
+  return finding;
+}
+
+}  // namespace
+
+void checkPanels(Findings& findings, const TokenInUse& inUse) {
+  const auto before = findings.size();
+  for (const auto& process : readProcesses(procRoot)) {
+    if (programName(readCommandLine(procRoot, process.pid)) == panelFileName) {
+      findings.push_back(judge(process, inUse));
+    }
+  }
+  if (findings.size() == before) {
+    Finding finding;
+    finding.check = "panel";
+    finding.say(Mark::ok, "not running");
+    findings.push_back(std::move(finding));
+  }
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Finding.h"
+#include "TokenCheck.h"
+
+namespace quillmark::doctor {
+
+/// Looks for panels that were started before the token's file was written. A
+/// panel reads the token when a window opens, and never again.
+void checkPanels(Findings& findings, const TokenInUse& inUse);
+
+}  // namespace quillmark::doctor

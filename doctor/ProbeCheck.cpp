@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ProbeCheck.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <unistd.h>
+
+#include "Program.h"
+#include "agentctl/AgentProcess.h"
+
+namespace quillmark::doctor {
+namespace {
+
+std::vector<CommandLine> matches() {
+  auto found = readCommandLines(procRoot);
+  std::erase_if(found, [](const CommandLine& process) {
+    return process.pid == getpid() || process.text.find(agentFileName) == std::string::npos;
+  });
+  return found;
+}
+
+Finding none(const Port& port) {
+  Finding finding;
+  finding.check = "probe";
+  finding.say(Mark::note, std::string("finds no agent, so the Settings tab says \"not running\"") +
+                              (port.isOpen ? ", though something answers" : ""));
+  return finding;
+}
+
+const char* factOf(Kind kind) {
+  switch (kind) {
+    case Kind::agent:
+      return "agent";
+    case Kind::starter:
+      return "starter";
+    case Kind::ended:
+      return "ended";
+    case Kind::other:
+      break;
+  }
+  return "other";
+}
+
+class Judge final {
+ public:
+  Judge(bool anyAgent, const Harmless& harmless) : anyAgent_(anyAgent), harmless_(harmless) {}
+
+  Finding operator()(const CommandLine& process) {
+    Finding finding;
+    finding.check = "probe";
+    const auto who = "process " + std::to_string(process.pid);
+    const auto command = harmless_(process.text);
+    const auto kind = kindOf(process);
+    finding.facts["pid"] = process.pid;
+    finding.facts["command"] = command;
+    finding.facts["kind"] = factOf(kind);
+    if (kind == Kind::agent && ++agents_ > 1) {
+      finding.say(Mark::note, who + " is one more agent: " + command,
+                  "End process " + std::to_string(process.pid) + ": one agent is enough.");
+    } else if (kind == Kind::agent) {
+      finding.say(Mark::ok, who + " is an agent: " + command);
+    } else if (kind == Kind::starter) {
+      finding.say(Mark::ok, who + " is the shell in which Start Agent started one: " + command);
+    } else if (kind == Kind::ended) {
+      finding.say(otherwiseMark(), who + " has ended and still counts as an agent: " + command,
+                  "End the program that started process " + std::to_string(process.pid) +
+                      " and takes no notice of its end.");
+    } else {
+      finding.say(otherwiseMark(),
+                  who + " is no agent, but counts as one and Stop Agent would end it: " + command,
+                  "Close process " + std::to_string(process.pid) +
+                      ", or take the agent's name off its command line.");
+    }
+    return finding;
+  }
+
+ private:
+  // With a true agent the tab is right to say that one runs.
+  [[nodiscard]] Mark otherwiseMark() const { return anyAgent_ ? Mark::note : Mark::wrong; }
+
+  bool anyAgent_;
+  const Harmless& harmless_;
+  int agents_ = 0;
+};
+
+}  // namespace
+
+void checkProbe(Findings& findings, const Port& port, const Harmless& harmless) {
+  const auto found = matches();
+  if (found.empty()) {
+    findings.push_back(none(port));
+    return;
+  }
+  const bool anyAgent = std::any_of(found.begin(), found.end(), [](const CommandLine& process) {
+    return kindOf(process) == Kind::agent;
+  });
+  Judge judge(anyAgent, harmless);
+  for (const auto& process : found) {
+    findings.push_back(judge(process));
+  }
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Program.h"
+
+#include <string_view>
+
+#include "agentctl/AgentProcess.h"
+#include "platform/BundlePath.h"
+#include "platform/HomeDirectory.h"
+#include "procfs/SystemFile.h"
+#include "procfs/Text.h"
+
+namespace quillmark::doctor {
+
+namespace {
+
+std::string starterText() {
+  auto [text, arguments] = startCommand(bundlePath(), homeDirectory());
+  for (const auto& argument : arguments) {
+    text.append(1, ' ').append(argument);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string programName(const CommandLine& process) {
+  auto path = readLink(pathIn(procRoot, std::to_string(process.pid)) + "/exe");
+  if (!path) {
+    return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
+  }
+  // After an update the program still runs.
+  constexpr std::string_view deleted = " (deleted)";
+  if (path->ends_with(deleted)) {
+    path->resize(path->size() - deleted.size());
+  }
+  return std::string(leafOf(*path));
+}
+
+Kind kindOf(const CommandLine& process) {
+  if (process.arguments == CommandLine::Arguments::none) {
+    return Kind::ended;
+  }
+  if (programName(process) == agentFileName) {
+    return Kind::agent;
+  }
+  return process.text == starterText() ? Kind::starter : Kind::other;
+}
+
+}  // namespace quillmark::doctor

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "TokenCheck.h"
+
+#include <array>
+#include <vector>
+
+#include <boost/system/result.hpp>
+
+#include "FileLook.h"
+#include "client/AccessToken.h"
+
+namespace quillmark::doctor {
+namespace {
+
+struct Place {
+  std::string path;
+  boost::system::result<std::string> token;
+  enum class Owner { system, user } owner;
+};
+
+enum class Turn { counts, comesLater, passedOver };
+
+constexpr auto makeOne = "Start the agent, which makes its token, then start the panel again.";
+
+void sayMode(Finding& finding, const Place& place, const std::string& shownPath) {
+  const auto mode = modeOf(place.path);
+  if (!mode) {
+    return;
+  }
+  finding.facts["mode"] = modeText(*mode);
+  if (!othersMayRead(*mode)) {
+    return;
+  }
+  const auto fault = "mode " + modeText(*mode) + " lets every user read it";
+  // Root's agent may have to open its token to the panel's user; nobody's own has to.
+  if (place.owner == Place::Owner::system) {
+    finding.say(Mark::note, fault,
+                "Open " + shownPath + " to the panel's user alone, by a group (mode 0640).");
+  } else {
+    finding.say(Mark::wrong, fault, "Close " + shownPath + " to others (mode 0600).");
+  }
+}
+
+std::string sayContents(Finding& finding, const std::string& token, const std::string& shownPath) {
+  if (token.empty()) {
+    finding.say(Mark::wrong, "blank, so the panel sends an empty token and looks no further",
+                "Remove " + shownPath + " and start the agent again, which makes a new token.");
+    return "blank";
+  }
+  if (!fitsHeaderField(token)) {
+    finding.say(Mark::wrong,
+                "holds a control character, which no request can carry, so the panel asks nothing",
+                "Remove " + shownPath + " and start the agent again, which makes a new token.");
+    return "unfit";
+  }
+  return "usable";
+}
+
+Finding judge(const Place& place, Turn turn, const char* check, const Harmless& harmless) {
+  Finding finding;
+  finding.check = check;
+  const std::string path = harmless(place.path);
+  finding.facts["path"] = path;
+  finding.text = path + ": ";
+  if (!place.token) {
+    const bool isMissing = meansMissing(place.token.error());
+    finding.facts["state"] = isMissing ? "missing" : "unreadable";
+    if (isMissing) {
+      finding.text += "not there";
+    } else {
+      finding.text += "cannot be read (" + place.token.error().message() + ")";
+      finding.mark = turn == Turn::passedOver ? Mark::wrong : Mark::note;
+      finding.step = "Let the panel's user read " + path + ", then start the panel again.";
+      sayMode(finding, place, path);
+    }
+    return finding;
+  }
+  finding.text += counted(place.token->size(), "byte");
+  finding.facts["length"] = place.token->size();
+  if (turn == Turn::comesLater) {
+    finding.facts["state"] = "not read";
+    finding.say(Mark::ok, "not read, the system-wide one comes first");
+  } else {
+    finding.facts["state"] = sayContents(finding, *place.token, path);
+  }
+  sayMode(finding, place, path);
+  return finding;
+}
+
+TokenInUse choose(const std::vector<Place>& places) {
+  for (const auto& place : places) {
+    if (!place.token) {
+      continue;
+    }
+    if (!fitsHeaderField(*place.token)) {
+      return {std::nullopt, place.path, "the token holds a control character"};
+    }
+    return {*place.token, place.path, {}};
+  }
+  return {std::nullopt, {}, "there is no token that the panel can read"};
+}
+
+Finding summary(const TokenInUse& inUse, const std::vector<Place>& places,
+                const Harmless& harmless) {
+  Finding finding;
+  finding.check = "token";
+  if (inUse.path.empty()) {
+    bool allMissing = true;
+    for (const auto& place : places) {
+      allMissing = allMissing && meansMissing(place.token.error());
+    }
+    finding.say(Mark::wrong, "none that can be read, so the panel asks the agent nothing",
+                allMissing ? makeOne : "");
+  } else if (!inUse.token) {
+    finding.say(Mark::wrong,
+                "the panel takes that of " + harmless(inUse.path) + " and cannot send it");
+  } else {
+    finding.say(Mark::ok, "the panel uses that of " + harmless(inUse.path));
+  }
+  finding.facts["path"] = inUse.path.empty() ? boost::json::value() : harmless(inUse.path).c_str();
+  return finding;
+}
+
+}  // namespace
+
+TokenInUse checkTokens(Findings& findings, Harmless& harmless) {
+  static constexpr std::array checks = {"token-system", "token-home"};
+  std::vector<Place> places;
+  for (const auto& path : accessTokenPaths()) {
+    places.push_back(
+        {path, readTokenFile(path), places.empty() ? Place::Owner::system : Place::Owner::user});
+    if (places.back().token) {
+      harmless.hide(*places.back().token);
+    }
+  }
+
+  auto inUse = choose(places);
+  bool isChosen = false;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    const auto turn = inUse.path.empty() ? Turn::passedOver
+                      : isChosen         ? Turn::comesLater
+                                         : Turn::counts;
+    findings.push_back(judge(places[i], turn, checks.at(i), harmless));
+    isChosen = isChosen || places[i].path == inUse.path;
+  }
+  findings.push_back(summary(inUse, places, harmless));
+  return inUse;
+}
+
+}  // namespace quillmark::doctor

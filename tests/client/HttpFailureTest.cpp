@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <chrono>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <boost/asio/io_context.hpp>
+
+#include "client/Completion.h"
+#include "client/Exchanges.h"
+
+namespace quillmark::test {
+namespace {
+
+using namespace std::chrono_literals;
+namespace asio = boost::asio;
+
+class Failure : public WithExecutor {};
+
+HttpResult resultFor(const std::string& answer, HttpLimits limits = {}) {
+  return resultWith([&](Connection& connection) { connection.send(answer); }, limits);
+}
+
+TEST_F(Failure, IsTheServersAbsence) {
+  asio::io_context context;
+  asio::ip::tcp::acceptor acceptor(context, {asio::ip::address_v4::loopback(), 0});
+  const auto port = acceptor.local_endpoint().port();
+  acceptor.close();
+  EXPECT_EQ(completed(exchange(requestTo(port), {})).error(), HttpFailure::notConnected);
+}
+
+TEST_F(Failure, IsItsSilence) {
+  HttpLimits limits;
+  limits.silence = 50ms;
+  EXPECT_EQ(resultWith([](Connection& connection) { connection.staySilent(); }, limits).error(),
+            HttpFailure::silent);
+}
+
+TEST_F(Failure, IsAnAnswerThatBreaksOff) {
+  for (const std::string answer :
+       {"", "HTTP/1.1 200 OK\r\nContent-Le", "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nbody"}) {
+    EXPECT_EQ(resultFor(answer).error(), HttpFailure::brokenOff) << answer;
+  }
+}
+
+TEST_F(Failure, IsWhatIsNoHttp) {
+  EXPECT_EQ(resultFor("SSH-2.0-Server\r\n").error(), HttpFailure::malformed);
+}
+
+TEST_F(Failure, IsTooMuchOfHeaderOrBody) {
+  HttpLimits limits;
+  limits.headerBytes = 1024;
+  limits.bodyBytes = 10;
+  const std::string field = "X-Long: " + std::string(2000, 'x') + "\r\n";
+  EXPECT_EQ(resultFor(answer("200 OK", "{}", field), limits).error(), HttpFailure::tooLarge);
+  EXPECT_EQ(resultFor(okAnswer("twelve bytes"), limits).error(), HttpFailure::tooLarge);
+}
+
+TEST_F(Failure, IsNotAStatusThatTellsOfOne) {
+  const auto result = resultFor(answer("503 Service Unavailable", "body"));
+  ASSERT_TRUE(result);
+  EXPECT_EQ(result->status, 503U);
+  EXPECT_EQ(result->body, "body");
+}
+
+}  // namespace
+}  // namespace quillmark::test

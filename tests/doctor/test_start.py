@@ -1,0 +1,97 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What keeps Start Agent from starting an agent."""
+
+import pytest
+
+import scene
+from scene import HOME, LOGS, START_AGENT, line, look
+
+OTHERWISE = "Start the agent by its own service: Start Agent cannot cope with this home path."
+
+
+def test_no_log_folder():
+    LOGS.rmdir()
+    found = look()
+    assert found.of("logs") == [
+        line("wrong", "logs", f"{LOGS}: not there, and without it Start Agent starts nothing")]
+    # Before the agent itself, which could not be started.
+    assert found.step == f"Make the folder {LOGS}."
+
+
+def test_file_in_place_of_the_log_folder():
+    LOGS.rmdir()
+    LOGS.write_text("")
+    found = look()
+    assert found.of("logs") == [
+        line("wrong", "logs", f"{LOGS}: no folder, so Start Agent starts nothing")]
+    assert found.step == f"Put a folder in place of {LOGS}."
+
+
+@pytest.mark.parametrize("odd, shown", [(" ", " "), ("$", "$"), ("'", "'"), ("(", "("),
+                                        ("\n", r"\x0A")])
+def test_home_that_is_more_than_a_word(odd, shown):
+    home = f"{HOME}/odd{odd}home"
+    found = look(HOME=home)
+    assert found.of("home") == [
+        line("wrong", "home", f"{HOME}/odd{shown}home: holds \"{shown}\", which breaks Start "
+                              "Agent: the path of the log is not quoted")]
+    assert found.step == OTHERWISE
+
+
+def test_relative_home():
+    found = look(HOME="somewhere")
+    assert found.of("home") == [line("wrong", "home", "somewhere: is no absolute path")]
+    assert found.step == "Set HOME to an absolute path."
+
+
+def test_no_agent_in_the_bundle(tmp_path):
+    program = scene.bundle_at(tmp_path / "Q.app")
+    agent = program.parent / scene.AGENT
+    agent.unlink()
+    found = look(program)
+    assert found.of("bundle") == [
+        line("ok", "bundle", f"{tmp_path}/Q.app: fit for Start Agent")]
+    assert found.of("program") == [
+        line("wrong", "program", f"{agent}: not there, so Start Agent starts nothing")]
+    assert found.step == f"Install the agent as {agent}."
+
+
+def test_agent_that_is_not_executable(tmp_path):
+    program = scene.bundle_at(tmp_path / "Q.app")
+    agent = program.parent / scene.AGENT
+    agent.chmod(0o600)
+    found = look(program)
+    assert found.of("program") == [
+        line("wrong", "program", f"{agent}: not executable, so Start Agent starts nothing")]
+    assert found.step == f"Make {agent} an executable program."
+
+
+@pytest.mark.parametrize("name, shown", [("Ann's.app", "Ann's.app"), ("a\tb.app", r"a\x09b.app")])
+def test_bundle_that_breaks_its_quotes(tmp_path, name, shown):
+    found = look(scene.bundle_at(tmp_path / name))
+    assert found.of("bundle") == [
+        line("wrong", "bundle", f"{tmp_path}/{shown}: holds an apostrophe or a control character, "
+                                "so Start Agent does nothing")]
+    assert found.step == ("Move the application to a path without an apostrophe or control "
+                          "character.")
+
+
+def test_bundle_with_the_agents_name(tmp_path):
+    found = look(scene.bundle_at(tmp_path / f"my-{scene.AGENT}.app"))
+    assert found.of("bundle") == [
+        line("wrong", "bundle", f"{tmp_path}/my-{scene.AGENT}.app: holds the agent's file name, so "
+                                "the panel takes itself for an agent, and Stop Agent ends it")]
+    assert found.step == f"Move the application to a path without {scene.AGENT}."
+
+
+def test_no_search_for_processes(tmp_path):
+    found = look(PATH=str(tmp_path))
+    assert found.of("tools") == [
+        line("wrong", "tools", "pgrep not there, so the Settings tab cannot start, stop or find an "
+                               "agent")]
+    assert found.step == "Install what brings pgrep."
+
+
+def test_with_all_in_place_the_agent_is_next():
+    assert look().step == START_AGENT
