@@ -75,20 +75,5 @@ TEST(DecodePath, IsEmptyWhereNoJsonIsRead) {
   EXPECT_TRUE(failsWith<NetworkResponse>(R"({"connections":[)", DecodeFailure::dataCorrupted, ""));
 }
 
-TEST(DecodeDetail, TellsWhatWasExpectedAndFound) {
-  const auto detailOf = [](const std::string& port) {
-    return decode<NetworkConnection>(sampleWith<NetworkConnection>("local_port", port))
-        .error()
-        .detail;
-  };
-  EXPECT_EQ(detailOf("443"), "string expected, number found");
-  EXPECT_EQ(detailOf("4.5"), "string expected, number found");
-  EXPECT_EQ(detailOf("18446744073709551615"), "string expected, number found");
-  EXPECT_EQ(detailOf("true"), "string expected, boolean found");
-  EXPECT_EQ(detailOf("[]"), "string expected, array found");
-  EXPECT_EQ(detailOf("{}"), "string expected, object found");
-  EXPECT_EQ(detailOf("null"), "string expected, null found");
-}
-
 }  // namespace
 }  // namespace quillmark::test

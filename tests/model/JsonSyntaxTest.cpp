@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -16,74 +15,12 @@ using namespace std::string_literals;
 
 const std::string goodBody = objectOf(sampleMembers<AgentStatus>());
 
-/// A good body in which a key that nobody reads has this value.
-std::string bodyWithIgnored(const std::string& value) {
-  return sampleAnd<AgentStatus>("ignored", value);
-}
-
 testing::AssertionResult isNoJson(const std::string& body) {
   return failsWith<AgentStatus>(body, DecodeFailure::dataCorrupted, "") << "\nbody: " << body;
 }
 
 testing::AssertionResult isGood(const std::string& body) {
   return decodesTo(body, sample<AgentStatus>()) << "\nbody: " << body;
-}
-
-/// Pieces that are no JSON value, whether anybody reads them or not.
-const std::vector<std::string> brokenValues{"",
-                                            "tru",
-                                            "TRUE",
-                                            "nul",
-                                            "undefined",
-                                            "NaN",
-                                            "1.",
-                                            "01",
-                                            "'text'",
-                                            "\"open",
-                                            "\"a\nb\"",
-                                            "\"a\tb\"",
-                                            R"("\x")",
-                                            R"("\u12")",
-                                            R"("\u12G4")",
-                                            "[1,]",
-                                            "[,1]",
-                                            "[1 2]",
-                                            "[1",
-                                            "]",
-                                            R"({"a":1,})",
-                                            R"({"a" 1})",
-                                            R"({a:1})",
-                                            R"({1:1})",
-                                            R"({"a"})",
-                                            R"({,})",
-                                            "{]",
-                                            "// comment\n1",
-                                            "/* c */ 1",
-                                            "1,,2",
-                                            "\"\xFF\"",
-                                            "\"\xC0\x80\"",
-                                            "\"\xE2\x82\"",
-                                            "\"\xED\xA0\x80\"",
-                                            "\"\xF4\x90\x80\x80\"",
-                                            R"("\ud800")",
-                                            R"("\ud800x")",
-                                            R"("\udc00")",
-                                            R"("\ud800\ud800")",
-                                            R"("\ud83d\u0041")",
-                                            "\"a\0b\""s,
-                                            "\0"s};
-
-TEST(JsonSyntax, IsCheckedInWhatIsRead) {
-  for (const auto& value : brokenValues) {
-    EXPECT_TRUE(isNoJson(sampleWith<AgentStatus>("status", value)));
-  }
-}
-
-TEST(JsonSyntax, IsCheckedInWhatIsIgnored) {
-  for (const auto& value : brokenValues) {
-    EXPECT_TRUE(isNoJson(bodyWithIgnored(value)));
-    EXPECT_TRUE(isNoJson(bodyWithIgnored(R"([{"deep":[0,)" + value + "]}]"))) << value;
-  }
 }
 
 TEST(JsonSyntax, IsCheckedInKeys) {
@@ -115,11 +52,6 @@ TEST(JsonSyntax, AllowsNoOtherWhiteSpaceAroundIt) {
   }
 }
 
-TEST(JsonSyntax, NeedsAValue) {
-  EXPECT_TRUE(isNoJson(""));
-  EXPECT_TRUE(isNoJson(" \n"));
-}
-
 TEST(JsonSyntax, IsNotThatOfOtherEncodings) {
   std::string wide;
   for (const char c : goodBody) {
@@ -127,13 +59,6 @@ TEST(JsonSyntax, IsNotThatOfOtherEncodings) {
   }
   EXPECT_TRUE(isNoJson(wide));
   EXPECT_TRUE(isNoJson("\xFF\xFE" + wide));
-}
-
-TEST(JsonSyntax, AllowsEveryValueInWhatIsIgnored) {
-  for (const auto& value : {R"("\u0000\ud83d\ude00\/")"s, "[]"s, "{}"s, "null"s,
-                            R"({"":{"":[[],{}]}})"s, "\"\xEF\xBF\xBF\""s}) {
-    EXPECT_TRUE(isGood(bodyWithIgnored(value)));
-  }
 }
 
 }  // namespace

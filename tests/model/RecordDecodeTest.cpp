@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -54,39 +53,6 @@ TYPED_TEST(RecordDecode, TakesNullForOptionalKeysOnly) {
   }
 }
 
-TYPED_TEST(RecordDecode, RefusesEveryOtherJsonType) {
-  struct Value {
-    char type;
-    const char* text;
-  };
-  constexpr std::array values{
-      Value{'b', "true"},      Value{'b', "false"},  Value{'n', "0"},
-      Value{'n', "1"},         Value{'n', "2.5"},    Value{'s', R"("")"},
-      Value{'s', R"("true")"}, Value{'s', R"("1")"}, Value{'a', R"(["1"])"},
-      Value{'a', "[]"},        Value{'o', "{}"},     Value{'o', R"({"0":1})"}};
-  const auto typeOf = [](const std::string& text) {
-    switch (text.front()) {
-      case 't':
-        return 'b';
-      case '"':
-        return 's';
-      case '[':
-        return 'a';
-      default:
-        return 'n';
-    }
-  };
-  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
-    for (const auto& value : values) {
-      if (value.type != typeOf(good)) {
-        EXPECT_TRUE(failsWith<TypeParam>(sampleWith<TypeParam>(key, value.text),
-                                         DecodeFailure::typeMismatch, key))
-            << key << ": " << value.text;
-      }
-    }
-  }
-}
-
 TYPED_TEST(RecordDecode, IgnoresKeysOutsideTheTable) {
   auto members = sampleMembers<TypeParam>();
   members.insert(members.begin(), {"id", R"("not yours")"});
@@ -109,36 +75,6 @@ TYPED_TEST(RecordDecode, TakesKeysLiterally) {
       EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::keyNotFound, key));
     }
   }
-}
-
-TYPED_TEST(RecordDecode, TakesTheLastOfDuplicateKeys) {
-  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
-    auto members = sampleMembers<TypeParam>();
-    members.insert(members.begin(), {key, "{}"});
-    EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << key;
-
-    members = sampleMembers<TypeParam>();
-    members.emplace_back(key, "{}");
-    EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::typeMismatch, key));
-  }
-}
-
-TYPED_TEST(RecordDecode, RefusesWhatIsNoObject) {
-  for (const std::string json : {"null", "true", "1", R"("text")", "[]", "[{}]"}) {
-    EXPECT_TRUE(failsWith<TypeParam>(json, DecodeFailure::typeMismatch, "")) << json;
-  }
-  EXPECT_TRUE(failsWith<TypeParam>(arrayOf({objectOf(sampleMembers<TypeParam>())}),
-                                   DecodeFailure::typeMismatch, ""));
-}
-
-TYPED_TEST(RecordDecode, ReportsTheFirstFailureInTableOrder) {
-  Members members;
-  std::string first;
-  for (const auto& key : keysOf<TypeParam>()) {
-    members.insert(members.begin(), {key, "{}"});
-    first = first.empty() ? key : first;
-  }
-  EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::typeMismatch, first));
 }
 
 }  // namespace

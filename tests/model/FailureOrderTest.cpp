@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/Outcome.h"
+#include "model/Records.h"
+#include "model/Samples.h"
+
+namespace quillmark::test {
+namespace {
+
+/// One way to spoil a member of a body.
+struct Fault {
+  std::optional<std::string> value;  ///< none: the key is left out
+  DecodeFailure kind;
+  std::string detail;  ///< less the type that was wanted
+};
+
+const std::vector<Fault> faults{
+    {std::nullopt, DecodeFailure::keyNotFound, "required key missing"},
+    {"null", DecodeFailure::valueNotFound, " expected, null found"},
+    {"{}", DecodeFailure::typeMismatch, " expected, object found"},
+};
+
+bool spoils(const Fault& fault, bool isOptionalKey) {
+  return !isOptionalKey || fault.kind == DecodeFailure::typeMismatch;
+}
+
+void apply(const Fault& fault, const std::string& key, Members& members) {
+  const auto member = std::find_if(members.begin(), members.end(),
+                                   [&](const auto& candidate) { return candidate.first == key; });
+  if (fault.value) {
+    member->second = *fault.value;
+  } else {
+    members.erase(member);
+  }
+}
+
+template <Record R>
+testing::AssertionResult tells(const Members& members, const Fault& fault,
+                               const std::string& path) {
+  const auto decoded = decode<R>(objectOf(members));
+  if (decoded) {
+    return testing::AssertionFailure() << "decoded: " << encode(*decoded);
+  }
+  const auto& error = decoded.error();
+  if (error.kind != fault.kind || error.path != path || !error.detail.ends_with(fault.detail)) {
+    return testing::AssertionFailure() << toText(error) << "\nbody: " << objectOf(members);
+  }
+  return testing::AssertionSuccess();
+}
+
+template <class R>
+class FailureOrder : public testing::Test {};
+TYPED_TEST_SUITE(FailureOrder, AllRecords, RecordNames);
+
+// Whichever of two faults comes first in the table is told, wherever they stand
+// in the body.
+TYPED_TEST(FailureOrder, IsThatOfTheTable) {
+  const auto keys = keysOf<TypeParam>();
+  for (auto first = keys.begin(); first != keys.end(); ++first) {
+    for (auto second = first + 1; second != keys.end(); ++second) {
+      for (const auto& fault : faults) {
+        for (const auto& other : faults) {
+          if (!spoils(fault, isOptional<TypeParam>(*first))) {
+            continue;
+          }
+          auto members = sampleMembers<TypeParam>();
+          apply(fault, *first, members);
+          apply(other, *second, members);
+          EXPECT_TRUE(tells<TypeParam>(members, fault, *first)) << *second;
+          std::reverse(members.begin(), members.end());
+          EXPECT_TRUE(tells<TypeParam>(members, fault, *first)) << *second;
+        }
+      }
+    }
+  }
+}
+
+TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeAll) {
+  auto members = sampleMembers<TypeParam>();
+  for (auto& member : members) {
+    member.second = "{}";
+  }
+  const std::string bad = objectOf(members);
+  for (std::size_t size = 0; size < bad.size(); ++size) {
+    EXPECT_TRUE(failsWith<TypeParam>(bad.substr(0, size), DecodeFailure::dataCorrupted, ""));
+  }
+  for (const std::string rest : {"}", "x", ",", "[]", "\xFF"}) {
+    EXPECT_TRUE(failsWith<TypeParam>(bad + rest, DecodeFailure::dataCorrupted, ""));
+  }
+  members.emplace_back("ignored", R"("\ud800")");
+  EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::dataCorrupted, ""));
+}
+
+TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeABodyOfAnotherType) {
+  for (const std::string body : {"[1,2", "[1,]", "\"text", "1 2", "true]", "null{"}) {
+    EXPECT_TRUE(failsWith<TypeParam>(body, DecodeFailure::dataCorrupted, "")) << body;
+  }
+}
+
+// Of several values under one key the last one counts, as if it were alone.
+TYPED_TEST(FailureOrder, LooksAtTheLastOfDuplicateKeys) {
+  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
+    for (const auto& other : {std::string("null"), std::string(R"({"a":[1,"b"]})"), good}) {
+      auto members = sampleMembers<TypeParam>();
+      members.insert(members.begin(), {{key, other}, {key, "{}"}, {key, "null"}});
+      EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << key << ": " << other;
+    }
+    for (const auto& fault : faults) {
+      if (!fault.value || !spoils(fault, isOptional<TypeParam>(key))) {
+        continue;
+      }
+      auto members = sampleMembers<TypeParam>();
+      members.insert(members.begin(), {key, "{}"});
+      members.insert(members.begin(), {key, "null"});
+      members.emplace_back(key, *fault.value);
+      EXPECT_TRUE(tells<TypeParam>(members, fault, key));
+    }
+  }
+}
+
+TYPED_TEST(FailureOrder, HasNoValueWhereTheLastOfDuplicateKeysIsNull) {
+  for (const auto& key : keysOf<TypeParam>()) {
+    if (isOptional<TypeParam>(key)) {
+      const auto decoded = decode<TypeParam>(sampleAnd<TypeParam>(key, "null"));
+      ASSERT_TRUE(decoded) << key;
+      EXPECT_EQ(JsonText::of(*decoded), sampleWithout<TypeParam>(key));
+    }
+  }
+}
+
+TYPED_TEST(FailureOrder, KnowsDuplicateKeysHoweverTheyAreWritten) {
+  for (const auto& [key, good] : sampleMembers<TypeParam>()) {
+    const std::string escaped = "\\u00" + std::string(key[0] < 'p' ? "6" : "7") +
+                                "0123456789abcdef"[key[0] & 15] + key.substr(1);
+    auto members = sampleMembers<TypeParam>();
+    members.insert(members.begin(), {escaped, "{}"});
+    EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << escaped;
+    EXPECT_TRUE(failsWith<TypeParam>(sampleAnd<TypeParam>(escaped, "{}"),
+                                     DecodeFailure::typeMismatch, key));
+  }
+}
+
+// A second fault in the table decides nothing by standing first in the body,
+// not even when its key comes twice.
+TYPED_TEST(FailureOrder, IsNotChangedByDuplicates) {
+  const auto keys = keysOf<TypeParam>();
+  for (std::size_t i = 1; i < keys.size(); ++i) {
+    auto members = sampleMembers<TypeParam>();
+    members.insert(members.begin(), {keys[i], "{}"});
+    members.emplace_back(keys[0], "{}");
+    members.emplace_back(keys[i], "{}");
+    EXPECT_TRUE(tells<TypeParam>(members, faults[2], keys[0])) << keys[i];
+  }
+}
+
+// The keys of a table mean nothing at another level.
+TYPED_TEST(FailureOrder, IgnoresItsKeysInsideOtherValues) {
+  const std::string good = objectOf(sampleMembers<TypeParam>());
+  auto spoilt = sampleMembers<TypeParam>();
+  for (auto& member : spoilt) {
+    member.second = "{}";
+  }
+  const std::string bad = objectOf(spoilt);
+  for (const auto& ignored : {bad, arrayOf({bad, bad}), objectOf({{"deep", bad}})}) {
+    auto members = sampleMembers<TypeParam>();
+    members.insert(members.begin(), {"ignored", ignored});
+    members.emplace_back("", ignored);
+    EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>()));
+  }
+  const auto first = keysOf<TypeParam>().front();
+  EXPECT_TRUE(
+      failsWith<TypeParam>(objectOf({{"ignored", good}}), DecodeFailure::keyNotFound, first));
+  EXPECT_TRUE(failsAs<TypeParam>(
+      arrayOf({good}), {DecodeFailure::typeMismatch, {}, "object expected, array found"}));
+}
+
+}  // namespace
+}  // namespace quillmark::test

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "model/json/JsonCase.h"
+
+namespace quillmark::test {
+namespace {
+
+std::string repeated(int count, const std::string& piece) {
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    text += piece;
+  }
+  return text;
+}
+
+JsonCase arrays(int depth) {
+  List verdict;
+  for (int i = 1; i < depth; ++i) {
+    verdict = List{std::move(verdict)};
+  }
+  return {repeated(depth, "[") + repeated(depth, "]"), std::move(verdict), depth};
+}
+
+JsonCase objects(int depth) {
+  return {repeated(depth, R"({"a":)") + '1' + repeated(depth, "}"), Object{}, depth};
+}
+
+JsonCase both(int levels) {
+  return {repeated(levels, R"({"a":[)") + repeated(levels, "]}"), Object{}, 2 * levels};
+}
+
+}  // namespace
+
+// The limit is met by a text of its own, and three levels down in a body.
+std::vector<JsonCase> nestingCases() {
+  std::vector<JsonCase> cases{both(200), both(254), both(255), both(256), both(257)};
+  for (const int depth : {100, 508, 509, 510, 511, 512, 513, 514, 1000, 100000}) {
+    cases.push_back(depth > 1000 ? JsonCase{repeated(depth, "[") + repeated(depth, "]"), NotJson{}}
+                                 : arrays(depth));
+    cases.push_back(objects(depth));
+    cases.push_back({repeated(depth, "["), NotJson{}});
+    cases.push_back({repeated(depth, R"({"a":)"), NotJson{}});
+    cases.push_back({repeated(depth, R"([{"":)"), NotJson{}});
+  }
+  return cases;
+}
+
+}  // namespace quillmark::test
