@@ -3,9 +3,7 @@
 
 #include "client/HttpExchange.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <optional>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -13,12 +11,10 @@
 #include <boost/asio/strand.hpp>
 #include <boost/asio/this_coro.hpp>
 #include <boost/asio/use_awaitable.hpp>
-#include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/core/tcp_stream.hpp>
-#include <boost/beast/http/empty_body.hpp>
-#include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/string_body.hpp>
 #include <boost/beast/http/write.hpp>
+
+#include "client/HttpMessages.h"
 
 namespace quillmark {
 namespace {
@@ -28,120 +24,6 @@ namespace beast = boost::beast;
 namespace http = beast::http;
 
 using ErrorCode = boost::system::error_code;
-using Parser = http::response_parser<http::string_body>;
-
-constexpr std::size_t readSize = std::size_t{64} * 1024;
-constexpr int maxInterimAnswers = 16;
-
-http::request<http::empty_body> message(const HttpRequest& request) {
-  http::request<http::empty_body> result;
-  result.method_string(request.method);
-  result.target(request.target);
-  result.set(http::field::host, request.host);
-  result.set("X-Agent-Token", request.token);
-  // Owed to the server by a client that keeps no connection.
-  result.set(http::field::connection, "close");
-  return result;
-}
-
-/// Collects the final answer from the bytes of one connection.
-class AnswerReader final {
- public:
-  explicit AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
-
-  enum class State { wantsMore, done, failed };
-
-  /// Where the next bytes of the connection go.
-  [[nodiscard]] auto space() { return buffer_.prepare(readSize); }
-
-  /// Takes `count` bytes that were written to `space()`.
-  [[nodiscard]] State received(std::size_t count) {
-    buffer_.commit(count);
-    for (;;) {
-      // The parser's own limit holds for what it is given at once, not for a
-      // header that comes line by line; so the header is parsed alone.
-      const bool inHeader = !parser_->is_header_done();
-      parser_->eager(!inHeader);
-      ErrorCode error;
-      const std::size_t used = parser_->put(buffer_.data(), error);
-      buffer_.consume(used);
-      headerSize_ = inHeader ? headerSize_ + used : 0;
-      const bool needsMore = error == http::error::need_more;
-      // What it then leaves is a piece of the header, a chunk's or trailer's line.
-      if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
-        return fail(HttpFailure::tooLarge);
-      }
-      if (needsMore) {
-        return State::wantsMore;
-      }
-      if (error) {
-        return fail(exceedsLimit(error) ? HttpFailure::tooLarge : HttpFailure::malformed);
-      }
-      if (!parser_->is_done()) {
-        if (buffer_.size() == 0) {
-          return State::wantsMore;
-        }
-        continue;
-      }
-      if (!isInterim()) {
-        return State::done;
-      }
-      if (++interimAnswers_ > maxInterimAnswers) {
-        return fail(HttpFailure::malformed);
-      }
-      startAnswer();
-    }
-  }
-
-  /// The server will send nothing more.
-  [[nodiscard]] State ended() {
-    if (!parser_->got_some()) {
-      return fail(HttpFailure::brokenOff);
-    }
-    ErrorCode error;
-    parser_->put_eof(error);
-    return !error && parser_->is_done() ? State::done : fail(HttpFailure::brokenOff);
-  }
-
-  /// To be called once, when the reading is over.
-  [[nodiscard]] HttpResult takeResult() {
-    if (failure_) {
-      return *failure_;
-    }
-    auto& answer = parser_->get();
-    return HttpAnswer{answer.result_int(), std::move(answer.body())};
-  }
-
- private:
-  [[nodiscard]] State fail(HttpFailure failure) {
-    failure_ = failure;
-    return State::failed;
-  }
-
-  [[nodiscard]] static bool exceedsLimit(const ErrorCode& error) {
-    return error == http::error::header_limit || error == http::error::body_limit;
-  }
-
-  void startAnswer() {
-    headerSize_ = 0;
-    parser_.emplace();
-    parser_->header_limit(limits_.headerBytes);
-    parser_->body_limit(limits_.bodyBytes);
-  }
-
-  [[nodiscard]] bool isInterim() const {
-    const auto& answer = parser_->get();
-    return http::to_status_class(answer.result_int()) == http::status_class::informational &&
-           answer.result() != http::status::switching_protocols;
-  }
-
-  HttpLimits limits_;
-  beast::flat_buffer buffer_;
-  std::optional<Parser> parser_;
-  std::optional<HttpFailure> failure_;
-  std::size_t headerSize_ = 0;
-  int interimAnswers_ = 0;
-};
 
 HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
   return error == beast::error::timeout ? HttpFailure::silent : otherwise;
@@ -162,7 +44,7 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
     co_return failureOf(error, HttpFailure::notConnected);
   }
 
-  const auto outgoing = message(request);
+  const auto outgoing = requestMessage(request);
   stream.expires_after(limits.silence);
   co_await http::async_write(stream, outgoing, completion);
   if (error) {

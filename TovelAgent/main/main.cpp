@@ -5,6 +5,8 @@
 
 #include <QGuiApplication>
 
+#include <sys/resource.h>
+
 #include "client/TaskExecutor.h"
 #include "main/QuillmarkAgentApp.h"
 #include "main/Renderer.h"
@@ -42,10 +44,21 @@ int quitOpenPanel(int argc, char* argv[]) {
   return 1;
 }
 
+/// A core dump would hold the access token and the API key that is being typed.
+/// Only the soft limit goes: what the panel starts may raise it for itself.
+void leaveNoCoreDump() {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_CORE, &limit) == 0) {
+    limit.rlim_cur = 0;
+    setrlimit(RLIMIT_CORE, &limit);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  // First, because it needs no display and should cost nothing.
+  leaveNoCoreDump();
+  // Before all else, because it needs no display and should cost nothing.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {
     return *commandLine.exitCode;

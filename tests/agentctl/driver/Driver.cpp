@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the Settings tab's buttons do, one a run: prints the line that the user
-// would read. Under the agent's file name it stands in for the agent.
+// What the Settings tab's buttons do, and what the panel reads by itself, one a
+// run: prints the line that the user would read, or what was read. Under the
+// agent's file name it stands in for the agent.
 
 #include <cstdio>
 #include <filesystem>
@@ -13,6 +14,8 @@
 
 #include "agentctl/AgentProcess.h"
 #include "agentctl/ConfigFile.h"
+#include "agentctl/ConfigReadBack.h"
+#include "client/AccessToken.h"
 #include "platform/ComputerName.h"
 
 namespace {
@@ -26,6 +29,10 @@ std::string told(const boost::system::error_code& error) {
 std::string told(const ImportResult& result) {
   return result.outcome == ImportResult::Outcome::missingAgentSection ? "missing [agent] section"
                                                                       : told(result.error);
+}
+
+std::string told(const ConfigEntries& entries) {
+  return entries.apiKey.value_or("none") + " at " + entries.serverUrl.value_or("none");
 }
 
 std::string act(const std::string& action, const std::string& argument) {
@@ -45,6 +52,12 @@ std::string act(const std::string& action, const std::string& argument) {
   }
   if (action == "import") {
     return told(importConfigFile(argument));
+  }
+  if (action == "read-back") {
+    return told(readCurrentConfig());
+  }
+  if (action == "token") {
+    return readAccessToken().value_or("none");
   }
   if (action == "name") {
     return computerName().value_or("none");

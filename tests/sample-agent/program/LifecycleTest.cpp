@@ -4,11 +4,15 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <string>
 #include <thread>
 
+#include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <boost/asio/io_context.hpp>
 
+#include "Server.h"
 #include "sample-agent/program/ProgramTest.h"
 
 namespace quillmark::sample::test {
@@ -102,6 +106,36 @@ TEST_F(Lifecycle, SaysThatThePortIsTaken) {
   EXPECT_EQ(second.errors(), "127.0.0.1:7823: Address already in use\n");
   EXPECT_EQ(second.output(), "");
   EXPECT_EQ(statusOf(get("/api/status")), 200) << "the first goes on";
+}
+
+TEST_F(Lifecycle, ComesBackWithTokenAndPortWhenKilled) {
+  std::string first;
+  {
+    AgentProgram agent;
+    ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
+    first = token();
+    // Connections of all ages stay behind in the system.
+    const RawClient waiting(programPort);
+    ASSERT_TRUE(waiting.send("GET /api"));
+    EXPECT_EQ(statusOf(get("/api/status")), 200);
+    EXPECT_EQ(agent.stop(SIGKILL), -SIGKILL);
+  }
+  EXPECT_EQ(token(), first) << "the token file is stale now";
+  AgentProgram agent;
+  ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
+  EXPECT_EQ(token(), first);
+  EXPECT_EQ(statusOf(get("/api/status")), 200);
+}
+
+// It would be sent to whoever holds the port.
+TEST_F(Lifecycle, MakesNoTokenForWhoeverHoldsThePort) {
+  boost::asio::io_context context;
+  const auto other = listenForClients(context);
+  ASSERT_TRUE(other);
+  AgentProgram agent;
+  EXPECT_EQ(agent.waitForEnd(), 1);
+  EXPECT_EQ(agent.errors(), "127.0.0.1:7823: Address already in use\n");
+  EXPECT_FALSE(std::filesystem::exists(tokenFile()));
 }
 
 TEST_F(Lifecycle, RefusesAMalformedConfiguration) {

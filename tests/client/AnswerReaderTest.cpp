@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <cstring>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "client/HttpMessages.h"
+
+namespace quillmark::test {
+namespace {
+
+using State = AnswerReader::State;
+
+/// The body of an answer that comes in pieces of this size.
+std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
+  AnswerReader reader(HttpLimits{});
+  auto state = State::wantsMore;
+  while (state == State::wantsMore && !answer.empty()) {
+    const auto piece = answer.substr(0, pieceSize);
+    std::memcpy(reader.space().data(), piece.data(), piece.size());
+    answer.remove_prefix(piece.size());
+    state = reader.received(piece.size());
+  }
+  if (state == State::wantsMore) {
+    state = reader.ended();
+  }
+  return state == State::done ? std::optional(reader.takeBody()) : std::nullopt;
+}
+
+testing::AssertionResult isSameInPieces(const std::string& answer,
+                                        const std::optional<std::string>& body) {
+  for (std::size_t pieceSize = 1; pieceSize <= answer.size(); ++pieceSize) {
+    if (bodyInPieces(answer, pieceSize) != body) {
+      return testing::AssertionFailure() << "in pieces of " << pieceSize << ": " << answer;
+    }
+  }
+  return testing::AssertionSuccess();
+}
+
+const std::string ok = "HTTP/1.1 200 OK\r\n";
+const std::string chunked = ok + "Transfer-Encoding: chunked\r\n\r\n";
+
+TEST(AnswerReaderInPieces, ReadsTheSameBody) {
+  EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 4\r\n\r\nbody", "body"));
+  EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 0\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(ok + "\r\nbody", "body"));
+  EXPECT_TRUE(isSameInPieces("HTTP/1.1 103 Early Hints\r\nA: b\r\n\r\n" + ok + "\r\nx", "x"));
+}
+
+TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
+  EXPECT_TRUE(isSameInPieces(chunked + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
+  EXPECT_TRUE(isSameInPieces(chunked + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
+}
+
+// The size of the last chunk is then the first thing of the body.
+TEST(AnswerReaderInPieces, ReadsNoChunks) {
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\nX: y\r\n\r\n", ""));
+}
+
+TEST(AnswerReaderInPieces, RefusesTheSame) {
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "4\r\nbody\r\n0\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 5\r\n\r\nbody", std::nullopt));
+  EXPECT_TRUE(isSameInPieces("HTTP/1.1 ", std::nullopt));
+}
+
+}  // namespace
+}  // namespace quillmark::test
