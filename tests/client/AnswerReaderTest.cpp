@@ -28,7 +28,8 @@ std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pie
   if (state == State::wantsMore) {
     state = reader.ended();
   }
-  return state == State::done ? std::optional(reader.takeBody()) : std::nullopt;
+  const auto result = reader.takeResult();
+  return result ? std::optional(result->body) : std::nullopt;
 }
 
 testing::AssertionResult isSameInPieces(const std::string& answer,
