@@ -13,7 +13,7 @@ from measure.report import Report
 PREFACE = """# Reliability
 
 What the panel stands, found by `tools/reliability`: how often it was tried, how
-often it held, and the figures of that run."""
+often it held, and the figures of one run."""
 
 # Figure, what it is called, its limit and unit.
 ATTACK = (
