@@ -10,7 +10,11 @@ from pathlib import Path
 from measure.figures import goal, number, table
 from measure.report import Report
 
-PREFACE = """# Reliability
+PREFACE = """<!--
+SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+SPDX-License-Identifier: GPL-3.0-or-later
+-->
+# Reliability
 
 What the panel stands, found by `tools/reliability`: how often it was tried, how
 often it held, and the figures of one run."""
