@@ -29,7 +29,12 @@ class Process:
 
 
 def _text(path):
-    return path.read_bytes().replace(b"\0", b" ").decode(errors="replace")
+    """Empty where there is none to read: one that ended and waits to be
+    collected is still a process."""
+    try:
+        return path.read_bytes().replace(b"\0", b" ").decode(errors="replace")
+    except OSError:
+        return ""
 
 
 def _process(folder):
@@ -38,7 +43,7 @@ def _process(folder):
         return Process(int(folder.name), int(parent), state, _text(folder / "cmdline"),
                        _text(folder / "environ"))
     except OSError:
-        return None  # It ended meanwhile, or is not ours to read.
+        return None  # It ended meanwhile.
 
 
 def every():

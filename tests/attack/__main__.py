@@ -1,0 +1,74 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""attack OUTPUT [WORD...]: the panel under every attack, or those whose names
+bear one of the words; figures as JSON."""
+
+import json
+import sys
+import time
+from pathlib import Path
+
+from harness import tokens
+from harness.display import Display
+from harness.screen import Picture
+from harness.waiting import until
+from measure import stage
+from measure.observed import Observed
+
+from .attacker import Attacker
+from .attacks import every
+from .memory import MIB, Peak, resident
+
+SECONDS = 12
+SETTLING = 10
+TAB = "ctrl+4"  # Alerts, where a text of the agent's is laid out
+
+
+def settled_picture(server):
+    server.wait_for_poll()
+    time.sleep(1)
+    return Picture().whole()
+
+
+def under(attack, server, panel):
+    good = settled_picture(server)
+    time.sleep(SETTLING)
+    idle = resident(panel.pid)
+    since = time.monotonic()
+    with Peak(panel.pid, idle, server.body_bytes) as peak:
+        with server.attacking(attack):
+            time.sleep(SECONDS)
+            ended = time.monotonic()
+        # Values of before may still stand there; new ones need a whole poll.
+        server.wait_for_poll()
+        until(lambda: Picture().whole() == good, "the good values again", timeout=120, step=0.1)
+        recovered = time.monotonic() - ended
+    time.sleep(max(0.0, ended + SETTLING - time.monotonic()))
+    return {
+        "idle_mib": idle / MIB,
+        "peak_above_idle_mib": peak.above_idle / MIB,
+        "peak_beyond_body_mib": peak.beyond / MIB,
+        "kept_mib": (resident(panel.pid) - idle) / MIB,
+        "longest_gap_ms": 1000 * max((span for _, span in panel.busy(since)), default=0),
+        "seconds_to_good": recovered,
+    }
+
+
+def main(output, *words):
+    figures = {}
+    display = Display()
+    tokens.write(tokens.HOME, "token")
+    for name, attack in every().items():
+        if words and not any(word in name for word in words):
+            continue
+        server = Attacker().start()
+        with Observed(stage.PANEL) as panel:
+            stage.key(TAB)
+            figures[name] = under(attack, server, panel)
+        server.stop()
+        print(name, {k: round(v, 1) for k, v in figures[name].items()}, flush=True)
+        Path(output).write_text(json.dumps(figures, indent=1) + "\n")
+    display.stop()
+
+
+main(*sys.argv[1:])

@@ -1,0 +1,42 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What a process holds, sampled while something goes on."""
+
+import threading
+import time
+from pathlib import Path
+
+PAGE = 4096
+MIB = 1 << 20
+
+
+def resident(pid):
+    """In bytes; cheaper to ask for than the whole status."""
+    return int(Path(f"/proc/{pid}/statm").read_text().split()[1]) * PAGE
+
+
+class Peak:
+    """The most that a process held beyond `idle` and what it had to hold."""
+
+    def __init__(self, pid, idle, owed):
+        self._pid, self._idle, self._owed = pid, idle, owed
+        self._stopped = threading.Event()
+        self._thread = threading.Thread(target=self._sample, daemon=True)
+        self.beyond = 0
+        self.above_idle = 0
+
+    def __enter__(self):
+        self._thread.start()
+        return self
+
+    def __exit__(self, *_):
+        self._stopped.set()
+        self._thread.join()
+
+    def _sample(self):
+        while not self._stopped.is_set():
+            # Asked for last, the debt is rather too small than too great.
+            above = resident(self._pid) - self._idle
+            self.above_idle = max(self.above_idle, above)
+            self.beyond = max(self.beyond, above - self._owed())
+            time.sleep(0.005)

@@ -1,0 +1,72 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Time stands still, jumps back and leaps ahead; polling keeps its pace."""
+
+import os
+import signal
+import subprocess
+import time
+from pathlib import Path
+
+import pytest
+
+from harness.waiting import never, until
+
+pytestmark = pytest.mark.usefixtures("token")
+
+
+def starts(backend, since):
+    return [r.time for r in backend.seen("status") if r.time > since]
+
+
+def polls_on(backend, count=3):
+    """Waits for that many polls from now on; they come at their usual pace."""
+    since = time.monotonic()
+    until(lambda: len(starts(backend, since)) >= count, f"{count} more polls", timeout=30)
+    seen = starts(backend, since)[:count]
+    assert all(4.0 <= b - a <= 6.5 for a, b in zip(seen, seen[1:])), seen
+
+
+def test_stopped_for_twenty_seconds(launch, backend):
+    panel = launch()
+    backend.wait_for_poll()
+    os.kill(panel.pid, signal.SIGSTOP)
+    stopped = time.monotonic()
+    never(lambda: starts(backend, stopped + 1), "a stopped panel polled", seconds=20)
+    os.kill(panel.pid, signal.SIGCONT)
+    since = time.monotonic()
+    until(lambda: len(starts(backend, since)) >= 3, "polling to go on", timeout=30)
+    # What was missed is not made up for: the poll that was due, and the next.
+    assert len([t for t in starts(backend, since) if t < since + 4]) <= 2
+    polls_on(backend)
+
+
+@pytest.fixture
+def set_clock(tmp_path):
+    """Sets the wall clock of a panel that is launched with `environment`."""
+    (library,) = Path("/usr/lib").glob("*/faketime/libfaketime.so.1")
+    file = tmp_path / "clock"
+
+    def set_to(offset):
+        file.write_text(offset + "\n")
+
+    set_to("+0")
+    set_to.environment = {
+        "LD_PRELOAD": str(library), "FAKETIME_TIMESTAMP_FILE": str(file),
+        "FAKETIME_NO_CACHE": "1", "FAKETIME_DONT_FAKE_MONOTONIC": "1",
+    }
+    return set_to
+
+
+@pytest.mark.parametrize("offset, year", [("-1d", 0), ("+10y", 10)])
+def test_clock_set(launch, backend, set_clock, offset, year):
+    panel = launch(**set_clock.environment)
+    backend.wait_for_poll()
+    set_clock(offset)
+    # It does change what a process is told.
+    told = subprocess.run(["date", "+%s"], env=os.environ | set_clock.environment,
+                          capture_output=True, text=True, check=True)
+    assert abs(float(told.stdout) - time.time()) > 80_000 * (365 * year or 1)
+    assert "libfaketime" in Path(f"/proc/{panel.pid}/maps").read_text()
+    polls_on(backend)
+    panel.tree.wait_for("text", "OK")

@@ -1,0 +1,68 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Windows opened again and again, and panels started side by side."""
+
+import contextlib
+import subprocess
+import tempfile
+from pathlib import Path
+
+import pytest
+
+from harness import hands
+from harness.panel import EXECUTABLE, spawn
+from harness.waiting import never, until
+from harness.window import visible
+
+pytestmark = pytest.mark.usefixtures("token")
+
+WINDOWS = 20
+
+
+def held(pid):
+    """Descriptors and threads."""
+    return tuple(len(list(Path(f"/proc/{pid}/{what}").iterdir())) for what in ("fd", "task"))
+
+
+def open_again():
+    assert subprocess.run([EXECUTABLE], timeout=30, capture_output=True).returncode == 0
+
+
+def reopen(panel):
+    hands.key("ctrl+w")
+    until(lambda: not panel.windows(), "the window to close")
+    open_again()
+    until(panel.windows, "a new window")
+    until(panel.window.active, "the new window to be active")
+
+
+def test_twenty_windows_one_after_another(launch, backend):
+    panel = launch()
+    # Each window polls once at once: with its end all connections are gone.
+    reopen(panel)
+    backend.wait_for_poll()
+    before = held(panel.pid)
+    for _ in range(WINDOWS):
+        reopen(panel)
+    assert len(panel.windows()) == 1
+    # No more is held than while a poll of theirs is under way.
+    until(lambda: all(now <= was for now, was in zip(held(panel.pid), before)),
+          f"no more than {before} held", timeout=30, step=0.01)
+    panel.tree.wait_for("text", "OK")
+    # Each window's timer goes on.
+    seen = len(backend.seen("status"))
+    never(panel.ended, "the panel ended", seconds=5)
+    assert len(backend.seen("status")) - seen >= WINDOWS
+
+
+def test_two_launched_at_once(display, backend):
+    with contextlib.ExitStack() as stack:
+        both = [spawn(stack.enter_context(tempfile.TemporaryFile())) for _ in range(2)]
+        until(lambda: [p for p in both if p.poll() is not None], "one to hand over", timeout=30)
+        (other,) = [p for p in both if p.poll() is not None]
+        (first,) = [p for p in both if p.poll() is None]
+        assert other.returncode == 0
+        until(lambda: visible(first.pid), "the window")
+        never(lambda: len(visible(first.pid)) != 1, "another window", seconds=2)
+        assert subprocess.run([EXECUTABLE, "--quit"], timeout=30).returncode == 0
+        assert first.wait(timeout=15) == 0

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+namespace quillmark::test {
+
+/// What this process holds at a moment.
+struct Footprint {
+  long residentKib = 0;
+  long descriptors = 0;
+  long threads = 0;
+
+  [[nodiscard]] static Footprint now();
+};
+
+/// Prints what was held before and after as one line of JSON; true if it grew
+/// by no more than `allowedKib`, and by no descriptor or thread.
+[[nodiscard]] bool report(const std::string& what, long polls, double seconds,
+                          const Footprint& before, const Footprint& after, long allowedKib);
+
+}  // namespace quillmark::test
