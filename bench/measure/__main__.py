@@ -15,7 +15,11 @@ from .report import Report
 PARTS = {"start": start, "memory": memory, "idle": idle, "poll": poll, "decode": decode,
          "lists": lists, "tabs": tabs, "peers": peers}
 
-PREFACE = """# Performance
+PREFACE = """<!--
+SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+SPDX-License-Identifier: GPL-3.0-or-later
+-->
+# Performance
 
 What the panel costs, measured by `bench/run`: medians, and where spread is told
 the quartiles in brackets. Every figure stands beside one of a floor or of another
