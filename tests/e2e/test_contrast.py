@@ -105,15 +105,14 @@ def check(panel, beside=(), topped=None):
     return len(texts), len(icons)
 
 
-@pytest.mark.usefixtures("backend")
 def test_live(large, backend):
-    backend.reply(alerts=bodies.alerts(
+    backend.reply(status=bodies.status(threat_count=77), alerts=bodies.alerts(
         *[bodies.alert(s, s, description=f"what {s} means") for s in SEVERITIES]))
     panel = large()
     panel.tree.wait_for("text", "OK")
     for tab in TABS:
         panel.show(tab)
-        texts, icons = check(panel, ("Quillmark Agent", "OK", "1", *BESIDE[tab]))
+        texts, icons = check(panel, ("Quillmark Agent", "OK", "77", *BESIDE[tab]))
         assert texts > 15 and icons >= 11
 
 
