@@ -10,6 +10,7 @@ Pressable {
 
     required property string icon
 
+    takesFocus: false
     implicitWidth: 30
     implicitHeight: 20
 

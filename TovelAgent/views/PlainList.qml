@@ -24,6 +24,10 @@ ListView {
     Accessible.name: label
     Accessible.focusable: true
     Accessible.focused: activeFocus
+    Accessible.onScrollUpAction: keys.scrollLines(-1)
+    Accessible.onScrollDownAction: keys.scrollLines(1)
+    Accessible.onPreviousPageAction: keys.scrollPages(-1)
+    Accessible.onNextPageAction: keys.scrollPages(1)
 
     Rectangle {
         parent: list
@@ -57,6 +61,8 @@ ListView {
     }
 
     ScrollKeys {
+        id: keys
+
         target: list
     }
 

@@ -9,11 +9,15 @@ Item {
 
     required property string label
     property int focusMargin: 1
+    /// Not for what stands in for a part of the desktop: using that shall not
+    /// take the keyboard from where the user was.
+    property bool takesFocus: true
     readonly property bool hovered: hover.hovered
 
     signal pressed
 
-    activeFocusOnTab: true
+    // Qt counts on it for assistive technology, enabled or not.
+    activeFocusOnTab: enabled
 
     Keys.onSpacePressed: pressed()
     Keys.onReturnPressed: pressed()
@@ -21,13 +25,19 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: label
-    Accessible.focusable: true
+    // Qt has no word to assistive technology for what is disabled.
+    Accessible.description: enabled ? "" : "Unavailable"
+    Accessible.focusable: enabled
     Accessible.focused: activeFocus
     // Assistive technology presses what is disabled, too.
     Accessible.onPressAction: if (enabled) pressed()
 
     TapHandler {
-        onTapped: pressable.pressed()
+        onTapped: {
+            if (pressable.takesFocus)
+                pressable.forceActiveFocus(Qt.MouseFocusReason);
+            pressable.pressed();
+        }
     }
 
     HoverHandler {

@@ -31,6 +31,9 @@ void ScrollKeys::setTarget(QQuickItem* target) {
 }
 
 bool ScrollKeys::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == target_ && event->type() == QEvent::MouseButtonPress) {
+    target_->forceActiveFocus(Qt::MouseFocusReason);
+  }
   if (watched != target_ || event->type() != QEvent::KeyPress) {
     return QObject::eventFilter(watched, event);
   }
@@ -40,19 +43,18 @@ bool ScrollKeys::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ScrollKeys::scroll(int key) {
-  const qreal page = std::max(lineStep, target_->height() - pageOverlap);
   switch (key) {
     case Qt::Key_Up:
-      scrollBy(-lineStep);
+      scrollLines(-1);
       return true;
     case Qt::Key_Down:
-      scrollBy(lineStep);
+      scrollLines(1);
       return true;
     case Qt::Key_PageUp:
-      scrollBy(-page);
+      scrollPages(-1);
       return true;
     case Qt::Key_PageDown:
-      scrollBy(page);
+      scrollPages(1);
       return true;
     case Qt::Key_Home:
       target_->setProperty("contentY", number(*target_, "originY"));
@@ -63,6 +65,12 @@ bool ScrollKeys::scroll(int key) {
     default:
       return false;
   }
+}
+
+void ScrollKeys::scrollLines(int count) { scrollBy(count * lineStep); }
+
+void ScrollKeys::scrollPages(int count) {
+  scrollBy(count * std::max(lineStep, target_->height() - pageOverlap));
 }
 
 void ScrollKeys::scrollBy(qreal distance) {

@@ -28,6 +28,10 @@ Flickable {
 
     Accessible.role: Accessible.Pane
     Accessible.name: label
+    Accessible.onScrollUpAction: keys.scrollLines(-1)
+    Accessible.onScrollDownAction: keys.scrollLines(1)
+    Accessible.onPreviousPageAction: keys.scrollPages(-1)
+    Accessible.onNextPageAction: keys.scrollPages(1)
 
     Column {
         id: column
@@ -38,6 +42,8 @@ Flickable {
     }
 
     ScrollKeys {
+        id: keys
+
         target: page
     }
 

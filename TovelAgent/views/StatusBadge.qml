@@ -4,45 +4,68 @@
 import QtQuick
 
 /// A small titled value with a dot that says whether it is as it should be.
-Column {
+/// The keyboard reaches it, so that who cannot see it can stay at it and is
+/// told of every change.
+Item {
     id: badge
 
     required property string title
     required property string value
     required property bool isHealthy
 
-    spacing: 4
+    implicitWidth: column.width
+    implicitHeight: column.height
 
-    Label {
-        text: badge.title
-        size: 11
-        color: Theme.gray
-    }
+    // Here, for Qt takes the property `value` of an accessible item for a
+    // number that can be set.
+    Item {
+        id: told
 
-    Row {
-        spacing: 6
+        anchors.fill: parent
+        activeFocusOnTab: true
 
-        // Here, for Qt takes the property `value` of an accessible item for a
-        // number that can be set.
         Accessible.role: Accessible.Grouping
-        Accessible.name: badge.title
+        Accessible.name: badge.title + ": " + badge.value
         Accessible.description: badge.isHealthy ? "Healthy" : "Needs attention"
+        Accessible.focusable: true
+        Accessible.focused: activeFocus
 
-        Rectangle {
-            objectName: "dot"
-            width: 8
-            height: 8
-            radius: 4
-            color: badge.isHealthy ? Theme.green : Theme.red
-            anchors.verticalCenter: parent.verticalCenter
+        Column {
+            id: column
+
+            spacing: 4
+
+            Label {
+                text: badge.title
+                size: 11
+                color: Theme.gray
+            }
+
+            Row {
+                spacing: 6
+
+                Rectangle {
+                    objectName: "dot"
+                    width: 8
+                    height: 8
+                    radius: 4
+                    color: badge.isHealthy ? Theme.green : Theme.red
+                    anchors.verticalCenter: parent.verticalCenter
+                }
+
+                ElidedLabel {
+                    text: badge.value
+                    size: 14
+                    font.weight: Font.DemiBold
+                    color: Theme.black
+                    maximumWidth: Theme.headerTextWidth
+                }
+            }
         }
 
-        ElidedLabel {
-            text: badge.value
-            size: 14
-            font.weight: Font.DemiBold
-            color: Theme.black
-            maximumWidth: Theme.headerTextWidth
+        FocusRing {
+            target: told
+            anchors.margins: -5
         }
     }
 }

@@ -14,11 +14,50 @@ Rectangle {
 
     signal tabTapped(string identifier)
 
+    readonly property int selectedIndex: tabs.findIndex(tab => tab.identifier === selectedTab)
+
+    function choose(index: int) {
+        const tab = tabs[index];
+        if (tab)
+            tabTapped(tab.identifier);
+    }
+
+    /// Lets the keyboard go from one tab to another and choose it.
+    function moveFocus(index: int) {
+        const button = buttons.itemAt(index);
+        if (button) {
+            button.forceActiveFocus(Qt.TabFocusReason);
+            choose(index);
+        }
+    }
+
+    function focusedIndex(): int {
+        return tabs.findIndex((_, index) => buttons.itemAt(index).activeFocus);
+    }
+
     implicitHeight: row.height + 2 * 12
     color: Theme.panelTint
 
+    Keys.onLeftPressed: moveFocus(focusedIndex() - 1)
+    Keys.onRightPressed: moveFocus(focusedIndex() + 1)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted)
+            moveFocus(event.key === Qt.Key_Home ? 0 : tabs.length - 1);
+    }
+
     Accessible.role: Accessible.PageTabList
     Accessible.name: "Tabs"
+
+    Shortcut {
+        sequence: "Ctrl+PgUp"
+        onActivated: bar.choose(bar.selectedIndex - 1)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+PgDown"
+        onActivated: bar.choose(bar.selectedIndex + 1)
+    }
 
     Row {
         id: row
@@ -42,8 +81,6 @@ Rectangle {
                 isActive: bar.selectedTab === modelData.identifier
                 anchors.verticalCenter: parent?.verticalCenter
                 onPressed: bar.tabTapped(modelData.identifier)
-
-                KeyNavigation.left: buttons.itemAt(index - 1)
 
                 Shortcut {
                     sequence: "Ctrl+" + (button.index + 1)

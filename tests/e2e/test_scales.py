@@ -6,11 +6,13 @@ import pytest
 
 from harness import colours, hands
 from harness.display import Display
+from harness.layout import assert_uncut
 from harness.screen import BUILD, Picture, save
 from harness.waiting import until
+from harness.window import tool
 
 TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
-SCREEN = (2200, 1500)
+SCREEN = (3100, 2200)
 
 pytestmark = pytest.mark.usefixtures("token")
 
@@ -22,7 +24,7 @@ def display():
     display.stop()
 
 
-@pytest.mark.parametrize("scale", ["1", "1.5", "2"])
+@pytest.mark.parametrize("scale", ["1", "1.25", "1.5", "2", "3"])
 def test_pictures(launch, scale):
     panel = launch(QT_SCALE_FACTOR=scale)
     panel.tree.wait_for("text", "OK")
@@ -34,8 +36,25 @@ def test_pictures(launch, scale):
         panel.show(tab)
         # The bar under the active tab tells when the tab has been drawn.
         bars.append(until(lambda: bar(window, bars), f"{tab} to be drawn"))
+        assert_uncut(panel.tree.read())
         save(BUILD / "pictures" / f"{tab.lower()}-{scale}.png", window)
     assert bars == sorted(bars)
+
+
+# The resource a desktop sets when texts shall be larger, and Qt's own word for it.
+@pytest.mark.parametrize("environment, resource", [
+    ({}, "Xft.dpi:\t192"), ({"QT_FONT_DPI": "192"}, "Xft.dpi:\t96"),
+], ids=["desktop", "Qt"])
+def test_texts_of_double_size(launch, environment, resource):
+    tool("xprop", "-root", "-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER", resource)
+    panel = launch(**environment)
+    panel.tree.wait_for("text", "OK")
+    # Either enlarges all alike, not the texts alone, so that they still fit.
+    assert panel.window.box[2:] == (2000, 1400)
+    for tab in TABS:
+        panel.show(tab)
+        assert_uncut(panel.tree.read())
+    tool("xprop", "-root", "-remove", "RESOURCE_MANAGER")
 
 
 def bar(window, known):

@@ -175,3 +175,11 @@ def test_circle_and_text_have_the_colour_of_the_status(panel):
     start(panel)
     running(panel)
     assert_colour(RUNNING, colours.GREEN)
+
+
+def test_started_and_stopped_by_assistive_technology(panel):
+    panel.tree.act(panel.tree.find(*START), "Press")
+    running(panel)
+    panel.tree.act(panel.tree.find(*STOP), "Press")
+    panel.tree.wait_for("text", NOT_RUNNING)
+    assert not processes.named()

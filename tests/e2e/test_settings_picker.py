@@ -5,6 +5,7 @@
 import pytest
 
 from harness import hands, picker, settings
+from harness.contrast import contrast
 from harness.screen import BUILD, Picture, save
 from harness.settings import CONFIG
 from harness.waiting import until
@@ -33,19 +34,13 @@ def test_only_what_may_be_a_configuration(panel):
         save(BUILD / "pictures" / "settings-dialog.png", panel.window.box)
 
 
-def luminance(colour):
-    parts = [c / 255 for c in colour]
-    red, green, blue = (c / 12.92 if c <= 0.04045 else ((c + 0.055) / 1.055) ** 2.4 for c in parts)
-    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
-
-
 def test_the_chosen_row_can_be_read(panel):
     with picker.opened(panel):
         hands.park()
         row = panel.focus()
-        ground = luminance(Picture().pixel(row.box.right - 4, row.box.y + 4))
-        shades = [luminance(c) for c in Picture().colours(row.find("text", "a.txt").box)]
-        assert max((max(s, ground) + 0.05) / (min(s, ground) + 0.05) for s in shades) >= 4.5
+        ground = Picture().pixel(row.box.right - 4, row.box.y + 4)
+        shades = Picture().colours(row.find("text", "a.txt").box)
+        assert max(contrast(shade, ground) for shade in shades) >= 4.5
 
 
 def test_file_picked_by_arrow_keys(panel, tmp_path):

@@ -4,8 +4,9 @@
 
 import pytest
 
-from harness import bodies, hands
+from harness import bodies, colours, hands
 from harness.backend import ENDPOINTS
+from harness.lists import listed
 from harness.screen import Picture
 from harness.waiting import until
 from harness.window import Box
@@ -78,6 +79,63 @@ def test_arrows_move_between_tabs(panel):
     panel.press_until_focused("tab", "Dashboard")
     panel.press_until_focused("tab", "Inventory", key="Right", most=2)
     panel.press_until_focused("tab", "Network", key="Left", most=1)
+
+
+@pytest.mark.parametrize("press, tab", [
+    ("Right", "Inventory"), ("Left", "Dashboard"), ("End", "Settings"), ("Home", "Dashboard"),
+])
+def test_keys_in_the_tab_bar_choose(panel, press, tab):
+    panel.show("Network")
+    panel.press_until_focused("tab", "Network")
+    hands.key(press)
+    shows_only(panel, tab)
+    until(lambda: (panel.focus().role, panel.focus().name) == ("tab", tab), "the focus on it")
+
+
+def test_neighbouring_tabs_from_anywhere(panel):
+    panel.show("Inventory")
+    panel.press_until_focused(*SIGNS["Inventory"])
+    hands.key("ctrl+Next")
+    shows_only(panel, "Alerts")
+    hands.key("ctrl+Prior", "ctrl+Prior", "ctrl+Prior")
+    shows_only(panel, "Dashboard")
+    # There is none before the first, nor after the last.
+    hands.key("ctrl+Prior", "ctrl+5", "ctrl+Next")
+    shows_only(panel, "Settings")
+
+
+@pytest.mark.parametrize("press", ["F5", "ctrl+r", "F1", "Escape", "F11", "BackSpace"])
+def test_other_keys_do_nothing(panel, backend, press):
+    panel.show("Alerts")
+    before = panel.tree.read()
+    backend.wait_for_poll()
+    asked = len(backend.seen("status"))
+    hands.key(press)
+    panel.press_until_focused("tab", "Alerts")
+    assert len(backend.seen("status")) - asked <= 1
+    shows_only(panel, "Alerts")
+    assert panel.tree.read().texts() == before.texts()
+    assert panel.window.box[2:] == (1000, 1000)
+
+
+def test_click_gives_a_list_the_keyboard(panel, backend):
+    backend.reply(network=bodies.network(*[bodies.connection(str(n)) for n in range(200)]))
+    backend.wait_for_poll()
+    panel.show("Network")
+    panel.press_until_focused("tab", "Network")
+    found = panel.tree.wait_for("list", "Network connections")
+    hands.click(found.box)
+    until(lambda: panel.focus() and panel.focus().role == "list", "the list to have the keyboard")
+    hands.park()
+    edge = Box(found.box.x + 40, found.box.bottom - 3, 400, 3)
+    assert colours.BLUE not in Picture().colours(edge), "no ring after a click"
+    first = listed(panel, "Network connections")[1][0].name
+    hands.key("Next")
+    until(lambda: listed(panel, "Network connections")[1][0].name != first, "Page Down to scroll")
+    # Walked back to, it has one.
+    hands.key("shift+Tab")
+    panel.press_until_focused("list", "Network connections")
+    until(lambda: colours.BLUE in Picture().colours(edge), "the ring")
 
 
 @pytest.mark.parametrize("tab", ["Network", "Inventory", "Alerts"])

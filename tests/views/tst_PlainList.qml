@@ -113,6 +113,31 @@ ViewTest {
         verify(!view.highlightItem);
     }
 
+    function test_clickTakesTheKeyboardWithoutARing() {
+        const view = make(component, { width: 400, height: 300, model: 1000 });
+        mouseClick(view, 100, 100);
+        verify(view.activeFocus);
+        compare(itemsOfType(view, "FocusRing").length, 0);
+        keyClick(Qt.Key_PageDown);
+        compare(view.contentY, 260);
+    }
+
+    function test_assistiveTechnologyScrolls_data() {
+        return [
+            { tag: "down", action: "scrollDownAction", from: 100, to: 140 },
+            { tag: "up", action: "scrollUpAction", from: 100, to: 60 },
+            { tag: "next page", action: "nextPageAction", from: 100, to: 360 },
+            { tag: "previous page", action: "previousPageAction", from: 300, to: 40 }
+        ];
+    }
+
+    function test_assistiveTechnologyScrolls(data) {
+        const view = list(1000);
+        view.contentY = data.from;
+        view.Accessible[data.action]();
+        compare(view.contentY, data.to);
+    }
+
     function test_focusIsVisible() {
         const view = list(3);
         compare(itemsOfType(view, "FocusRing").length, 1);

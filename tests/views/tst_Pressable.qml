@@ -72,6 +72,37 @@ ViewTest {
         compareColor(ring.border.color, Theme.blue);
     }
 
+    function test_clickTakesTheFocusWithoutARing() {
+        const view = pressable();
+        mouseClick(view);
+        verify(view.activeFocus);
+        compare(ringOf(view).length, 0);
+        const next = make(component, { y: 50, width: 100, height: 40, label: "next" });
+        keyClick(Qt.Key_Tab);
+        compare(ringOf(next).length, 1);
+        keyClick(Qt.Key_Backtab);
+        compare(ringOf(view).length, 1);
+    }
+
+    function test_clickMayLeaveTheFocusAlone() {
+        const view = pressable();
+        view.takesFocus = false;
+        mouseClick(view);
+        compare(pressed.count, 1);
+        verify(!view.activeFocus);
+    }
+
+    function test_disabled() {
+        const view = pressable();
+        view.enabled = false;
+        mouseClick(view);
+        view.Accessible.pressAction();
+        compare(pressed.count, 0);
+        verify(!view.activeFocus);
+        verify(!view.Accessible.focusable);
+        compare(view.Accessible.description, "Unavailable");
+    }
+
     function test_hover() {
         const view = pressable();
         mouseMove(view, 10, 10);

@@ -15,6 +15,10 @@ ViewTest {
         return itemOfType(view, "Rectangle");
     }
 
+    function toldOf(view) {
+        return view.children[0];
+    }
+
     function test_texts() {
         const view = badge(true);
         compare(textsIn(view), ["Status", "OK"]);
@@ -59,9 +63,21 @@ ViewTest {
     // The dot's colour is nothing to those who cannot see it.
     function test_accessible(data) {
         const view = badge(data.isHealthy);
-        const value = labelsIn(view)[1].parent;
-        compare(value.Accessible.name, "Status");
-        compare(value.Accessible.description, data.description);
+        const told = toldOf(view);
+        compare(told.Accessible.name, "Status: OK");
+        compare(told.Accessible.description, data.description);
+        verify(told.Accessible.focusable);
+        view.value = "OFFLINE";
+        compare(told.Accessible.name, "Status: OFFLINE");
+    }
+
+    function test_keyboardReachesIt() {
+        const view = badge(true);
+        compare(itemsOfType(view, "FocusRing").length, 0);
+        keyClick(Qt.Key_Tab);
+        verify(toldOf(view).activeFocus);
+        const ring = boxIn(itemOfType(view, "FocusRing"), view);
+        verify(ring.left < 0 && ring.right > view.width, "the ring is clear of the texts");
     }
 
     Component {

@@ -74,20 +74,46 @@ ViewTest {
         compare(view.selectedTab, "one");
     }
 
-    function test_arrowsMoveTheFocus() {
+    function tappedTabs() {
+        return Array.from(tapped.signalArguments).map(args => args[0]);
+    }
+
+    function test_keysMoveTheFocusAndChoose_data() {
+        return [
+            { tag: "right", from: 0, key: Qt.Key_Right, to: 1, chosen: ["two"] },
+            { tag: "left", from: 2, key: Qt.Key_Left, to: 1, chosen: ["two"] },
+            { tag: "none further right", from: 2, key: Qt.Key_Right, to: 2, chosen: [] },
+            { tag: "none further left", from: 0, key: Qt.Key_Left, to: 0, chosen: [] },
+            { tag: "to the last", from: 0, key: Qt.Key_End, to: 2, chosen: ["three"] },
+            { tag: "to the first", from: 2, key: Qt.Key_Home, to: 0, chosen: ["one"] },
+            { tag: "any other key", from: 1, key: Qt.Key_F5, to: 1, chosen: [] }
+        ];
+    }
+
+    function test_keysMoveTheFocusAndChoose(data) {
         const buttons = buttonsOf(bar("one"));
-        buttons[0].forceActiveFocus(Qt.TabFocusReason);
-        keyClick(Qt.Key_Right);
-        verify(buttons[1].activeFocus);
-        keyClick(Qt.Key_Right);
-        verify(buttons[2].activeFocus);
-        keyClick(Qt.Key_Right);
-        verify(buttons[2].activeFocus, "there is none further right");
-        keyClick(Qt.Key_Left);
-        verify(buttons[1].activeFocus);
-        compare(tapped.count, 0);
-        keyClick(Qt.Key_Space);
-        compare(tapped.signalArguments[0][0], "two");
+        buttons[data.from].forceActiveFocus(Qt.TabFocusReason);
+        keyClick(data.key);
+        compare(buttons.findIndex(button => button.activeFocus), data.to);
+        compare(tappedTabs(), data.chosen);
+    }
+
+    function test_neighbours_data() {
+        return [
+            { tag: "next", selected: "one", key: Qt.Key_PageDown, chosen: ["two"] },
+            { tag: "previous", selected: "three", key: Qt.Key_PageUp, chosen: ["two"] },
+            { tag: "none after the last", selected: "three", key: Qt.Key_PageDown, chosen: [] },
+            { tag: "none before the first", selected: "one", key: Qt.Key_PageUp, chosen: [] },
+            { tag: "the first after none", selected: "four", key: Qt.Key_PageDown, chosen: ["one"] },
+            { tag: "nothing before none", selected: "four", key: Qt.Key_PageUp, chosen: [] }
+        ];
+    }
+
+    // Wherever the focus is.
+    function test_neighbours(data) {
+        bar(data.selected);
+        keyClick(data.key, Qt.ControlModifier);
+        compare(tappedTabs(), data.chosen);
     }
 
     function test_accessible() {

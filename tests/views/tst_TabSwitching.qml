@@ -81,15 +81,24 @@ PolledViewTest {
     function test_keysChooseTheFocusedTab(data) {
         open();
         button("dashboard").forceActiveFocus(Qt.TabFocusReason);
-        keyClick(Qt.Key_Right);
-        keyClick(Qt.Key_Right);
+        keyClick(Qt.Key_Tab);
+        keyClick(Qt.Key_Tab);
         compare(content.selectedTab, "dashboard");
         keyClick(data.key);
         compare(content.selectedTab, "inventory");
         verify(button("inventory").activeFocus);
-        keyClick(Qt.Key_Left);
-        keyClick(data.key);
+    }
+
+    function test_arrowsChoose() {
+        open();
+        button("dashboard").forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Right);
         compare(content.selectedTab, "network");
+        keyClick(Qt.Key_Right);
+        compare(content.selectedTab, "inventory");
+        verify(button("inventory").activeFocus);
+        keyClick(Qt.Key_Home);
+        compare(content.selectedTab, "dashboard");
     }
 
     // From the tabs on, Tab leads into the list, which the keys then scroll.

@@ -128,6 +128,12 @@ class Tree:
         """As assistive technology does, whatever the state of the item."""
         self._bus.press(item.address)
 
+    def act(self, item, action):
+        self._bus.act(item.address, action)
+
+    def description(self, item):
+        return self._bus.description(item.address)
+
     def words(self):
         """Everything that anything showing says of itself, in any property."""
         return [self._bus.words(item.address) for item in self.read().walk()]

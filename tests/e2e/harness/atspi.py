@@ -67,6 +67,18 @@ class Bus:
     def press(self, node):
         self._ask([(node, (ACTION, "DoAction", GLib.Variant("(i)", (0,))))])
 
+    def act(self, node, action):
+        """Does what the node offers under this name."""
+        ((offered,),) = self._ask([(node, (ACTION, "GetActions", None))])
+        names = [name for name, _, _ in offered]
+        assert action in names, f"{action} is not among {names}"
+        number = GLib.Variant("(i)", (names.index(action),))
+        self._ask([(node, (ACTION, "DoAction", number))])
+
+    def description(self, node):
+        asked = GLib.Variant("(ss)", (ACCESSIBLE, "Description"))
+        return self._ask([(node, (PROPERTIES, "Get", asked))])[0][0]
+
     def words(self, node):
         """Every text that a node has for whoever asks."""
         asked = [

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace quillmark {
+
+/// Whether the pointer gave its target the keyboard focus. Whoever clicked
+/// knows where the focus is; a ring would only distract. UI thread only.
+class FocusOrigin : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget REQUIRED)
+  Q_PROPERTY(bool isPointer READ isPointer NOTIFY isPointerChanged)
+
+ public:
+  using QObject::QObject;
+
+  [[nodiscard]] QQuickItem* target() const { return target_; }
+  void setTarget(QQuickItem* target);
+
+  [[nodiscard]] bool isPointer() const { return isPointer_; }
+
+  [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+ Q_SIGNALS:
+  void isPointerChanged();
+
+ private:
+  QPointer<QQuickItem> target_;
+  bool isPointer_ = false;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,159 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Every control without a pointer: by keyboard alone, by assistive actions alone."""
+
+import pytest
+
+from harness import bodies, hands, picker, settings
+from harness.lists import listed
+from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
+from harness.waiting import until
+
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+BADGES = [("group", "Status: OK"), ("group", "Threats: 1")]
+BAR = [("tab", name) for name in TABS]
+WINDOW = [("button", name) for name in ("Minimize", "Maximize", "Close")]
+# What of each tab takes the keyboard, once the key's field is filled.
+CONTENT = {
+    "Dashboard": [("group", "Dashboard")],
+    "Network": [("list", "Network connections")],
+    "Inventory": [("list", "Installed applications")],
+    "Alerts": [("list", "Alerts")],
+    "Settings": [("group", "Settings"), START, STOP, SERVER, KEY, SAVE, BROWSE],
+}
+
+
+@pytest.fixture(scope="module", autouse=True)
+def live(panel):
+    settings.clean_home()
+    panel.tree.wait_for("text", "OK")
+    yield
+    settings.clean_home()
+
+
+@pytest.fixture
+def settings_tab(panel):
+    settings.clean_home()
+    settings.enter(panel)
+    return panel
+
+
+def chain(panel):
+    """Everything from one Tab to the next until it begins again."""
+    walked = []
+    panel.press_until_focused(*BADGES[0])
+    while len(walked) < 30:
+        focus = panel.focus()
+        if (focus.role, focus.name) == BADGES[0] and walked:
+            return walked
+        walked.append((focus.role, focus.name))
+        hands.key("Tab")
+        until(lambda: panel.focus() != focus, "the focus to move on")
+    raise AssertionError(f"no end of {walked}")
+
+
+@pytest.mark.parametrize("tab", TABS)
+def test_the_keyboard_goes_in_reading_order(panel, tab):
+    panel.show(tab)
+    if tab == "Settings":
+        settings.fill(panel, KEY, "k")
+    # The window's own glyphs last, as a desktop's frame would not be in it.
+    assert chain(panel) == BADGES + BAR + CONTENT[tab] + WINDOW
+
+
+def focusable(tree):
+    return [(i.role, i.name) for i in tree.walk()
+            if "focusable" in i.states and i.role not in ("window", "text")]
+
+
+@pytest.mark.parametrize("tab", TABS)
+def test_what_assistive_technology_may_focus(panel, tab):
+    panel.show(tab)
+    if tab == "Settings":
+        settings.fill(panel, KEY, "k")
+    # So high that there is nothing to scroll.
+    panel.window.resize(1000, 1150)
+    content = [which for which in CONTENT[tab] if which[0] != "group"]
+    until(lambda: sorted(focusable(panel.tree.read())) == sorted(BADGES + BAR + content + WINDOW),
+          "these and no others to be focusable")
+    panel.window.resize(1000, 700)
+    until(lambda: panel.window.box.height == 700, "the usual size")
+
+
+@pytest.mark.parametrize("tab", [*TABS[1:], "Dashboard"])
+def test_tabs_by_action(panel, tab):
+    panel.tree.act(panel.tree.find("tab", tab), "Press")
+    panel.selected(tab)
+
+
+@pytest.mark.parametrize("which", [BADGES[0], SERVER, KEY, START])
+def test_focus_by_action(settings_tab, which):
+    settings_tab.tree.act(settings_tab.tree.find(*which), "SetFocus")
+    until(lambda: (settings_tab.focus().role, settings_tab.focus().name) == which, "the focus")
+
+
+def test_lists_scroll_by_action(panel, backend):
+    backend.reply(network=bodies.network(*[bodies.connection(str(n)) for n in range(200)]))
+    backend.wait_for_poll()
+    panel.show("Network")
+    name = "Network connections"
+    first = lambda: listed(panel, name)[1][0].name  # noqa: E731
+    top = until(first, "rows")
+    panel.tree.act(panel.tree.find("list", name), "Next Page")
+    until(lambda: first() != top, "the next page")
+    panel.tree.act(panel.tree.find("list", name), "Previous Page")
+    until(lambda: first() == top, "the page before")
+
+
+def press(panel, which):
+    panel.tree.act(panel.tree.find(*which), "Press")
+
+
+def test_settings_by_action(settings_tab):
+    panel = settings_tab
+    settings.fill(panel, KEY, "qm-1")
+    press(panel, SAVE)
+    settings.wait_for_message(panel, settings.SAVED)
+    press(panel, BROWSE)
+    until(lambda: picker.shown(panel), "the dialog")
+    hands.key("Escape")
+    panel.tree.wait_without("dialog", picker.TITLE)
+
+
+def test_a_disabled_button_says_so(settings_tab):
+    panel = settings_tab
+    save = panel.tree.find(*SAVE)
+    assert "focusable" not in save.states
+    assert panel.tree.description(save) == "Unavailable"
+    settings.fill(panel, KEY, "k")
+    save = panel.tree.find(*SAVE)
+    assert "focusable" in save.states
+    assert panel.tree.description(save) == ""
+
+
+def test_window_by_action(panel):
+    window = panel.window
+    panel.tree.act(panel.tree.find("button", "Maximize"), "Press")
+    until(lambda: "MAXIMIZED_VERT" in window.states(), "the window to be maximised")
+    panel.tree.act(panel.tree.wait_for("button", "Restore"), "Press")
+    until(lambda: window.box[2:] == (1000, 700), "the former size")
+    panel.tree.act(panel.tree.wait_for("button", "Minimize"), "Press")
+    until(lambda: "HIDDEN" in window.states(), "the window to be minimised")
+    window.restore()
+
+
+def test_a_change_of_the_status_is_announced(panel, backend):
+    badge = panel.tree.wait_for(*BADGES[0])
+    event = ("PropertyChange", "accessible-name", badge.address)
+    assert panel.tree.description(badge) == "Healthy"
+    heard = panel.tree.listen()
+    backend.reply(status=bodies.status(status="warning"))
+
+    def announced():
+        panel.tree.read()
+        return event in [(member, body[0], body[3]) for member, body in heard]
+
+    until(announced, "the new status", timeout=20)
+    assert panel.tree.description(panel.tree.wait_for("group", "Status: WARNING")) == "Needs attention"
+    backend.reply(status=bodies.status(threat_count=1))
+    panel.tree.wait_for(*BADGES[0])

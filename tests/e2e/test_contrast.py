@@ -1,0 +1,165 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Every text and icon can be told from its ground, by the pixels of the screen."""
+
+import pytest
+
+from harness import bodies, hands, settings
+from harness.contrast import inked
+from harness.display import Display
+from harness.screen import Picture
+from harness.waiting import until
+from harness.window import Box
+
+TEXT = 4.5
+ICON = 3.0
+# So large that strokes are as wide as several pixels, and show their colour.
+SCALE = 3
+SCREEN = (3100, 3500)
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+GLYPHS = ("Minimize", "Maximize", "Close")
+
+pytestmark = pytest.mark.usefixtures("clean", "token")
+
+SEVERITIES = ("critical", "high", "medium", "low")
+# The texts that have an icon or a dot at their left.
+BESIDE = {
+    "Dashboard": (),
+    "Network": (),
+    "Inventory": (),
+    "Alerts": SEVERITIES,
+    "Settings": ("Agent Status", "Start Agent", "Stop Agent", "Quick Setup", "Save & Connect",
+                 "Advanced Configuration", "Browse and Import Config", "Config File Locations",
+                 "~/.config/quillmark/config.toml", "/etc/quillmark/config.toml"),
+}
+
+
+@pytest.fixture(scope="module")
+def display():
+    display = Display(*SCREEN)
+    yield display
+    display.stop()
+
+
+@pytest.fixture
+def clean():
+    settings.clean_home()
+    yield
+    settings.clean_home()
+
+
+@pytest.fixture
+def large(launch_alone):
+    def start():
+        panel = launch_alone(QT_SCALE_FACTOR=str(SCALE))
+        panel.window.move(0, 0)
+        panel.window.resize(1000 * SCALE, 1150 * SCALE)
+        until(lambda: panel.window.box == Box(0, 0, 3000, 3450), "a large window")
+        return panel
+
+    return start
+
+
+def left_of(box):
+    return Box(box.x - 34, box.y - 2, 32, box.height + 4)
+
+
+def above(box):
+    return Box(box.centre[0] - 24, box.y - 68, 48, 48)
+
+
+def drawn(box):
+    """Where it is on the screen; assistive technology is told unscaled numbers."""
+    return Box(*(SCALE * length for length in box))
+
+
+def check(panel, beside=(), topped=None):
+    """What there is to see now; `beside` and `topped` are texts with icons."""
+    hands.park()
+    tree = panel.tree.read()
+    texts = [i for i in tree.every("text") if i.name]
+    by_name = {text.name: text.box for text in texts}
+    icons = {name: left_of(by_name[name]) for name in (*TABS, *beside)}
+    icons |= {name: tree.find("button", name).box for name in GLYPHS}
+    if topped:
+        icons[topped] = above(by_name[topped])
+
+    def too_weak():
+        picture = Picture(SCREEN[0])
+        found = [(text.name, inked(picture.pixels(drawn(text.box))), TEXT) for text in texts]
+        found += [(f"icon of {name}", inked(picture.pixels(drawn(box))), ICON)
+                  for name, box in icons.items()]
+        return [(what, ratio) for what, ratio, least in found if ratio < least]
+
+    seen = []
+
+    def readable():
+        seen.append(too_weak())
+        return not seen[-1]
+
+    # The first picture may be of before the last change was drawn.
+    try:
+        until(readable, "all to be readable", timeout=5)
+    except AssertionError:
+        pytest.fail(f"too weak: {seen[-1]}")
+    return len(texts), len(icons)
+
+
+def test_live(large, backend):
+    backend.reply(status=bodies.status(threat_count=77), alerts=bodies.alerts(
+        *[bodies.alert(s, s, description=f"what {s} means") for s in SEVERITIES]))
+    panel = large()
+    panel.tree.wait_for("text", "OK")
+    for tab in TABS:
+        panel.show(tab)
+        texts, icons = check(panel, ("Quillmark Agent", "OK", "77", *BESIDE[tab]))
+        assert texts > 15 and icons >= 11
+
+
+def test_empty_inventory(large, backend):
+    backend.reply(inventory=bodies.inventory())
+    panel = large()
+    panel.show("Inventory")
+    panel.tree.wait_for("text", "Loading applications...")
+    check(panel)
+    backend.reply(**bodies.everyday())
+
+
+def test_offline(large, backend):
+    backend.stop()
+    try:
+        panel = large()
+        panel.tree.wait_for("text", "OFFLINE")
+        for tab, empty in (("Dashboard", None), ("Network", "No network connections detected"),
+                           ("Inventory", None), ("Alerts", "No threats detected")):
+            panel.show(tab)
+            check(panel, ("OFFLINE", "0") if tab != "Dashboard" else ("OFFLINE",), empty)
+    finally:
+        backend.start()
+
+
+def test_messages(large):
+    settings.write_config("not a section\n")
+    panel = large()
+    panel.show("Settings")
+    settings.fill(panel, settings.KEY, "k")
+    settings.press(panel, settings.SAVE)
+    settings.wait_for_message(panel, settings.SAVED)
+    check(panel, (*BESIDE["Settings"], settings.SAVED))
+    # A folder in the way of the file.
+    settings.clean_home()
+    (settings.CONFIG / "in the way").mkdir(parents=True)
+    settings.press(panel, settings.SAVE)
+    failed = until(lambda: settings.message(panel).startswith("❌") and settings.message(panel),
+                   "the save to fail")
+    check(panel, (*BESIDE["Settings"], failed))
+
+
+@pytest.mark.parametrize("name", GLYPHS)
+def test_glyph_under_the_pointer(large, name):
+    panel = large()
+    box = drawn(panel.tree.find("button", name).box)
+    hands.tool("xdotool", "mousemove", *map(str, box.centre))
+    hover = (0xE9, 0xEB, 0xEF)
+    until(lambda: hover in Picture(SCREEN[0]).colours(box), "the glyph to light up")
+    assert inked(Picture(SCREEN[0]).pixels(box)) >= ICON
