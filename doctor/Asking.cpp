@@ -16,15 +16,17 @@ namespace quillmark::doctor {
 
 std::vector<Asked> askAll(const std::string& token, const std::vector<std::string_view>& paths) {
   using Clock = std::chrono::steady_clock;
-  std::vector<Asked> all(paths.size());
+  std::vector<Asked> all;
+  all.reserve(paths.size());  // The places stay, while the answers come in.
   boost::asio::io_context context(1);
   const auto start = Clock::now();
 
-  for (std::size_t i = 0; i < paths.size(); ++i) {
-    auto request = requestTo(agentBaseUrl + std::string(paths[i])).value();
+  for (const auto path : paths) {
+    auto request = requestTo(agentBaseUrl + std::string(path)).value();
     request.method = "GET";
     request.token = token;
-    auto keep = [&asked = all[i], start](const std::exception_ptr& failure, HttpResult result) {
+    auto keep = [&asked = all.emplace_back(), start](const std::exception_ptr& failure,
+                                                     HttpResult result) {
       asked.took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
       try {
         if (failure) {

@@ -11,6 +11,22 @@
 #include "main/Renderer.h"
 
 namespace quillmark {
+namespace {
+
+/// Qt's own file dialog is a child of the window, not of the view that opened
+/// it. Destroying one crashes Qt 6.4 while assistive technology listens, so it
+/// is left to itself: closed, and no more than a few hundred kilobytes.
+void destroy(QQuickWindow* window) {
+  const auto children = window->children();
+  for (auto* const child : children) {
+    if (child->inherits("QQuickPopup")) {
+      child->setParent(nullptr);
+    }
+  }
+  delete window;
+}
+
+}  // namespace
 
 WindowGroup::WindowGroup(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
@@ -18,7 +34,14 @@ WindowGroup::WindowGroup(QQmlEngine& engine)
 WindowGroup::~WindowGroup() {
   for (auto* const window : std::as_const(windows_)) {
     window->disconnect(this);
-    delete window;
+  }
+  closed_.append(windows_);
+  destroyClosed();
+}
+
+void WindowGroup::destroyClosed() {
+  for (auto* const window : std::exchange(closed_, {})) {
+    destroy(window);
   }
 }
 
@@ -33,7 +56,9 @@ void WindowGroup::open() {
   connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
     if (!visible) {
       windows_.removeOne(window);
-      window->deleteLater();
+      closed_.append(window);
+      // Not now, for the window is in the midst of it.
+      QMetaObject::invokeMethod(this, &WindowGroup::destroyClosed, Qt::QueuedConnection);
     }
   });
 }

@@ -27,8 +27,11 @@ class WindowGroup final : public QObject {
   void present();
 
  private:
+  void destroyClosed();
+
   QQmlComponent component_;
   QList<QQuickWindow*> windows_;
+  QList<QQuickWindow*> closed_;  ///< hidden and about to go
 };
 
 }  // namespace quillmark
