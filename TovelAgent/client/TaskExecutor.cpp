@@ -29,6 +29,8 @@ TaskExecutor::~TaskExecutor() {
   currentPool = nullptr;
 }
 
+bool TaskExecutor::exists() { return currentPool.load() != nullptr; }
+
 boost::asio::any_io_executor TaskExecutor::current() { return currentPool.load()->get_executor(); }
 
 }  // namespace quillmark

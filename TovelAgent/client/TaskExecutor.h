@@ -20,6 +20,9 @@ class TaskExecutor final {
   TaskExecutor(const TaskExecutor&) = delete;
   TaskExecutor& operator=(const TaskExecutor&) = delete;
 
+  /// Whether the one instance lives. Any thread.
+  [[nodiscard]] static bool exists();
+
   /// The executor of the one instance, which must exist. Any thread.
   [[nodiscard]] static boost::asio::any_io_executor current();
 

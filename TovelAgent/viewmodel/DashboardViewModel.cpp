@@ -97,8 +97,11 @@ void DashboardViewModel::assign(PollResult result) {
   publish(networkConnections_, std::move(result.networkConnections),
           &DashboardViewModel::networkConnectionsChanged);
   publish(inventory_, std::move(result.inventory), &DashboardViewModel::inventoryChanged);
-  // A long list takes longer to free than a window may take to answer.
-  boost::asio::post(TaskExecutor::current(), [before = std::move(before)] {});
+  // A long list takes longer to free than a window may take to answer. At the
+  // very end a poll may arrive after the executor has gone.
+  if (TaskExecutor::exists()) {
+    boost::asio::post(TaskExecutor::current(), [before = std::move(before)] {});
+  }
 }
 
 template <class Value>
