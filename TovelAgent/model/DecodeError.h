@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace quillmark {
 
@@ -14,6 +15,21 @@ enum class DecodeFailure {
   typeMismatch,   ///< a value of another JSON type
   dataCorrupted,  ///< no JSON, or a number out of its field's range
 };
+
+/// In words, such as "type mismatch". Any thread.
+[[nodiscard]] constexpr std::string_view nameOf(DecodeFailure kind) {
+  switch (kind) {
+    case DecodeFailure::keyNotFound:
+      return "key not found";
+    case DecodeFailure::valueNotFound:
+      return "value not found";
+    case DecodeFailure::typeMismatch:
+      return "type mismatch";
+    case DecodeFailure::dataCorrupted:
+      break;
+  }
+  return "data corrupted";
+}
 
 /// The first failure of a decode.
 struct DecodeError {

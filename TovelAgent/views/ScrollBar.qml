@@ -12,6 +12,7 @@ MouseArea {
 
     // Where on the thumb it was taken.
     property real grip: 0
+    readonly property int margin: 3
 
     parent: target
     anchors.top: parent?.top
@@ -39,19 +40,19 @@ MouseArea {
     Rectangle {
         id: thumb
 
-        readonly property real way: bar.height - 2 * 3 - height
+        readonly property real way: bar.height - 2 * bar.margin - height
         readonly property real share: bar.target.visibleArea.yPosition / (1 - bar.target.visibleArea.heightRatio)
 
         function moveTo(top: real) {
-            const share = Math.max(0, Math.min(1, (top - 3) / way));
+            const share = Math.max(0, Math.min(1, (top - bar.margin) / way));
             bar.target.contentY = bar.target.originY + share * (bar.target.contentHeight - bar.target.height);
         }
 
         // At the window's edge, where the pointer resizes, it could not be held.
-        x: 3
-        width: bar.width - 3 - 5
-        y: 3 + Math.max(0, Math.min(1, share)) * way
-        height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * 3))
+        x: bar.margin
+        width: bar.width - bar.margin - 5
+        y: bar.margin + Math.max(0, Math.min(1, share)) * way
+        height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * bar.margin))
         radius: width / 2
         color: Theme.scrollBar
         opacity: bar.pressed || bar.containsMouse ? 1 : 0.6

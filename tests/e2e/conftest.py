@@ -91,6 +91,19 @@ def fresh_home():
 
 
 @pytest.fixture
+def agent_panel(launch_alone, fresh_home):
+    """A panel on its Settings tab, with a folder for logs and no agent yet."""
+    settings.LOGS.mkdir(parents=True)
+    panel = launch_alone()
+    panel.show("Settings")
+    assert settings.status(panel) == settings.NOT_RUNNING
+    yield panel
+    # Whatever was done, the panel lives and has reaped what it started.
+    assert not panel.ended()
+    assert not [p for p in processes.below(panel.pid) if p.state == "Z"]
+
+
+@pytest.fixture
 def tab(panel):
     """The Settings tab as it comes up without a configuration."""
     settings.clean_home()

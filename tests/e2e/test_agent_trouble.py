@@ -9,7 +9,7 @@ import time
 import pytest
 
 from harness import hands, processes, settings
-from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP
+from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP, status
 from harness.waiting import never, until
 
 pytestmark = pytest.mark.usefixtures("fresh_home")
@@ -18,19 +18,8 @@ IGNORES = "trap '' TERM; while :; do sleep 1; done"
 
 
 @pytest.fixture
-def panel(launch_alone):
-    LOGS.mkdir(parents=True)
-    panel = launch_alone()
-    panel.show("Settings")
-    assert status(panel) == NOT_RUNNING
-    yield panel
-    assert not panel.ended()
-    assert not [p for p in processes.below(panel.pid) if p.state == "Z"]
-
-
-def status(panel):
-    (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
-    return found
+def panel(agent_panel):
+    return agent_panel
 
 
 def probe():

@@ -10,7 +10,7 @@ import pytest
 
 from harness import colours, hands, processes, settings
 from harness.screen import Picture
-from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP
+from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP, status
 from harness.waiting import never, until
 from harness.window import Box
 
@@ -18,20 +18,8 @@ pytestmark = pytest.mark.usefixtures("fresh_home")
 
 
 @pytest.fixture
-def panel(launch_alone):
-    LOGS.mkdir(parents=True)
-    panel = launch_alone()
-    panel.show("Settings")
-    assert status(panel) == NOT_RUNNING
-    yield panel
-    # Whatever was done, the panel lives and has reaped what it started.
-    assert not panel.ended()
-    assert not [p for p in processes.below(panel.pid) if p.state == "Z"]
-
-
-def status(panel):
-    (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
-    return found
+def panel(agent_panel):
+    return agent_panel
 
 
 def start(panel):

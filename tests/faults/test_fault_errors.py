@@ -22,11 +22,7 @@ def errors(call):
         yield "error=EINTR"
 
 
-CASES = [
-    pytest.param(name, fault, id=f"{name}-{fault}")
-    for name, one in SCENES.items()
-    for fault in traced.faults_of(one, errors)
-]
+CASES = traced.cases(SCENES, errors)
 
 
 def check(one, *faults):

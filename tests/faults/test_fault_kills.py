@@ -15,11 +15,7 @@ def kill(_call):
     yield "signal=SIGKILL"
 
 
-CASES = [
-    pytest.param(name, fault, id=f"{name}-{fault}")
-    for name, one in SCENES.items()
-    for fault in traced.faults_of(one, kill)
-]
+CASES = traced.cases(SCENES, kill)
 
 
 def check(one, *faults):

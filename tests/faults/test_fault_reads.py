@@ -67,11 +67,7 @@ READINGS = {
 
 
 def cases(*effects):
-    return [
-        pytest.param(name, fault, id=f"{name}-{fault}")
-        for name, reading in READINGS.items()
-        for fault in traced.faults_of(reading, lambda call: effects)
-    ]
+    return traced.cases(READINGS, lambda call: effects)
 
 
 def decides(fault):

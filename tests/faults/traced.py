@@ -9,6 +9,8 @@ import subprocess
 import tempfile
 from typing import NamedTuple
 
+import pytest
+
 # The driver frames the action by these.
 FRAME = "getppid"
 # For memory and threads; they touch no file, and to fail or kill the process
@@ -97,6 +99,15 @@ def run(command, home, faults=()):
     killed = outcome.returncode in (-9, 137)
     assert killed or outcome.returncode == 0, f"ended with {outcome.returncode}:\n{text[-3000:]}"
     return Run(outcome.stdout.strip(), killed, *_calls(text))
+
+
+def cases(scenes, effects):
+    """Every fault of every scene, as parameters `name, fault` of a test."""
+    return [
+        pytest.param(name, fault, id=f"{name}-{fault}")
+        for name, scene in scenes.items()
+        for fault in faults_of(scene, effects)
+    ]
 
 
 def faults_of(scene, effects):

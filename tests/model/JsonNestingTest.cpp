@@ -7,18 +7,11 @@
 #include <gtest/gtest.h>
 
 #include "model/Outcome.h"
+#include "model/Repeated.h"
 #include "model/Samples.h"
 
 namespace quillmark::test {
 namespace {
-
-std::string repeated(int count, const std::string& piece) {
-  std::string text;
-  for (int i = 0; i < count; ++i) {
-    text += piece;
-  }
-  return text;
-}
 
 std::string nestedArrays(int depth) { return repeated(depth, "[") + repeated(depth, "]"); }
 

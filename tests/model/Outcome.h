@@ -12,20 +12,6 @@
 
 namespace quillmark::test {
 
-inline std::string_view nameOf(DecodeFailure kind) {
-  switch (kind) {
-    case DecodeFailure::keyNotFound:
-      return "key not found";
-    case DecodeFailure::valueNotFound:
-      return "value not found";
-    case DecodeFailure::typeMismatch:
-      return "type mismatch";
-    case DecodeFailure::dataCorrupted:
-      break;
-  }
-  return "data corrupted";
-}
-
 /// A failure, for the eyes.
 inline std::string toText(const DecodeError& error) {
   return std::string(nameOf(error.kind)) + " at \"" + error.path + "\": " + error.detail;

@@ -32,6 +32,12 @@ RUNNING = "Agent is running"
 NOT_RUNNING = "Agent is not running"
 
 
+def status(panel):
+    """Whether the tab says that the agent runs."""
+    (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
+    return found
+
+
 def clean_home():
     """As before the first run."""
     for folder in (CONFIG.parent.parent, OLD_CONFIG.parent):

@@ -1,18 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "model/Repeated.h"
 #include "model/json/JsonCase.h"
 
 namespace quillmark::test {
 namespace {
-
-std::string repeated(int count, const std::string& piece) {
-  std::string text;
-  for (int i = 0; i < count; ++i) {
-    text += piece;
-  }
-  return text;
-}
 
 JsonCase arrays(int depth) {
   List verdict;
