@@ -20,12 +20,12 @@
 namespace quillmark::doctor {
 namespace {
 
-struct Place {
+struct ConfigPlace {
   std::string path;
   boost::system::result<std::string> text;
 };
 
-Finding judgePlace(const Place& place, const char* check, bool isTaken, const Harmless& harmless) {
+Finding judge(const ConfigPlace& place, const char* check, bool isTaken, const Harmless& harmless) {
   Finding finding;
   finding.check = check;
   const auto path = harmless(place.path);
@@ -82,13 +82,13 @@ void hideKeys(std::string_view text, const ConfigToml& toml, Harmless& harmless)
 
 void checkConfig(Findings& findings, Harmless& harmless) {
   static constexpr std::array checks = {"config", "config-old"};
-  std::vector<Place> places;
+  std::vector<ConfigPlace> places;
   for (const auto& path : configFilePaths()) {
     places.push_back({path, readTextFile(path, maxConfigBytes)});
   }
-  const Place* taken = nullptr;
+  const ConfigPlace* taken = nullptr;
   for (std::size_t i = 0; i < places.size(); ++i) {
-    findings.push_back(judgePlace(places[i], checks.at(i), taken != nullptr, harmless));
+    findings.push_back(judge(places[i], checks.at(i), taken != nullptr, harmless));
     taken = taken == nullptr && places[i].text ? &places[i] : taken;
   }
   if (taken == nullptr) {

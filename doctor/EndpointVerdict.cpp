@@ -4,6 +4,7 @@
 #include "EndpointVerdict.h"
 
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 #include "agentctl/AgentProcess.h"
@@ -37,20 +38,6 @@ Explained explained(HttpFailure failure) {
   return {"too large", "the answer is larger than the panel takes"};
 }
 
-const char* nameOf(DecodeFailure kind) {
-  switch (kind) {
-    case DecodeFailure::keyNotFound:
-      return "key not found";
-    case DecodeFailure::valueNotFound:
-      return "value not found";
-    case DecodeFailure::typeMismatch:
-      return "type mismatch";
-    case DecodeFailure::dataCorrupted:
-      break;
-  }
-  return "data corrupted";
-}
-
 /// Where to begin when the answer is none of an agent.
 std::string otherwise(const Port& port, const std::string& step) {
   return port.stranger ? "End process " + std::to_string(*port.stranger) +
@@ -66,9 +53,9 @@ Verdict begun(const Endpoint& endpoint) {
   return verdict;
 }
 
-class Judge final {
+class EndpointJudge final {
  public:
-  Judge(const Endpoint& endpoint, const Port& port, const Harmless& harmless)
+  EndpointJudge(const Endpoint& endpoint, const Port& port, const Harmless& harmless)
       : endpoint_(endpoint), port_(port), harmless_(harmless), verdict_(begun(endpoint)) {}
 
   [[nodiscard]] Verdict operator()(const Asked& asked) {
@@ -98,7 +85,7 @@ class Judge final {
   }
 
  private:
-  void fail(const char* fact, const std::string& words, const std::string& step) {
+  void fail(std::string_view fact, const std::string& words, const std::string& step) {
     verdict_.finding.facts["failure"] = fact;
     verdict_.finding.text += words;
     verdict_.finding.mark = Mark::wrong;
@@ -133,7 +120,8 @@ class Judge final {
     verdict_.finding.facts["failure_path"] = path;
     verdict_.finding.facts["failure_detail"] = detail;
     const auto fault = (path.empty() ? "the body" : path) + ": " + detail;
-    fail(nameOf(error.kind), fault + " (" + nameOf(error.kind) + ')', stepAfter(httpStatus, fault));
+    const auto kind = nameOf(error.kind);
+    fail(kind, fault + " (" + std::string(kind) + ')', stepAfter(httpStatus, fault));
     if (httpStatus != httpOk) {
       verdict_.reason = std::string(endpoint_.path) + " brings nothing to show (HTTP " +
                         std::to_string(httpStatus) + ')';
@@ -167,7 +155,7 @@ Verdict notAsked(const Endpoint& endpoint, const std::string& why) {
 
 Verdict judge(const Endpoint& endpoint, const Asked& asked, const Port& port,
               const Harmless& harmless) {
-  return Judge(endpoint, port, harmless)(asked);
+  return EndpointJudge(endpoint, port, harmless)(asked);
 }
 
 }  // namespace quillmark::doctor

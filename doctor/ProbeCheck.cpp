@@ -45,9 +45,10 @@ const char* factOf(Kind kind) {
   return "other";
 }
 
-class Judge final {
+class ProcessJudge final {
  public:
-  Judge(bool anyAgent, const Harmless& harmless) : anyAgent_(anyAgent), harmless_(harmless) {}
+  ProcessJudge(bool anyAgent, const Harmless& harmless)
+      : anyAgent_(anyAgent), harmless_(harmless) {}
 
   Finding operator()(const CommandLine& process) {
     Finding finding;
@@ -98,7 +99,7 @@ void checkProbe(Findings& findings, const Port& port, const Harmless& harmless) 
   const bool anyAgent = std::any_of(found.begin(), found.end(), [](const CommandLine& process) {
     return kindOf(process) == Kind::agent;
   });
-  Judge judge(anyAgent, harmless);
+  ProcessJudge judge(anyAgent, harmless);
   for (const auto& process : found) {
     findings.push_back(judge(process));
   }

@@ -14,7 +14,7 @@
 namespace quillmark::doctor {
 namespace {
 
-struct Place {
+struct TokenPlace {
   std::string path;
   boost::system::result<std::string> token;
   enum class Owner { system, user } owner;
@@ -24,7 +24,7 @@ enum class Turn { counts, comesLater, passedOver };
 
 constexpr auto makeOne = "Start the agent, which makes its token, then start the panel again.";
 
-void sayMode(Finding& finding, const Place& place, const std::string& shownPath) {
+void sayMode(Finding& finding, const TokenPlace& place, const std::string& shownPath) {
   const auto mode = modeOf(place.path);
   if (!mode) {
     return;
@@ -35,7 +35,7 @@ void sayMode(Finding& finding, const Place& place, const std::string& shownPath)
   }
   const auto fault = "mode " + modeText(*mode) + " lets every user read it";
   // Root's agent may have to open its token to the panel's user; nobody's own has to.
-  if (place.owner == Place::Owner::system) {
+  if (place.owner == TokenPlace::Owner::system) {
     finding.say(Mark::note, fault,
                 "Open " + shownPath + " to the panel's user alone, by a group (mode 0640).");
   } else {
@@ -58,7 +58,7 @@ std::string sayContents(Finding& finding, const std::string& token, const std::s
   return "usable";
 }
 
-Finding judge(const Place& place, Turn turn, const char* check, const Harmless& harmless) {
+Finding judge(const TokenPlace& place, Turn turn, const char* check, const Harmless& harmless) {
   Finding finding;
   finding.check = check;
   const std::string path = harmless(place.path);
@@ -89,7 +89,7 @@ Finding judge(const Place& place, Turn turn, const char* check, const Harmless& 
   return finding;
 }
 
-TokenInUse choose(const std::vector<Place>& places) {
+TokenInUse choose(const std::vector<TokenPlace>& places) {
   for (const auto& place : places) {
     if (!place.token) {
       continue;
@@ -102,7 +102,7 @@ TokenInUse choose(const std::vector<Place>& places) {
   return {std::nullopt, {}, "there is no token that the panel can read"};
 }
 
-Finding summary(const TokenInUse& inUse, const std::vector<Place>& places,
+Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
                 const Harmless& harmless) {
   Finding finding;
   finding.check = "token";
@@ -127,10 +127,10 @@ Finding summary(const TokenInUse& inUse, const std::vector<Place>& places,
 
 TokenInUse checkTokens(Findings& findings, Harmless& harmless) {
   static constexpr std::array checks = {"token-system", "token-home"};
-  std::vector<Place> places;
+  std::vector<TokenPlace> places;
   for (const auto& path : accessTokenPaths()) {
-    places.push_back(
-        {path, readTokenFile(path), places.empty() ? Place::Owner::system : Place::Owner::user});
+    places.push_back({path, readTokenFile(path),
+                      places.empty() ? TokenPlace::Owner::system : TokenPlace::Owner::user});
     if (places.back().token) {
       harmless.hide(*places.back().token);
     }

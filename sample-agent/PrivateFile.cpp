@@ -19,7 +19,6 @@ namespace {
 
 using boost::system::error_code;
 
-constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t ownerOnlyFolder = S_IRWXU;
 
 error_code lastError() { return {errno, boost::system::system_category()}; }

@@ -7,9 +7,14 @@
 #include <string>
 #include <string_view>
 
+#include <sys/stat.h>
+
 #include <boost/system/error_code.hpp>
 
 namespace quillmark::sample {
+
+/// The mode of a file that nobody but its owner reads.
+inline constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
 /// `count` random bytes (256 at most) as lower-case hexadecimal digits.
 [[nodiscard]] std::string randomHex(std::size_t count);

@@ -27,7 +27,7 @@ using ErrorCode = boost::system::error_code;
 /// The open connections by their number, and so the oldest first.
 using Connections = std::map<std::uint64_t, std::shared_ptr<tcp::socket>>;
 
-void close(tcp::socket& socket) {
+void hangUp(tcp::socket& socket) {
   ErrorCode ignored;
   socket.close(ignored);
 }
@@ -53,7 +53,7 @@ struct Server::State {
   /// that has been here for longest.
   void makeRoom() {
     while (connections.size() >= limits.connections) {
-      close(*connections.begin()->second);
+      hangUp(*connections.begin()->second);
       connections.erase(connections.begin());
     }
   }
@@ -87,7 +87,7 @@ asio::awaitable<void> Server::State::serve(std::shared_ptr<State> state,
   asio::steady_timer deadline(socket->get_executor(), state->limits.deadline);
   deadline.async_wait([socket](const ErrorCode& cancelled) {
     if (!cancelled) {
-      close(*socket);
+      hangUp(*socket);
     }
   });
 

@@ -27,7 +27,6 @@ using TokenResult = boost::system::result<std::string, Failure>;
 namespace errc = boost::system::errc;
 
 constexpr std::size_t tokenBytes = 32;
-constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
 Failure failure(const std::string& path, const error_code& error) {
   return {path + ": " + error.message()};

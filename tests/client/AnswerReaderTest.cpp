@@ -43,7 +43,7 @@ testing::AssertionResult isSameInPieces(const std::string& answer,
 }
 
 const std::string ok = "HTTP/1.1 200 OK\r\n";
-const std::string chunked = ok + "Transfer-Encoding: chunked\r\n\r\n";
+const std::string chunkedHeader = ok + "Transfer-Encoding: chunked\r\n\r\n";
 
 TEST(AnswerReaderInPieces, ReadsTheSameBody) {
   EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 4\r\n\r\nbody", "body"));
@@ -53,21 +53,21 @@ TEST(AnswerReaderInPieces, ReadsTheSameBody) {
 }
 
 TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
-  EXPECT_TRUE(isSameInPieces(chunked + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
-  EXPECT_TRUE(isSameInPieces(chunked + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
 }
 
 // The size of the last chunk is then the first thing of the body.
 TEST(AnswerReaderInPieces, ReadsNoChunks) {
-  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n\r\n", ""));
-  EXPECT_TRUE(isSameInPieces(chunked + "0\r\nX: y\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\nX: y\r\n\r\n", ""));
 }
 
 TEST(AnswerReaderInPieces, RefusesTheSame) {
-  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunked + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunked + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunked + "4\r\nbody\r\n0\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "4\r\nbody\r\n0\r\n", std::nullopt));
   EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 5\r\n\r\nbody", std::nullopt));
   EXPECT_TRUE(isSameInPieces("HTTP/1.1 ", std::nullopt));
 }

@@ -13,12 +13,12 @@ using namespace std::string_literals;
 using enum HostileAnswer::Yields;
 using Answers = std::vector<HostileAnswer>;
 
-const std::string ok = "HTTP/1.1 200 OK\r\n";
+const std::string statusLine = "HTTP/1.1 200 OK\r\n";
 
 /// A 200 answer whose framing is these fields alone.
 HostileAnswer framed(const std::string& fields, const std::string& rest,
                      HostileAnswer::Yields yields) {
-  return {fields + " " + rest.substr(0, 20), ok + fields + "\r\n\r\n" + rest, yields};
+  return {fields + " " + rest.substr(0, 20), statusLine + fields + "\r\n\r\n" + rest, yields};
 }
 
 std::string wide(const std::string& text, bool bigEnd) {

@@ -17,7 +17,7 @@ namespace asio = boost::asio;
 
 class HttpBroken : public WithExecutor {};
 
-const std::string chunked =
+const std::string smallChunkedAnswer =
     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n4\r\nbody\r\n0\r\n\r\n";
 
 TEST_F(HttpBroken, ServerThatIsNotThere) {
@@ -32,7 +32,7 @@ TEST_F(HttpBroken, ServerThatClosesAtOnce) { EXPECT_EQ(exchangeFor(""), noBody);
 
 TEST_F(HttpBroken, AnswerThatBreaksOffAnywhere) {
   const Rest close = [](Connection&, std::string_view) {};
-  for (const auto& answer : {okAnswer("body"), chunked}) {
+  for (const auto& answer : {okAnswer("body"), smallChunkedAnswer}) {
     for (const auto& body : exchangesCutAtEveryByte(answer, close)) {
       EXPECT_EQ(body, noBody);
     }
@@ -41,7 +41,8 @@ TEST_F(HttpBroken, AnswerThatBreaksOffAnywhere) {
 
 TEST_F(HttpBroken, AnswerThatIsResetAnywhere) {
   const Rest reset = [](Connection& connection, std::string_view) { connection.reset(); };
-  for (const auto& answer : {okAnswer("body"), chunked, "HTTP/1.1 200 OK\r\n\r\nbody"s}) {
+  for (const auto& answer :
+       {okAnswer("body"), smallChunkedAnswer, "HTTP/1.1 200 OK\r\n\r\nbody"s}) {
     for (const auto& body : exchangesCutAtEveryByte(answer, reset)) {
       EXPECT_EQ(body, noBody);
     }

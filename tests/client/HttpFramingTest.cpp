@@ -12,7 +12,7 @@ namespace {
 
 class HttpFraming : public WithExecutor {};
 
-const std::string chunked =
+const std::string chunkedAnswer =
     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n"
     "5;name=value\r\n{\"a\":\r\n"
     "1\r\n1\r\n"
@@ -27,7 +27,7 @@ TEST_F(HttpFraming, IsALength) {
 }
 
 TEST_F(HttpFraming, IsChunks) {
-  EXPECT_EQ(exchangeFor(chunked), chunkedBody);
+  EXPECT_EQ(exchangeFor(chunkedAnswer), chunkedBody);
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n\r\n"), "");
 }
 
@@ -42,7 +42,7 @@ TEST_F(HttpFraming, HoldsWhereverTheAnswerIsCut) {
   for (const auto& body : exchangesCutAtEveryByte(okAnswer("{\"a\":1}"), goOn)) {
     EXPECT_EQ(body, "{\"a\":1}");
   }
-  for (const auto& body : exchangesCutAtEveryByte(chunked, goOn)) {
+  for (const auto& body : exchangesCutAtEveryByte(chunkedAnswer, goOn)) {
     EXPECT_EQ(body, chunkedBody);
   }
   for (const auto& body : exchangesCutAtEveryByte("HTTP/1.1 200 OK\r\n\r\n{\"a\":1}", goOn)) {
@@ -51,7 +51,7 @@ TEST_F(HttpFraming, HoldsWhereverTheAnswerIsCut) {
 }
 
 TEST_F(HttpFraming, HoldsByteByByte) {
-  for (const auto& answer : {okAnswer(chunkedBody), chunked}) {
+  for (const auto& answer : {okAnswer(chunkedBody), chunkedAnswer}) {
     EXPECT_EQ(exchangeWith([&](Connection& connection) {
                 for (const char byte : answer) {
                   connection.send({&byte, 1});
@@ -66,7 +66,7 @@ TEST_F(HttpFraming, EndsAnAnswerOnAConnectionThatIsKept) {
   EXPECT_EQ(exchangeForKept(okAnswer("body")), "body");
   EXPECT_EQ(exchangeForKept(answer("200 OK", "body", "Connection: keep-alive\r\n")), "body");
   EXPECT_EQ(exchangeForKept(okAnswer("")), "");
-  EXPECT_EQ(exchangeForKept(chunked), chunkedBody);
+  EXPECT_EQ(exchangeForKept(chunkedAnswer), chunkedBody);
 }
 
 TEST_F(HttpFraming, EndsAnAnswerThatHasNoBodyByItsStatus) {
@@ -77,7 +77,7 @@ TEST_F(HttpFraming, EndsAnAnswerThatHasNoBodyByItsStatus) {
 TEST_F(HttpFraming, LeavesAloneWhatFollowsTheAnswer) {
   EXPECT_EQ(exchangeFor(okAnswer("body") + "more"), "body");
   EXPECT_EQ(exchangeFor(okAnswer("body") + okAnswer("another")), "body");
-  EXPECT_EQ(exchangeFor(chunked + chunked), chunkedBody);
+  EXPECT_EQ(exchangeFor(chunkedAnswer + chunkedAnswer), chunkedBody);
 }
 
 TEST_F(HttpFraming, CarriesAnyBytes) {

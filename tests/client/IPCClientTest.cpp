@@ -33,7 +33,7 @@ class IPCClientGets : public WithTokenFiles {
   }
 };
 
-constexpr auto nothing = std::nullopt;
+constexpr auto noRecord = std::nullopt;
 
 TEST_F(IPCClientGets, YieldTheRecords) {
   const Backend backend(goodAnswers());
@@ -74,7 +74,7 @@ TEST_F(IPCClientGets, AskForOneTargetEach) {
 TEST_F(IPCClientGets, TellAnEmptyListFromNone) {
   EXPECT_EQ(
       getAllFor(okAnswer(R"({"alerts":[],"connections":[]})")),
-      (AllGets{nothing, std::vector<ThreatAlert>{}, std::vector<NetworkConnection>{}, nothing}));
+      (AllGets{noRecord, std::vector<ThreatAlert>{}, std::vector<NetworkConnection>{}, noRecord}));
 }
 
 TEST_F(IPCClientGets, KeepTheAgentsOrder) {
@@ -100,7 +100,7 @@ TEST_F(IPCClientGets, YieldNothingForAnErrorBody) {
 // The body alone counts.
 TEST_F(IPCClientGets, YieldTheRecordWhateverTheStatus) {
   for (const std::string status : {"401 Unauthorized", "404 Not Found", "500 Oops", "302 Found"}) {
-    EXPECT_NE(getAllFor(answer(status, statusBody)).status, nothing) << status;
+    EXPECT_NE(getAllFor(answer(status, statusBody)).status, noRecord) << status;
   }
 }
 
@@ -111,10 +111,10 @@ TEST_F(IPCClientGets, YieldNothingForAStatusWithoutTheLastScan) {
   const Backend backend(answers);
   const IPCClient client;
   const auto gets = getAll(client);
-  EXPECT_EQ(gets.status, nothing);
-  EXPECT_NE(gets.alerts, nothing);
-  EXPECT_NE(gets.network, nothing);
-  EXPECT_NE(gets.inventory, nothing);
+  EXPECT_EQ(gets.status, noRecord);
+  EXPECT_NE(gets.alerts, noRecord);
+  EXPECT_NE(gets.network, noRecord);
+  EXPECT_NE(gets.inventory, noRecord);
 }
 
 TEST_F(IPCClientGets, YieldNothingForOneBadElement) {

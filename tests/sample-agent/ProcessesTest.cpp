@@ -139,7 +139,7 @@ TEST(ReadProcesses, FindsTheInnermostServiceUnit) {
 }
 
 TEST(ReadProcesses, FindsThisProcessAndItsSocket) {
-  const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   ASSERT_GE(descriptor, 0);
   struct stat status {};
   ASSERT_EQ(fstat(descriptor, &status), 0);

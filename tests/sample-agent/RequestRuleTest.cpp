@@ -13,20 +13,20 @@
 namespace quillmark::sample {
 namespace {
 
-constexpr std::string_view token = "0123456789abcdef";
+constexpr std::string_view rightToken = "0123456789abcdef";
 
-const Snapshot snapshot{"the status", "the alerts", "the network", "the inventory"};
+const Snapshot served{"the status", "the alerts", "the network", "the inventory"};
 
 Request good() {
   Request request;
   request.method = "GET";
   request.target = "/api/status";
   request.hosts = {"127.0.0.1:7823"};
-  request.tokens = {token};
+  request.tokens = {rightToken};
   return request;
 }
 
-unsigned statusOf(const Request& request) { return answerTo(request, token, snapshot).status; }
+unsigned statusOf(const Request& request) { return answerTo(request, rightToken, served).status; }
 
 TEST(AnswerTo, GivesEachPathItsBody) {
   const std::map<std::string_view, std::string_view> bodies = {{"/api/status", "the status"},
@@ -37,7 +37,7 @@ TEST(AnswerTo, GivesEachPathItsBody) {
   for (const auto& [target, body] : bodies) {
     auto request = good();
     request.target = target;
-    const auto answer = answerTo(request, token, snapshot);
+    const auto answer = answerTo(request, rightToken, served);
     EXPECT_EQ(answer.status, 200U) << target;
     EXPECT_EQ(answer.body, body);
     EXPECT_EQ(answer.fieldName, "");
@@ -68,17 +68,17 @@ TEST(AnswerTo, WantsExactlyOneHost) {
 TEST(AnswerTo, WantsExactlyTheToken) {
   auto request = good();
   for (const std::string_view wrong :
-       {std::string_view(), token.substr(1), token.substr(0, 15),
+       {std::string_view(), rightToken.substr(1), rightToken.substr(0, 15),
         std::string_view("0123456789abcdeF"), std::string_view("x123456789abcdef"),
         std::string_view("0123456789abcdef ")}) {
     request.tokens = {wrong};
-    const auto answer = answerTo(request, token, snapshot);
+    const auto answer = answerTo(request, rightToken, served);
     EXPECT_EQ(answer.status, 401U) << wrong;
     EXPECT_EQ(answer.fieldName, "WWW-Authenticate");
   }
   request.tokens = {};
   EXPECT_EQ(statusOf(request), 401U);
-  request.tokens = {token, token};
+  request.tokens = {rightToken, rightToken};
   EXPECT_EQ(statusOf(request), 401U);
 }
 
@@ -96,7 +96,7 @@ TEST(AnswerTo, ServesGetOnly) {
   auto request = good();
   for (const auto* method : {"POST", "PUT", "DELETE", "HEAD", "OPTIONS", "get", ""}) {
     request.method = method;
-    const auto answer = answerTo(request, token, snapshot);
+    const auto answer = answerTo(request, rightToken, served);
     EXPECT_EQ(answer.status, 405U) << method;
     EXPECT_EQ(answer.fieldName, "Allow");
     EXPECT_EQ(answer.fieldValue, "GET");
@@ -127,15 +127,15 @@ TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNoRecord) {
   auto request = good();
   std::vector<Answer> errors = {malformedAnswer(), headerTooLargeAnswer()};
   request.body = Request::Body::present;
-  errors.push_back(answerTo(request, token, snapshot));
+  errors.push_back(answerTo(request, rightToken, served));
   request.method = "POST";
-  errors.push_back(answerTo(request, token, snapshot));
+  errors.push_back(answerTo(request, rightToken, served));
   request.target = "/nothing";
-  errors.push_back(answerTo(request, token, snapshot));
+  errors.push_back(answerTo(request, rightToken, served));
   request.tokens = {};
-  errors.push_back(answerTo(request, token, snapshot));
+  errors.push_back(answerTo(request, rightToken, served));
   request.hosts = {"evil.example"};
-  errors.push_back(answerTo(request, token, snapshot));
+  errors.push_back(answerTo(request, rightToken, served));
 
   for (const auto& error : errors) {
     EXPECT_TRUE(error.body.starts_with(R"({"error":")")) << error.body;

@@ -20,7 +20,7 @@ using namespace test;
 using boost::asio::ip::tcp;
 using std::chrono::milliseconds;
 
-const std::string token = "0123456789abcdef0123456789abcdef";
+const std::string agentToken = "0123456789abcdef0123456789abcdef";
 
 std::shared_ptr<const Snapshot> snapshotWith(std::string status) {
   return std::make_shared<const Snapshot>(Snapshot{std::move(status), "alerts", "network", "apps"});
@@ -34,7 +34,7 @@ class RunningServer {
   explicit RunningServer(const ServerLimits& limits = {}, bool isReady = true)
       : acceptor_(context_, tcp::endpoint(boost::asio::ip::address_v4::loopback(), 0)),
         port_(acceptor_.local_endpoint().port()),
-        server_(std::move(acceptor_), token, limits) {
+        server_(std::move(acceptor_), agentToken, limits) {
     if (isReady) {
       server_.publish(snapshotWith("first"));
     }
@@ -62,7 +62,7 @@ class RunningServer {
 
 std::string goodRequest() {
   RequestText request;
-  request.token = token;
+  request.token = agentToken;
   return request.text();
 }
 
@@ -99,7 +99,7 @@ TEST(Server, TellsErrorsApart) {
     return statusOf(ask(server.port(), request.text()));
   };
   RequestText good;
-  good.token = token;
+  good.token = agentToken;
   auto request = good;
   request.token = "wrong";
   EXPECT_EQ(status(request), 401);
@@ -119,7 +119,7 @@ TEST(Server, TellsErrorsApart) {
   request.moreFields = "Host: 127.0.0.1:7823\r\n";
   EXPECT_EQ(status(request), 400) << "two hosts";
   request = good;
-  request.moreFields = "X-Agent-Token: " + token + "\r\n";
+  request.moreFields = "X-Agent-Token: " + agentToken + "\r\n";
   EXPECT_EQ(status(request), 401) << "two tokens";
   request = good;
   request.moreFields = "Content-Length: 3\r\n";
@@ -140,7 +140,7 @@ TEST(Server, NamesTheFieldsThatAnErrorAsksFor) {
   RequestText request;
   EXPECT_NE(ask(server.port(), request.text()).find("\r\nWWW-Authenticate: X-Agent-Token\r\n"),
             std::string::npos);
-  request.token = token;
+  request.token = agentToken;
   request.method = "POST";
   EXPECT_NE(ask(server.port(), request.text()).find("\r\nAllow: GET\r\n"), std::string::npos);
 }
@@ -148,7 +148,7 @@ TEST(Server, NamesTheFieldsThatAnErrorAsksFor) {
 TEST(Server, SendsNoBodyToHead) {
   const RunningServer server;
   RequestText request;
-  request.token = token;
+  request.token = agentToken;
   request.method = "HEAD";
   const auto answer = ask(server.port(), request.text());
   EXPECT_EQ(statusOf(answer), 405);
@@ -166,7 +166,7 @@ TEST(Server, AnswersBytesThatMakeNoRequest) {
 TEST(Server, RefusesAHeaderThatIsTooLarge) {
   const RunningServer server;
   RequestText request;
-  request.token = token;
+  request.token = agentToken;
   request.moreFields = "X-Filler: " + filler(7000) + "\r\n";
   EXPECT_EQ(statusOf(ask(server.port(), request.text())), 200);
   request.moreFields = "X-Filler: " + filler(9000) + "\r\n";

@@ -28,17 +28,8 @@ std::size_t countOf(std::string_view piece, std::string_view text) {
 
 /// Clients that mean harm, each with the right token: were one of them taken
 /// for two, or for another one, it would get data.
-class Abuse : public ProgramTest {
+class Abuse : public RunningProgramTest {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    if (!HasFatalFailure()) {
-      agent_ = std::make_unique<AgentProgram>();
-      ASSERT_TRUE(agent_->waitUntilReady()) << agent_->errors();
-      good_.token = token();
-    }
-  }
-
   void TearDown() override {
     EXPECT_EQ(statusOf(get("/api/status")), 200) << "a good client is served as before";
     EXPECT_EQ(agent_->stop(SIGTERM), 0);
@@ -66,9 +57,6 @@ class Abuse : public ProgramTest {
   [[nodiscard]] std::string authentic() const {
     return "Host: 127.0.0.1:7823\r\nX-Agent-Token: " + good_.token + "\r\n";
   }
-
-  std::unique_ptr<AgentProgram> agent_;
-  RequestText good_;
 };
 
 TEST_F(Abuse, ByTwoLengthsOfOneRequest) {

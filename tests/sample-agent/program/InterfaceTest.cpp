@@ -24,17 +24,8 @@
 namespace quillmark::sample::test {
 namespace {
 
-class Interface : public ProgramTest {
+class Interface : public RunningProgramTest {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    if (!HasFatalFailure()) {
-      agent_ = std::make_unique<AgentProgram>();
-      ASSERT_TRUE(agent_->waitUntilReady()) << agent_->errors();
-      good_.token = token();
-    }
-  }
-
   [[nodiscard]] int statusOfRequest(const RequestText& request) const {
     return statusOf(ask(programPort, request.text()));
   }
@@ -46,9 +37,6 @@ class Interface : public ProgramTest {
       return readLink(pathIn(folder, name)).value_or("").starts_with("socket:");
     });
   }
-
-  std::unique_ptr<AgentProgram> agent_;
-  RequestText good_;
 };
 
 TEST_F(Interface, AnswersTheFourRequests) {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -49,6 +50,22 @@ class ProgramTest : public testing::Test {
     request.token = token();
     return ask(programPort, request.text());
   }
+};
+
+/// With the agent up, and a request that it answers.
+class RunningProgramTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    if (!HasFatalFailure()) {
+      agent_ = std::make_unique<AgentProgram>();
+      ASSERT_TRUE(agent_->waitUntilReady()) << agent_->errors();
+      good_.token = token();
+    }
+  }
+
+  std::unique_ptr<AgentProgram> agent_;
+  RequestText good_;
 };
 
 }  // namespace quillmark::sample::test
