@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Templates as T
 
 /// A label above a text field.
 Column {
@@ -25,42 +24,46 @@ Column {
         color: Theme.gray
     }
 
-    component Entry: T.TextField {
+    component Entry: TextInput {
         id: entry
 
         property alias content: entry.text
     }
 
-    Entry {
-        id: input
-
-        // Qt hands assistive technology whatever `text` is, also of a masked
-        // field. There it shall be what everyone sees.
-        property string text: displayText
-
+    Rectangle {
         width: parent.width
-        implicitHeight: contentHeight + topPadding + bottomPadding
-        topPadding: 6
-        bottomPadding: 6
-        leftPadding: 8
-        rightPadding: 8
-        font.pixelSize: 12
-        color: Theme.text
-        selectionColor: Theme.blue
-        selectedTextColor: Theme.white
-        selectByMouse: true
-        content: field.value
-        onTextEdited: field.edited(content)
-        // Drawn below; this one is told to assistive technology alone.
-        placeholderText: field.placeholder
+        height: input.implicitHeight
+        radius: Theme.sectionRadius
+        color: Theme.white
+        border.width: input.activeFocus ? 2 : 1
+        border.color: input.activeFocus ? Theme.blue : Theme.fieldBorder
 
-        Accessible.name: field.label
+        Entry {
+            id: input
 
-        background: Rectangle {
-            radius: Theme.sectionRadius
-            color: Theme.white
-            border.width: input.activeFocus ? 2 : 1
-            border.color: input.activeFocus ? Theme.blue : Theme.fieldBorder
+            // Qt hands assistive technology whatever `text` is, also of a masked
+            // field. There it shall be what everyone sees.
+            property string text: displayText
+
+            anchors.fill: parent
+            topPadding: 6
+            bottomPadding: 6
+            leftPadding: 8
+            rightPadding: 8
+            clip: true
+            font.pixelSize: 12
+            color: Theme.text
+            selectionColor: Theme.blue
+            selectedTextColor: Theme.white
+            selectByMouse: true
+            activeFocusOnTab: true
+            content: field.value
+            onTextEdited: field.edited(content)
+
+            Accessible.role: Accessible.EditableText
+            Accessible.name: field.label
+            Accessible.description: field.placeholder
+            Accessible.passwordEdit: echoMode !== TextInput.Normal
         }
 
         Label {

@@ -71,6 +71,8 @@ void watchFrames(QWindow* window) {
 }
 
 void observe() {
+  // What the program starts is not watched, and shall not pay for it.
+  unsetenv("LD_PRELOAD");
   const char* const path = std::getenv("QUILLMARK_OBSERVER");
   awakeSince = now();
   log = path == nullptr ? nullptr : std::fopen(path, "we");
