@@ -29,14 +29,14 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.spacing
 
-        WrappedLabel {
+        LongLabel {
             width: parent.width
             text: row.alert.alertType
             size: 13
-            font.weight: Font.DemiBold
+            weight: Font.DemiBold
         }
 
-        WrappedLabel {
+        LongLabel {
             visible: row.alert.hasDescription
             width: parent.width
             text: row.alert.description

@@ -12,14 +12,14 @@ Column {
 
     spacing: 4
 
-    WrappedLabel {
+    LongLabel {
         width: parent.width
         text: row.app.name
         size: 13
-        font.weight: Font.DemiBold
+        weight: Font.DemiBold
     }
 
-    WrappedLabel {
+    LongLabel {
         visible: row.app.hasVersion
         width: parent.width
         text: row.app.version

@@ -88,6 +88,12 @@ def huge_text():
     return whole(json.dumps(bodies.alerts(bodies.alert(text))).encode())
 
 
+def long_texts():
+    """In as many rows as the Alerts tab shows."""
+    texts = (bodies.alert("x" * 1_000_000, description="many words " * 100_000) for _ in range(100))
+    return whole(json.dumps(bodies.alerts(*texts)).encode())
+
+
 def deep_nesting():
     return whole(b'{"alerts":' + b"[" * 100_000 + b"]" * 100_000 + b"}")
 
@@ -107,6 +113,7 @@ def every():
         "a byte every half second": byte_every_half_second,
         "silence": silence,
         "a text of 100 MB": huge_text(),
+        "two hundred texts of 1 MB": long_texts(),
         "nesting 100,000 deep": deep_nesting(),
         "resets amid the header": resets,
     }
