@@ -12,6 +12,7 @@
 #include "main/Renderer.h"
 #include "main/SingleInstance.h"
 #include "platform/CommandLine.h"
+#include "platform/OperatingSystem.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ int main(int argc, char* argv[]) {
     return quitOpenPanel(argc, argv);
   }
 
+  quillmark::returnLargeBlocks();
   quillmark::chooseRenderer();
   const QGuiApplication application(argc, argv);
   QCoreApplication::setApplicationName(QString::fromLatin1(programName));

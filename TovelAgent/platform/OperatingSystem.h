@@ -23,4 +23,8 @@ namespace quillmark {
 /// streams. Adds to both what is needed.
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions, short& flags);
 
+/// Has large blocks of memory go back to the system as soon as they are freed,
+/// whatever was allocated and freed before.
+void returnLargeBlocks();
+
 }  // namespace quillmark

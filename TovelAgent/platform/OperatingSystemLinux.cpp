@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 #include "platform/OperatingSystem.h"
@@ -22,6 +23,14 @@ bool exchangeFiles(const char* one, const char* other) {
 
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions, short& /*flags*/) {
   posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+}
+
+void returnLargeBlocks() {
+#ifdef __GLIBC__
+  // Otherwise freeing one block makes all of up to its size stay.
+  constexpr int smallest = 1 << 20;
+  mallopt(M_MMAP_THRESHOLD, smallest);
+#endif
 }
 
 }  // namespace quillmark

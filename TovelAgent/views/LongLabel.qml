@@ -26,7 +26,7 @@ Column {
     function layOutMore() {
         const isSeenWhole = !view || mapToItem(view, 0, height).y <= view.height;
         if (isSeenWhole)
-            pieces.fetchNext();
+            pieces.showNext();
     }
 
     // With the height of the pieces so far.

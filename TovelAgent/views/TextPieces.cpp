@@ -12,13 +12,17 @@ constexpr int pieceRole = Qt::DisplayRole;
 
 constexpr qsizetype pieceLength = 4000;
 constexpr qsizetype longestWait = 200;  // for white space to end a piece with
+constexpr qsizetype worthCollecting = 100'000;
 
 }  // namespace
+
+TextPieces::~TextPieces() { letGo(); }
 
 void TextPieces::setText(const QString& text) {
   if (text == text_) {
     return;
   }
+  letGo();
   beginResetModel();
   text_ = text;
   shown_ = 1;
@@ -42,15 +46,23 @@ QHash<int, QByteArray> TextPieces::roleNames() const {
   return {{pieceRole, QByteArrayLiteral("piece")}};
 }
 
-bool TextPieces::canFetchMore(const QModelIndex& parent) const {
-  return !parent.isValid() && shown_ * pieceLength < text_.size();
-}
+bool TextPieces::hasNext() const { return shown_ * pieceLength < text_.size(); }
 
-void TextPieces::fetchMore(const QModelIndex& parent) {
-  if (canFetchMore(parent)) {
+void TextPieces::showNext() {
+  if (hasNext()) {
     beginInsertRows({}, shown_, shown_);
     ++shown_;
     endInsertRows();
+  }
+}
+
+/// The script engine keeps texts that passed through it until it cleans up,
+/// which in a panel that hardly runs scripts may be never.
+void TextPieces::letGo() {
+  auto* const engine = qmlEngine(this);
+  if (text_.size() >= worthCollecting && engine != nullptr) {
+    QMetaObject::invokeMethod(
+        engine, [engine] { engine->collectGarbage(); }, Qt::QueuedConnection);
   }
 }
 

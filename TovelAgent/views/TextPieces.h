@@ -11,7 +11,8 @@ namespace quillmark {
 
 /// A text as pieces of which each is laid out in a fraction of a frame: one for
 /// all but the longest texts. Begins with the first piece and brings another
-/// with each `fetchMore()`. A piece ends with white space where there is some
+/// with each `showNext()`: not by `fetchMore()`, which views call as they like.
+/// A piece ends with white space where there is some
 /// near, and never between the halves of a character. UI thread only.
 class TextPieces : public QAbstractListModel {
   Q_OBJECT
@@ -22,6 +23,7 @@ class TextPieces : public QAbstractListModel {
 
  public:
   using QAbstractListModel::QAbstractListModel;
+  ~TextPieces() override;
 
   [[nodiscard]] QString text() const { return text_; }
   void setText(const QString& text);
@@ -31,17 +33,18 @@ class TextPieces : public QAbstractListModel {
   /// The piece, in the one role, `piece`.
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-  [[nodiscard]] bool canFetchMore(const QModelIndex& parent) const override;
-  void fetchMore(const QModelIndex& parent) override;
 
-  /// `fetchMore()` for views in QML.
-  Q_INVOKABLE void fetchNext() { fetchMore({}); }
+  /// Whether there are pieces that are not shown yet.
+  [[nodiscard]] bool hasNext() const;
+  /// Adds the next piece, if there is one.
+  Q_INVOKABLE void showNext();
 
  Q_SIGNALS:
   void textChanged();
 
  private:
   [[nodiscard]] qsizetype beginOf(qsizetype index) const;
+  void letGo();
 
   QString text_;
   int shown_ = 1;

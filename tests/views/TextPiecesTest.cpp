@@ -14,8 +14,8 @@ QStringList piecesOf(const QString& text) {
   TextPieces model;
   model.setText(text);
   EXPECT_EQ(model.rowCount(), 1) << "all but the first wait until they are asked for";
-  while (model.canFetchMore({})) {
-    model.fetchMore({});
+  while (model.hasNext()) {
+    model.showNext();
   }
   QStringList pieces;
   for (int i = 0; i < model.rowCount(); ++i) {
@@ -57,12 +57,12 @@ TEST(PiecesOfText, BeginAnewWithANewText) {
   TextPieces model;
   model.setText(QString(9000, QLatin1Char('x')));
   EXPECT_FALSE(model.isShort());
-  model.fetchNext();
+  model.showNext();
   EXPECT_EQ(model.rowCount(), 2);
   model.setText(QStringLiteral("short"));
   EXPECT_TRUE(model.isShort());
   EXPECT_EQ(model.rowCount(), 1);
-  EXPECT_FALSE(model.canFetchMore({}));
+  EXPECT_FALSE(model.hasNext());
 }
 
 TEST(PiecesOfText, KeepTheHalvesOfACharacterTogether) {
