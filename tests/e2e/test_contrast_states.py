@@ -27,10 +27,8 @@ def form(launch_large):
     return panel
 
 
-def ratio(panel, which, margin=0):
-    box = drawn(panel.tree.find(*which).box)
-    inner = Box(box.x + margin, box.y + margin, box.width - 2 * margin, box.height - 2 * margin)
-    return inked(large.picture().pixels(inner))
+def ratio(panel, which):
+    return inked(large.picture().pixels(drawn(panel.tree.find(*which).box)))
 
 
 def test_disabled(form):
@@ -60,19 +58,23 @@ def test_pointed_at_and_pressed(form, which):
         assert ratio(form, which) >= TEXT
 
 
+def inner(field):
+    """Some of a field's text, without its border and the cursor, which are strong."""
+    box = drawn(field.box)
+    return Box(box.x + 36, box.y + 21, 100, box.height - 42)
+
+
 def test_hint_of_a_focused_field(form):
-    form.press_until_focused(*KEY)
-    # Without the field's border, which is strong now.
-    assert ratio(form, KEY, margin=12) >= TEXT
+    field = form.press_until_focused(*KEY)
+    hands.park()
+    assert inked(large.picture().pixels(inner(field))) >= TEXT
 
 
 @pytest.mark.parametrize("which", [SERVER, KEY])
 def test_marked_text(form, which):
     settings.fill(form, which, "something")
     hands.key("ctrl+a")
-    box = drawn(form.tree.find(*which).box)
-    # The marked text's ground alone: there is more of the field's own.
-    marked = box._replace(x=box.x + 30, y=box.y + 21, width=100, height=box.height - 42)
+    marked = inner(form.tree.find(*which))
     pixels = until(lambda: colours.BLUE in large.picture().colours(marked)
                    and list(large.picture().pixels(marked)), "the text to be marked")
     assert inked(pixels) >= TEXT
