@@ -17,6 +17,8 @@ Window {
     // Qt's own file dialog lays this colour, meant for a strong ground, onto a
     // pale one: its chosen row would be white on light blue.
     palette.highlightedText: Theme.text
+    // And what it disables would be a light gray on a lighter one.
+    palette.disabled.buttonText: Theme.gray
 
     ContentView {
         id: content

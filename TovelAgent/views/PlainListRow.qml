@@ -11,8 +11,11 @@ Item {
     default property alias content: holder.data
     required property string label
 
+    readonly property real pixel: 1 / Screen.devicePixelRatio
+
     width: ListView.view ? ListView.view.width : 0
-    height: holder.childrenRect.height + 2 * Theme.listRowInset
+    // Whole pixels of the screen, or the lines under rows differ in thickness.
+    height: Math.ceil((holder.childrenRect.height + 2 * Theme.listRowInset) / pixel) * pixel
 
     // Until it is used again, a row that scrolled away is nobody's to read.
     ListView.onPooled: visible = false
@@ -31,6 +34,8 @@ Item {
 
     Rectangle {
         anchors.bottom: parent.bottom
+        // Off the middle of a pixel, where it is left to chance how it is rounded.
+        anchors.bottomMargin: row.pixel / 8
         x: Theme.listInset
         width: row.width - Theme.listInset
         height: 1

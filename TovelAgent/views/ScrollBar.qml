@@ -54,7 +54,6 @@ MouseArea {
         y: bar.margin + Math.max(0, Math.min(1, share)) * way
         height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * bar.margin))
         radius: width / 2
-        color: Theme.scrollBar
-        opacity: bar.pressed || bar.containsMouse ? 1 : 0.6
+        color: bar.pressed || bar.containsMouse ? Theme.gray : Theme.scrollBar
     }
 }

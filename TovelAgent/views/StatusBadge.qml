@@ -45,7 +45,6 @@ Item {
                 spacing: 6
 
                 Rectangle {
-                    objectName: "dot"
                     width: 8
                     height: 8
                     radius: 4

@@ -29,7 +29,7 @@ QtObject {
     readonly property color windowBorder: "#B9BDC6"
     readonly property color windowGlyph: gray
     readonly property color windowGlyphHover: "#E9EBEF"
-    readonly property color scrollBar: "#8A8F99"
+    readonly property color scrollBar: "#858A94"
     readonly property color shadow: "#000000"
     readonly property real shadowOpacity: 0.33
     readonly property real shadowRadius: 2

@@ -5,6 +5,7 @@
 
 #include <QQmlEngine>
 
+#include "views/ControlsStyle.h"
 #include "views/IconProvider.h"
 #include "views/MaskedText.h"
 #include "views/NetworkRefusal.h"
@@ -12,6 +13,7 @@
 namespace quillmark {
 
 void prepareForViews(QQmlEngine& engine) {
+  fixControlsStyle();
   silenceMaskedText();
   static NetworkRefusal refusal;
   engine.setNetworkAccessManagerFactory(&refusal);

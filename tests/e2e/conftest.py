@@ -11,7 +11,7 @@ import pytest
 # Before its import: assertions in there shall say what they compared.
 pytest.register_assert_rewrite("harness")
 
-from harness import bodies, processes, settings, tokens
+from harness import bodies, large, processes, settings, tokens
 from harness.backend import Backend
 from harness.display import Display
 from harness.panel import Panel
@@ -27,8 +27,9 @@ def pytest_configure():
 
 
 @pytest.fixture(scope="module")
-def display():
-    display = Display()
+def display(request):
+    """As large as the file says by its SCREEN, if it does."""
+    display = Display(*getattr(request.module, "SCREEN", ()))
     yield display
     display.stop()
 
@@ -70,6 +71,18 @@ def launch_alone(display):
 
 
 @pytest.fixture
+def launch_large(launch_alone):
+    """As `launch_alone`, on a display and at a scale where colours can be told."""
+
+    def start(*prefix, **environment):
+        panel = launch_alone(*prefix, QT_SCALE_FACTOR=str(large.SCALE), **environment)
+        large.resize(panel.window, *large.SIZE)
+        return panel
+
+    yield start
+
+
+@pytest.fixture
 def launch(launch_alone, backend):
     """A fresh panel: it polls at once, which is quicker than the next poll."""
 
@@ -78,6 +91,14 @@ def launch(launch_alone, backend):
         return launch_alone(**environment)
 
     return start
+
+
+@pytest.fixture
+def clean_home():
+    """No configuration, before and after."""
+    settings.clean_home()
+    yield
+    settings.clean_home()
 
 
 @pytest.fixture

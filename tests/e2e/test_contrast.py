@@ -4,22 +4,19 @@
 
 import pytest
 
-from harness import bodies, hands, settings
+from harness import bodies, hands, large, settings
 from harness.contrast import inked
-from harness.display import Display
-from harness.screen import Picture
+from harness.large import drawn
 from harness.waiting import until
 from harness.window import Box
 
 TEXT = 4.5
 ICON = 3.0
-# So large that strokes are as wide as several pixels, and show their colour.
-SCALE = 3
-SCREEN = (3100, 3500)
+SCREEN = large.SCREEN
 TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 GLYPHS = ("Minimize", "Maximize", "Close")
 
-pytestmark = pytest.mark.usefixtures("clean", "token")
+pytestmark = pytest.mark.usefixtures("clean_home", "token")
 
 SEVERITIES = ("critical", "high", "medium", "low")
 # The texts that have an icon or a dot at their left.
@@ -34,43 +31,12 @@ BESIDE = {
 }
 
 
-@pytest.fixture(scope="module")
-def display():
-    display = Display(*SCREEN)
-    yield display
-    display.stop()
-
-
-@pytest.fixture
-def clean():
-    settings.clean_home()
-    yield
-    settings.clean_home()
-
-
-@pytest.fixture
-def large(launch_alone):
-    def start():
-        panel = launch_alone(QT_SCALE_FACTOR=str(SCALE))
-        panel.window.move(0, 0)
-        panel.window.resize(1000 * SCALE, 1150 * SCALE)
-        until(lambda: panel.window.box == Box(0, 0, 3000, 3450), "a large window")
-        return panel
-
-    return start
-
-
 def left_of(box):
     return Box(box.x - 34, box.y - 2, 32, box.height + 4)
 
 
 def above(box):
     return Box(box.centre[0] - 24, box.y - 68, 48, 48)
-
-
-def drawn(box):
-    """Where it is on the screen; assistive technology is told unscaled numbers."""
-    return Box(*(SCALE * length for length in box))
 
 
 def check(panel, beside=(), topped=None):
@@ -85,7 +51,7 @@ def check(panel, beside=(), topped=None):
         icons[topped] = above(by_name[topped])
 
     def too_weak():
-        picture = Picture(SCREEN[0])
+        picture = large.picture()
         found = [(text.name, inked(picture.pixels(drawn(text.box))), TEXT) for text in texts]
         found += [(f"icon of {name}", inked(picture.pixels(drawn(box))), ICON)
                   for name, box in icons.items()]
@@ -105,10 +71,10 @@ def check(panel, beside=(), topped=None):
     return len(texts), len(icons)
 
 
-def test_live(large, backend):
+def test_live(launch_large, backend):
     backend.reply(status=bodies.status(threat_count=77), alerts=bodies.alerts(
         *[bodies.alert(s, s, description=f"what {s} means") for s in SEVERITIES]))
-    panel = large()
+    panel = launch_large()
     panel.tree.wait_for("text", "OK")
     for tab in TABS:
         panel.show(tab)
@@ -116,19 +82,19 @@ def test_live(large, backend):
         assert texts > 15 and icons >= 11
 
 
-def test_empty_inventory(large, backend):
+def test_empty_inventory(launch_large, backend):
     backend.reply(inventory=bodies.inventory())
-    panel = large()
+    panel = launch_large()
     panel.show("Inventory")
     panel.tree.wait_for("text", "Loading applications...")
     check(panel)
     backend.reply(**bodies.everyday())
 
 
-def test_offline(large, backend):
+def test_offline(launch_large, backend):
     backend.stop()
     try:
-        panel = large()
+        panel = launch_large()
         panel.tree.wait_for("text", "OFFLINE")
         for tab, empty in (("Dashboard", None), ("Network", "No network connections detected"),
                            ("Inventory", None), ("Alerts", "No threats detected")):
@@ -138,9 +104,9 @@ def test_offline(large, backend):
         backend.start()
 
 
-def test_messages(large):
+def test_messages(launch_large):
     settings.write_config("not a section\n")
-    panel = large()
+    panel = launch_large()
     panel.show("Settings")
     settings.fill(panel, settings.KEY, "k")
     settings.press(panel, settings.SAVE)
@@ -156,10 +122,10 @@ def test_messages(large):
 
 
 @pytest.mark.parametrize("name", GLYPHS)
-def test_glyph_under_the_pointer(large, name):
-    panel = large()
+def test_glyph_under_the_pointer(launch_large, name):
+    panel = launch_large()
     box = drawn(panel.tree.find("button", name).box)
     hands.tool("xdotool", "mousemove", *map(str, box.centre))
     hover = (0xE9, 0xEB, 0xEF)
-    until(lambda: hover in Picture(SCREEN[0]).colours(box), "the glyph to light up")
-    assert inked(Picture(SCREEN[0]).pixels(box)) >= ICON
+    until(lambda: hover in large.picture().colours(box), "the glyph to light up")
+    assert inked(large.picture().pixels(box)) >= ICON

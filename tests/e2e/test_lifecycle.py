@@ -3,13 +3,12 @@
 """Windows come and go; the process stays until it is quit."""
 
 import subprocess
-import tempfile
 
 import pytest
 from gi.repository import Gio, GLib
 
 from harness import bodies, colours, hands
-from harness.panel import EXECUTABLE, spawn
+from harness.panel import EXECUTABLE
 from harness.screen import Picture
 from harness.waiting import never, until
 from harness.window import Box, tool
@@ -17,20 +16,6 @@ from harness.window import Box, tool
 pytestmark = pytest.mark.usefixtures("token")
 
 BUS_NAME = "org.quillmark.Agent"
-
-
-def start_again(**changes):
-    """A second launch; it hands over to the first and is done."""
-    with tempfile.TemporaryFile() as output:
-        second = spawn(output, **changes)
-        assert second.wait(timeout=15) == 0
-        output.seek(0)
-        assert output.read() == b""
-
-
-def close_window(panel):
-    hands.key("ctrl+w")
-    until(lambda: not panel.windows(), "the window to close")
 
 
 @pytest.fixture
@@ -50,7 +35,7 @@ def test_second_launch_raises_the_open_window(launch, other_window):
     (cover,) = tool("xdotool", "search", "--onlyvisible", "--classname", "cover").split()
     tool("xdotool", "windowactivate", "--sync", cover)
     assert not window.topmost()
-    start_again()
+    panel.launch_again()
     until(window.topmost, "the panel's window on top")
     assert panel.windows() == [window]
     # It is the same window, still where the user was.
@@ -61,7 +46,7 @@ def test_second_launch_brings_a_minimised_window_back(launch):
     panel = launch()
     window = panel.window
     window.minimise()
-    start_again()
+    panel.launch_again()
     until(lambda: window.mapped() and window.active(), "the window to be back")
     assert panel.windows() == [window]
 
@@ -69,14 +54,12 @@ def test_second_launch_brings_a_minimised_window_back(launch):
 def test_closed_window_and_a_new_one(launch, backend):
     panel = launch()
     panel.show("Alerts")
-    close_window(panel)
+    panel.close()
     # Polling goes on without a window.
     backend.wait_for_poll()
     assert not panel.ended()
 
-    start_again()
-    until(panel.windows, "a new window")
-    until(panel.window.active, "the new window to be active")
+    panel.launch_again()
     panel.selected("Dashboard")
     panel.tree.wait_for("text", "OK")
     panel.window.resize(1000, 1000)
@@ -122,7 +105,7 @@ def quit_by_command():
 
 def test_quit_by_command_ends_the_open_panel(launch):
     panel = launch()
-    close_window(panel)
+    panel.close()
     asked = quit_by_command()
     assert (asked.returncode, asked.stdout, asked.stderr) == (0, "", "")
     until(panel.ended, "the panel to end")
@@ -149,7 +132,7 @@ def test_activation_over_the_session_bus(launch):
     (owner,) = bus_call("GetConnectionUnixProcessID", "/", daemon,
                         GLib.Variant("(s)", (BUS_NAME,)), daemon)
     assert owner == panel.pid
-    close_window(panel)
+    panel.close()
     bus_call("Activate", "/org/quillmark/Agent", "org.freedesktop.Application",
              GLib.Variant("(a{sv})", ({},)))
     until(panel.windows, "a new window")
@@ -162,7 +145,7 @@ def test_actions_over_the_session_bus(launch):
         bus_call("ActivateAction", "/org/quillmark/Agent", "org.freedesktop.Application",
                  GLib.Variant("(sava{sv})", (name, [], {})))
 
-    close_window(panel)
+    panel.close()
     act("nothing-it-knows")
     until(panel.windows, "a new window, as from any other request")
     act("quit")

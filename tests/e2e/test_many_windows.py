@@ -9,7 +9,6 @@ from pathlib import Path
 
 import pytest
 
-from harness import hands
 from harness.panel import EXECUTABLE, spawn
 from harness.waiting import never, until
 from harness.window import visible
@@ -24,16 +23,9 @@ def held(pid):
     return tuple(len(list(Path(f"/proc/{pid}/{what}").iterdir())) for what in ("fd", "task"))
 
 
-def open_again():
-    assert subprocess.run([EXECUTABLE], timeout=30, capture_output=True).returncode == 0
-
-
 def reopen(panel):
-    hands.key("ctrl+w")
-    until(lambda: not panel.windows(), "the window to close")
-    open_again()
-    until(panel.windows, "a new window")
-    until(panel.window.active, "the new window to be active")
+    panel.close()
+    panel.launch_again()
 
 
 def test_twenty_windows_one_after_another(launch, backend):

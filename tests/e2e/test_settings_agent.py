@@ -133,8 +133,7 @@ def test_tab_left_before_the_look(panel, action, agents):
 
 def test_window_closed_before_the_look(panel):
     settings.press(panel, START)
-    hands.key("ctrl+w")
-    until(lambda: not panel.windows(), "the window to close")
+    panel.close()
     never(panel.ended, "the panel ended", seconds=2.5)
     assert len(processes.agents()) == 1
 

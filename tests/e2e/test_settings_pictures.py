@@ -5,7 +5,6 @@
 import pytest
 
 from harness import hands, settings
-from harness.display import Display
 from harness.screen import BUILD, save
 from harness.waiting import until
 
@@ -13,13 +12,6 @@ SCREEN = (3300, 2300)
 SIZES = ((1000, 700), (1600, 1100))
 
 pytestmark = pytest.mark.usefixtures("fresh_home", "token")
-
-
-@pytest.fixture(scope="module")
-def display():
-    display = Display(*SCREEN)
-    yield display
-    display.stop()
 
 
 def assert_uncut(panel):

@@ -6,6 +6,7 @@ import os
 import stat
 import subprocess
 from pathlib import Path
+from xml.etree import ElementTree
 
 import pytest
 from gi.repository import Gio, GLib
@@ -40,6 +41,14 @@ def test_programs_answer_where_they_were_put(install, tmp_path, folder):
     launch = entry_command(prefix)
     assert output(*launch, "--version").startswith("quillmark-agent ")
     assert entry_command(prefix, "Desktop Action quit") == [*launch, "--quit"]
+
+
+def test_software_centres_are_told_the_release(install, tmp_path):
+    install(tmp_path / "usr")
+    told = ElementTree.parse(tmp_path / f"usr/share/metainfo/{APPLICATION}.metainfo.xml")
+    releases = [release.get("version") for release in told.iterfind("releases/release")]
+    version = output(tmp_path / "usr/bin/quillmark-agent", "--version").split()[-1]
+    assert releases[0] == version
 
 
 def test_folder_may_be_moved_but_for_the_entry(install, tmp_path):

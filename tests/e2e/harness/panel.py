@@ -93,6 +93,19 @@ class Panel:
         focused = [i for i in self.tree.read().walk() if "focused" in i.states]
         return focused[-1] if focused and focused[-1].role != "window" else None
 
+    def close(self):
+        hands.key("ctrl+w")
+        until(lambda: not self.windows(), "the window to close")
+
+    def launch_again(self):
+        """Another launch hands over to this one and is done, without a word."""
+        with tempfile.TemporaryFile() as output:
+            assert spawn(output).wait(timeout=30) == 0
+            output.seek(0)
+            assert output.read() == b""
+        until(self.windows, "a window")
+        until(self.window.active, "the window to be active")
+
     def finish(self):
         """Quits as a user does; a panel that crashed or spoke fails the test."""
         try:

@@ -16,7 +16,7 @@ def shown(panel):
     return panel.tree.find("dialog", TITLE)
 
 
-def _open(panel, key="space"):
+def bring_up(panel, key="space"):
     settings.press(panel, settings.BROWSE, key)
     until(lambda: shown(panel), "the dialog")
     until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the keyboard")
@@ -27,7 +27,7 @@ def _open(panel, key="space"):
 def opened(panel, key="space"):
     """Open for a while, then cancelled."""
     try:
-        yield _open(panel, key)
+        yield bring_up(panel, key)
     finally:
         hands.key("Escape")
     panel.tree.wait_without("dialog", TITLE)
@@ -35,7 +35,7 @@ def opened(panel, key="space"):
 
 def choose(panel, path):
     """By typing where it is."""
-    _open(panel)
+    bring_up(panel)
     hands.key("ctrl+l")
     until(lambda: panel.focus().role == "field", "the path to be editable")
     hands.key("ctrl+a")
@@ -47,7 +47,7 @@ def choose(panel, path):
 
 def pick(panel, path):
     """By walking down the list of its folder, where the dialog opens."""
-    _open(panel)
+    bring_up(panel)
     for _ in range(10):
         row = panel.focus()
         if row.find("text", path.name):

@@ -6,6 +6,8 @@ import os
 import subprocess
 from pathlib import Path
 
+from .waiting import until
+
 BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
 
 
@@ -25,6 +27,17 @@ class Picture:
     def __init__(self, width=1600):
         self._width = width
         self._data = _import("rgb:-")
+
+    @classmethod
+    def settled(cls, *width):
+        """Once three are alike: nothing is being drawn any more."""
+        taken = []
+
+        def still():
+            taken.append(cls(*width))
+            return len(taken) > 2 and len({p.whole() for p in taken[-3:]}) == 1 and taken[-1]
+
+        return until(still, "the screen to come to rest", step=0.15)
 
     def whole(self):
         """For comparing with another."""

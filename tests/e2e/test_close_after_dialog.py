@@ -1,0 +1,64 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A window that has had the file dialog closes like any other, whoever listens."""
+
+import pytest
+
+from harness import hands, picker, settings
+from harness.settings import CONFIG
+from harness.waiting import until
+
+pytestmark = pytest.mark.usefixtures("clean_home", "token")
+
+
+@pytest.fixture
+def panel(launch, tmp_path):
+    (tmp_path / "config.toml").write_text("[agent]\n")
+    panel = launch()
+    panel.show("Settings")
+    return panel
+
+
+def cancel(panel, _):
+    with picker.opened(panel):
+        pass
+
+
+def choose(panel, path):
+    picker.choose(panel, path)
+    settings.wait_for_message(panel, settings.IMPORTED)
+
+
+def cancel_twice_and_leave_the_tab(panel, path):
+    cancel(panel, path)
+    cancel(panel, path)
+    panel.show("Alerts")
+
+
+@pytest.mark.parametrize("use", [cancel, choose, cancel_twice_and_leave_the_tab])
+def test_the_process_goes_on(panel, backend, tmp_path, use):
+    heard = panel.tree.listen()
+    use(panel, tmp_path / "config.toml")
+    panel.tree.read()
+    assert heard, "somebody listens"
+    panel.close()
+    backend.wait_for_poll()
+    assert not panel.ended()
+    # And the next window has a dialog that works.
+    CONFIG.unlink(missing_ok=True)
+    panel.launch_again()
+    panel.show("Settings")
+    choose(panel, tmp_path / "config.toml")
+    assert CONFIG.exists()
+
+
+def test_closed_by_the_desktop_under_an_open_dialog(panel, backend):
+    heard = panel.tree.listen()
+    picker.bring_up(panel)
+    assert heard, "somebody listens"
+    hands.key("alt+F4")
+    until(lambda: not panel.windows(), "the window to close")
+    backend.wait_for_poll()
+    assert not panel.ended()
+    panel.launch_again()
+    panel.tree.wait_for("text", "OK")

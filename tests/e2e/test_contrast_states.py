@@ -1,0 +1,92 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What is disabled, focused, pointed at, pressed or marked can be told as well."""
+
+import contextlib
+
+import pytest
+
+from harness import bodies, colours, hands, large, settings
+from harness.contrast import inked
+from harness.large import drawn
+from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
+from harness.waiting import until
+from harness.window import Box
+
+TEXT = 4.5
+CONTROL = 3.0
+SCREEN = large.SCREEN
+
+pytestmark = pytest.mark.usefixtures("clean_home", "token")
+
+
+@pytest.fixture
+def form(launch_large):
+    panel = launch_large()
+    panel.show("Settings")
+    return panel
+
+
+def ratio(panel, which):
+    return inked(large.picture().pixels(drawn(panel.tree.find(*which).box)))
+
+
+def test_disabled(form):
+    hands.park()
+    box = drawn(form.tree.find(*SAVE).box)
+    # Beside its icon and text is the ground of what is disabled.
+    until(lambda: large.picture().pixel(box.x + 60, box.centre[1]) == colours.GRAY, "it to be gray")
+    assert ratio(form, SAVE) >= TEXT
+
+
+@contextlib.contextmanager
+def held(box):
+    """The pointer on it, its button down, then let go elsewhere."""
+    hands.tool("xdotool", "mousemove", *map(str, box.centre), "mousedown", "1")
+    try:
+        yield
+    finally:
+        hands.tool("xdotool", "mousemove", "0", "0", "mouseup", "1")
+
+
+@pytest.mark.parametrize("which", [("tab", "Settings"), ("tab", "Alerts"), START, STOP, BROWSE])
+def test_pointed_at_and_pressed(form, which):
+    box = drawn(form.tree.find(*which).box)
+    hands.tool("xdotool", "mousemove", *map(str, box.centre))
+    assert ratio(form, which) >= TEXT
+    with held(box):
+        assert ratio(form, which) >= TEXT
+
+
+def inner(field):
+    """Some of a field's text, without its border and the cursor, which are strong."""
+    box = drawn(field.box)
+    return Box(box.x + 36, box.y + 21, 100, box.height - 42)
+
+
+def test_hint_of_a_focused_field(form):
+    field = form.press_until_focused(*KEY)
+    hands.park()
+    assert inked(large.picture().pixels(inner(field))) >= TEXT
+
+
+@pytest.mark.parametrize("which", [SERVER, KEY])
+def test_marked_text(form, which):
+    settings.fill(form, which, "something")
+    hands.key("ctrl+a")
+    marked = inner(form.tree.find(*which))
+    pixels = until(lambda: colours.BLUE in large.picture().colours(marked)
+                   and list(large.picture().pixels(marked)), "the text to be marked")
+    assert inked(pixels) >= TEXT
+
+
+def test_scroll_bar(launch_large, backend):
+    backend.reply(inventory=bodies.inventory(*[bodies.app(f"App {n}") for n in range(50)]))
+    panel = launch_large()
+    panel.show("Inventory")
+    hands.park()
+    rows = drawn(panel.tree.wait_for("list", "Installed applications").box)
+    # Where rows have no text: their ground, and the bar's upper part on it.
+    strip = Box(rows.right - 33, rows.y + 30, 18, rows.height - 60)
+    until(lambda: inked(large.picture().pixels(strip)) >= CONTROL, "a bar that can be told")
+    backend.reply(**bodies.everyday())

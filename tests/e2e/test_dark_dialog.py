@@ -1,0 +1,32 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The file dialog can be read, however a desktop forces darkness on it."""
+
+import pytest
+
+from harness import desktops, hands, large, picker
+from harness.contrast import inked
+
+SCREEN = large.SCREEN
+SHOWN = ("more", "config.toml", "Filter", "Import", "Cancel", picker.TITLE)
+
+pytestmark = pytest.mark.usefixtures("fresh_home")
+
+
+# That of GTK brings a dialog of its own, in its own colours.
+@pytest.mark.parametrize("name", [name for name in desktops.DARK if name != "gtk"])
+def test_every_text(launch_large, tmp_path, name):
+    (tmp_path / "more").mkdir()
+    (tmp_path / "config.toml").write_text("")
+    panel = launch_large("env", f"--chdir={tmp_path}", **desktops.DARK[name]())
+    panel.show("Settings")
+    with picker.opened(panel):
+        hands.park()
+        picture = large.picture()
+        ratios = {item.name: inked(picture.pixels(large.drawn(item.box)))
+                  for item in picker.shown(panel).walk()
+                  if item.name in SHOWN and item.role in ("text", "button")}
+    assert set(ratios) == set(SHOWN)
+    # Nothing is chosen yet, so Import is disabled, and weaker on purpose.
+    least = {"Import": 3.0}
+    assert {name: ratio for name, ratio in ratios.items() if ratio < least.get(name, 4.5)} == {}

@@ -1,0 +1,91 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Where the keyboard is can be told, by the pixels on both sides of the ring."""
+
+import pytest
+
+from harness import colours, hands, settings
+from harness.contrast import contrast
+from harness.screen import Picture
+from harness.waiting import until
+
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+WEAKEST = 3.0
+THICKNESS = 2
+# How far from a control's edge its ring may be, either way.
+NEAR = 8
+
+pytestmark = pytest.mark.usefixtures("clean_home")
+
+
+def lines(box):
+    """One line of pixels across each side, at its middle."""
+    x, y = box.centre
+    way = range(-NEAR, NEAR)
+    return {
+        "left": [(box.x + step, y) for step in way],
+        "right": [(box.right + step, y) for step in way],
+        "top": [(x, box.y + step) for step in way],
+        "bottom": [(x, box.bottom + step) for step in way],
+    }
+
+
+def ring(before, after, line):
+    """What is on both sides of what has become blue on this line, if anything has."""
+    shades = [after.pixel(*at) for at in line]
+    new = [i for i, at in enumerate(line)
+           if shades[i] == colours.BLUE != before.pixel(*at)]
+    if len(new) < THICKNESS:
+        return None
+    return shades[new[0] - 1], shades[new[-1] + 1]
+
+
+def rings(before, focus):
+    after = Picture()
+    found = {side: ring(before, after, line) for side, line in lines(focus.box).items()}
+    return {side: shades for side, shades in found.items() if shades}
+
+
+def check(before, focus):
+    # At the active tab's bottom is its own bar, as blue as the ring.
+    wanted = 3 if "selected" in focus.states else 4
+    found = until(lambda: len(rings(before, focus)) >= wanted and rings(before, focus),
+                  f"a ring round {focus.name!r}")
+    weak = {side: shades for side, shades in found.items()
+            if min(contrast(colours.BLUE, shade) for shade in shades) < WEAKEST}
+    assert weak == {}, focus
+
+
+def resize(panel, height):
+    panel.window.resize(1000, height)
+    until(lambda: panel.window.box.height == height, f"a window {height} high")
+
+
+@pytest.mark.parametrize("tab", TABS)
+def test_round_every_control(panel, tab):
+    resize(panel, 1150)
+    panel.show(tab)
+    if tab == "Settings":
+        # Only with a key can it be saved.
+        settings.fill(panel, settings.KEY, "k")
+    panel.press_until_focused("button", "Close")
+    hands.park()
+    seen = []
+    while ("button", "Close") not in seen:
+        before, focus = Picture.settled(), panel.focus()
+        hands.key("Tab")
+        focus = until(lambda: panel.focus() not in (focus, None) and panel.focus(), "the next")
+        check(before, focus)
+        seen.append((focus.role, focus.name))
+    # Two badges, five tabs, the window's three buttons, and what the tab itself has.
+    assert len(seen) == 10 + {"Dashboard": 0, "Settings": 6}.get(tab, 1)
+
+
+@pytest.mark.parametrize("tab", ["Dashboard", "Settings"])
+def test_round_a_page_that_scrolls(panel, tab):
+    resize(panel, 700)
+    panel.show(tab)
+    panel.press_until_focused("button", "Close")
+    hands.park()
+    before = Picture.settled()
+    check(before, panel.press_until_focused("group", tab))

@@ -1,0 +1,60 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A window out of sight is still on screen: coming back, it polls no more than before."""
+
+from itertools import pairwise
+
+import pytest
+
+from harness.waiting import until
+from harness.window import tool
+
+pytestmark = pytest.mark.usefixtures("token")
+
+CYCLES = 3
+POLLS = 2
+
+
+def minimise(panel):
+    window = panel.window
+    window.minimise()
+    window.restore()
+
+
+def leave_its_desktop(panel):
+    window = panel.window
+    tool("xdotool", "set_desktop", "1")
+    until(lambda: not window.mapped(), "another desktop")
+    tool("xdotool", "set_desktop", "0")
+    until(lambda: window.mapped(), "its desktop")
+
+
+@pytest.fixture
+def starts(backend):
+    """When polls began since the test did."""
+    before = len(backend.seen("status"))
+    return lambda: [request.time for request in backend.seen("status")[before:]]
+
+
+def assert_one_poller(starts):
+    already = len(starts())
+    until(lambda: len(starts()) >= already + POLLS, f"{POLLS} polls", timeout=30)
+    gaps = [after - before for before, after in pairwise(starts())]
+    assert all(4.5 <= gap <= 6 for gap in gaps), gaps
+
+
+@pytest.mark.parametrize("hide", [minimise, leave_its_desktop])
+def test_polls_as_before(launch, starts, hide):
+    panel = launch()
+    assert_one_poller(starts)
+    for _ in range(CYCLES):
+        hide(panel)
+    assert_one_poller(starts)
+
+
+def test_brought_back_by_another_launch(launch, starts):
+    panel = launch()
+    for _ in range(CYCLES):
+        panel.window.minimise()
+        panel.launch_again()
+    assert_one_poller(starts)
