@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Quillmark.Views
 
@@ -29,8 +31,15 @@ Column {
             pieces.showNext();
     }
 
-    // With the height of the pieces so far.
-    onPositioningComplete: Qt.callLater(layOutMore)
+    // With the height of the pieces so far, and a chance for all else between.
+    onPositioningComplete: next.start()
+
+    Timer {
+        id: next
+
+        interval: 0
+        onTriggered: label.layOutMore()
+    }
 
     TextPieces {
         id: pieces
