@@ -60,7 +60,8 @@ else()
 endif()
 
 if(QUILLMARK_COVERAGE)
-  target_compile_options(quillmark_options INTERFACE --coverage)
+  # Threads that count at once would lose counts, or make them negative.
+  target_compile_options(quillmark_options INTERFACE --coverage -fprofile-update=atomic)
   target_link_options(quillmark_options INTERFACE --coverage)
 endif()
 

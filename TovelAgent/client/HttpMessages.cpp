@@ -104,7 +104,7 @@ AnswerReader::State AnswerReader::ended() {
   }
   ErrorCode error;
   parser_->put_eof(error);
-  return !error && parser_->is_done() ? State::done : fail(HttpFailure::brokenOff);
+  return error ? fail(HttpFailure::brokenOff) : State::done;
 }
 
 HttpResult AnswerReader::takeResult() {

@@ -5,12 +5,16 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDeadlineTimer>
 #include <QFile>
+#include <QThread>
 
 namespace quillmark {
 namespace {
 
 constexpr int answerTimeoutMs = 3000;
+constexpr unsigned long pauseUs = 100;
 
 const auto objectPath = QStringLiteral("/org/quillmark/Agent");
 const auto interfaceName = QStringLiteral("org.freedesktop.Application");
@@ -33,8 +37,33 @@ QDBusMessage callTo(const QString& method) {
   return call;
 }
 
-bool isAnswered(const QDBusConnection& bus, const QDBusMessage& call) {
-  return bus.call(call, QDBus::Block, answerTimeoutMs).type() == QDBusMessage::ReplyMessage;
+/// What comes back, whatever its type; invalid if nothing does. Qt's own
+/// blocking call waits for ever when the bus is lost in the midst of it, and an
+/// event loop would let calls in that nobody listens to yet.
+QDBusMessage answerTo(const QDBusMessage& call, const QDBusConnection& bus) {
+  const auto pending = bus.asyncCall(call, answerTimeoutMs);
+  const QDeadlineTimer deadline(answerTimeoutMs);
+  while (!pending.isFinished() && bus.isConnected() && !deadline.hasExpired()) {
+    QThread::usleep(pauseUs);
+  }
+  return pending.reply();
+}
+
+bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus) {
+  return answerTo(call, bus).type() == QDBusMessage::ReplyMessage;
+}
+
+/// Whether another panel holds the name; if none does, this one from now on.
+/// False as well when the bus does not say.
+bool isTaken(const QDBusConnection& bus) {
+  // As the bus numbers them.
+  constexpr uint doNotQueue = 4;
+  constexpr uint exists = 3;
+  auto request = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+  request << SingleInstance::applicationId << doNotQueue;
+  return answerTo(request, bus).arguments().value(0).toUInt() == exists;
 }
 
 }  // namespace
@@ -48,12 +77,12 @@ bool SingleInstance::handOver() {
     return false;
   }
   bus.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
-  if (bus.registerService(applicationId)) {
+  if (!isTaken(bus)) {
     return false;
   }
   auto activate = callTo(QStringLiteral("Activate"));
   activate << QVariantMap{{activationToken, qEnvironmentVariable(activationVariable)}};
-  return isAnswered(bus, activate);
+  return isAnswered(activate, bus);
 }
 
 bool SingleInstance::quitRunning() {
@@ -63,7 +92,7 @@ bool SingleInstance::quitRunning() {
   const auto bus = QDBusConnection::sessionBus();
   auto quit = callTo(QStringLiteral("ActivateAction"));
   quit << quitAction << QVariantList{} << QVariantMap{};
-  return bus.isConnected() && isAnswered(bus, quit);
+  return bus.isConnected() && isAnswered(quit, bus);
 }
 
 void SingleInstance::Activate(const QVariantMap& platformData) {

@@ -30,6 +30,14 @@ TEST(FileErrors, EqualPortableConditions) {
   EXPECT_EQ(error_code(FileError::unquotablePath), errc::invalid_argument);
 }
 
+// Whoever adds one and forgets its words still gets some.
+TEST(FileErrors, OfUnknownNumbersAreErrorsOfTheirOwn) {
+  const error_code unknown(99, error_code(FileError::notRegular).category());
+  EXPECT_EQ(unknown.message(), "Unknown error");
+  EXPECT_EQ(unknown.default_error_condition().value(), 99);
+  EXPECT_EQ(unknown.default_error_condition().category(), unknown.category());
+}
+
 TEST(FileErrors, AreErrorsAndDifferFromOneAnother) {
   const std::set<error_code> all{FileError::notRegular, FileError::tooLarge, FileError::notUtf8,
                                  FileError::unquotablePath};

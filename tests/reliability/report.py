@@ -17,7 +17,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
 # Reliability
 
 What the panel stands, found by `tools/reliability`: how often it was tried, how
-often it held, and the figures of one run."""
+often it held, and the figures of one run. What of the core no test reaches stands
+in [Coverage](coverage.md)."""
 
 # Figure, what it is called, its limit and unit.
 ATTACK = (
@@ -32,6 +33,8 @@ TROUBLE = {
     "e2e_clock": "the process stopped, its clock set",
     "e2e_agent_trouble": "agents that do not start, do not stop, or are too many",
     "e2e_many_windows": "windows and launches in numbers",
+    "e2e_lost_bus": "the session bus dying while a second panel is launched",
+    "e2e_time_zone": "the machine's time zone changing",
 }
 
 

@@ -64,5 +64,14 @@ TEST_F(ListModelSignalsTest, SeesAChangeInAnyFieldOfARow) {
   EXPECT_EQ(changes.count(), 1);
 }
 
+// Rows in view are shown anew sooner than all are compared.
+TEST_F(ListModelSignalsTest, LooksIntoNoListOfManyThousands) {
+  const std::string many(2'000, 'a');
+  EXPECT_EQ(toldBetween(many, many), Told{});
+  EXPECT_EQ(toldBetween(many + "a", many + "a"), (Told{"change 0-2000"}));
+  EXPECT_EQ(toldBetween(many + "abc", many + "ab"),
+            (Told{"remove 2002-2002", "change 0-2001", "count 2002"}));
+}
+
 }  // namespace
 }  // namespace quillmark::test

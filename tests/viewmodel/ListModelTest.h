@@ -44,7 +44,7 @@ using Told = std::vector<std::string>;
 /// "count 5".
 class ListModelTest : public testing::Test {
  protected:
-  explicit ListModelTest(std::size_t maxRows = 1000) : model_("app", maxRows) {
+  explicit ListModelTest(std::size_t maxRows = 10'000) : model_("app", maxRows) {
     note(&Model::rowsAboutToBeInserted, &Model::rowsInserted, "insert");
     note(&Model::rowsAboutToBeRemoved, &Model::rowsRemoved, "remove");
     QObject::connect(&model_, &Model::dataChanged, &model_,

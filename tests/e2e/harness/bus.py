@@ -1,0 +1,85 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A session bus of a test's own, which can die in the midst of what is said."""
+
+import contextlib
+import socket
+import subprocess
+import threading
+from pathlib import Path
+
+
+class Bus:
+    """The real daemon, reached through a socket where what passes is counted."""
+
+    def __init__(self, folder):
+        self._daemon = subprocess.Popen(
+            ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1",
+             f"--address=unix:path={folder}/daemon"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+        )
+        assert self._daemon.stdout.readline(), "the bus did not start"
+        self._behind = f"{folder}/daemon"
+        self._front = Path(folder) / "bus"
+        self.address = f"unix:path={self._front}"
+        self._lock = threading.Lock()
+        self._pieces = 0
+        self._dies_at = None
+        self._listener = socket.socket(socket.AF_UNIX)
+        self._listener.bind(str(self._front))
+        self._listener.listen()
+        threading.Thread(target=self._accept, daemon=True).start()
+
+    @property
+    def pieces(self):
+        """How many there were, of both sides, since the last `count`."""
+        with self._lock:
+            return self._pieces
+
+    def count(self, dies_at=None):
+        """Counts anew; instead of the piece of that number, the daemon dies."""
+        with self._lock:
+            self._pieces = 0
+            self._dies_at = dies_at
+
+    def alive(self):
+        return self._daemon.poll() is None
+
+    def stop(self):
+        self._front.unlink(missing_ok=True)
+        self._daemon.kill()
+        self._daemon.wait()
+        self._daemon.stdout.close()
+        self._listener.close()
+
+    def _accept(self):
+        with contextlib.suppress(OSError):  # closed
+            while True:
+                client, _ = self._listener.accept()
+                daemon = socket.socket(socket.AF_UNIX)
+                try:
+                    daemon.connect(self._behind)
+                except OSError:
+                    client.close()
+                    continue
+                for ends in ((client, daemon), (daemon, client)):
+                    threading.Thread(target=self._pass_on, args=ends, daemon=True).start()
+
+    def _pass_on(self, source, goal):
+        with contextlib.suppress(OSError):  # gone at either end
+            while piece := source.recv(65536):
+                if not self._may_pass():
+                    break
+                goal.sendall(piece)
+        for end in (source, goal):
+            with contextlib.suppress(OSError):
+                end.shutdown(socket.SHUT_RDWR)
+
+    def _may_pass(self):
+        with self._lock:
+            dies = self._pieces == self._dies_at
+            self._pieces += 1
+            if dies:
+                self._daemon.kill()
+                self._daemon.wait()
+        return not dies

@@ -1,0 +1,84 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The session bus dies, or the first panel is stuck, while a second is launched."""
+
+import os
+import signal
+
+import pytest
+
+from harness import colours
+from harness.bus import Bus
+from harness.panel import Panel
+from harness.screen import Picture
+from harness.waiting import never, until
+
+pytestmark = pytest.mark.usefixtures("token", "backend")
+
+# What an undisturbed hand-over takes: requests and answers come alone or two at once.
+FEWEST = 8
+MOST = 15
+
+
+@pytest.fixture
+def bus(tmp_path):
+    bus = Bus(tmp_path)
+    yield bus
+    bus.stop()
+
+
+@pytest.fixture
+def start(display, bus):
+    """Panels on that bus; without the accessibility's own traffic there."""
+    started = []
+
+    def start():
+        panel = Panel(DBUS_SESSION_BUS_ADDRESS=bus.address, QT_LINUX_ACCESSIBILITY_ALWAYS_ON=None)
+        started.append(panel)
+        return panel
+
+    yield start
+    for panel in started:
+        panel.dismiss()
+
+
+def is_drawn(panel):
+    return panel.windows() and colours.BLUE in Picture().colours(panel.window.box)
+
+
+def test_undisturbed(start, bus):
+    first = start().opened()
+    bus.count()
+    second = start()
+    until(second.ended, "the second to hand over")
+    assert FEWEST <= bus.pieces <= MOST
+    second.finish()
+    first.finish()
+
+
+@pytest.mark.parametrize("piece", range(MOST + 1))
+def test_the_bus_dies(start, bus, piece):
+    first = start().opened()
+    bus.count(dies_at=piece)
+    second = start()
+    until(lambda: second.ended() or second.windows(), "the second to hand over or open a window")
+    assert piece >= FEWEST or not bus.alive()
+    if not second.ended():
+        second.opened()
+        until(lambda: is_drawn(second), "a drawn window")
+    # Ends with 0 and has nothing to complain about.
+    second.finish()
+    never(first.ended, "the first ended", seconds=0.3)
+    until(lambda: is_drawn(first), "the first one's window as it was")
+    first.finish()
+
+
+def test_the_first_is_stuck(start):
+    first = start().opened()
+    os.kill(first.pid, signal.SIGSTOP)
+    second = start().opened()
+    until(lambda: is_drawn(second), "a drawn window")
+    second.finish()
+    os.kill(first.pid, signal.SIGCONT)
+    first.opened()
+    first.finish()
