@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""measure OUTPUT [PART...]: measures all parts, or those named."""
+"""measure FOLDER [PART...]: measures all parts, or those named, and writes to
+FOLDER/performance.md what is known of all: those not named as last measured."""
 
 import sys
 from pathlib import Path
@@ -23,19 +24,29 @@ SPDX-License-Identifier: GPL-3.0-or-later
 
 What the panel costs, measured by `bench/run`: medians, and where spread is told
 the quartiles in brackets. Every figure stands beside one of a floor or of another
-program that was measured in the same run: the machine decides the raw figures,
+program that was measured at the same time: the machine decides the raw figures,
 the ratios are what the panel answers for."""
 
 
-def main(output, *parts):
+def measure(name, file):
     report = Report()
+    PARTS[name].run(report)
+    report.save(file)
+
+
+def main(folder, *parts):
+    files = {name: Path(folder) / f"{name}.json" for name in PARTS}
     display = Display(2600, 1500)
     try:
         for name in parts or PARTS:
-            PARTS[name].run(report)
+            measure(name, files[name])
     finally:
         display.stop()
-    report.write(output, PREFACE)
+        report = Report()
+        for file in files.values():
+            if file.exists():
+                report.add(file)
+        report.write(Path(folder) / "performance.md", PREFACE)
 
 
 main(*sys.argv[1:])

@@ -31,4 +31,3 @@ def run(report):
         ("program", "PSS", "÷ Qt Quick floor"),
         [(name, f"{number(pss)} MiB", f"{pss / floor:.2f}") for name, pss in rows]))
     report.goal("PSS ÷ bare Qt Quick floor, full data", goal(fresh / floor, 1.4))
-    report.remember("PSS of the panel", fresh)

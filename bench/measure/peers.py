@@ -9,7 +9,7 @@ import time
 from statistics import median
 
 from . import process, stage
-from .figures import number, table
+from .figures import goal, number, table
 
 ROUNDS = 5
 SETTLING = 10
@@ -48,7 +48,7 @@ def measure(program):
 
 
 def run(report):
-    rows = []
+    rows, others = [], []
     with stage.backend():
         own = measure(stage.PANEL)
         rows.append(("**this panel**", number(own[0]), "1", number(own[1]), "1", number(own[2])))
@@ -61,8 +61,14 @@ def run(report):
             except (subprocess.SubprocessError, OSError) as failure:
                 rows.append((name, f"did not start: {type(failure).__name__}", "", "", "", ""))
                 continue
+            others.append((first, pss))
             rows.append((f"{name} (`{os.path.basename(program[0])}`)", number(first),
                          f"{first / own[0]:.1f}", number(pss), f"{pss / own[1]:.1f}", number(idle)))
     report.section("Peers", "Each on a bus of its own, with all processes it starts.\n\n" + table(
         ("program", "first painted window, ms", "÷ panel", "PSS, MiB", "÷ panel", "idle CPU, %"),
         rows))
+    if others:
+        report.goal("first painted frame ÷ that of the quickest peer",
+                    goal(own[0] / min(first for first, _ in others), 1))
+        report.goal("PSS ÷ that of the smallest peer",
+                    goal(own[1] / min(pss for _, pss in others), 1))

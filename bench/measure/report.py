@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What was measured, as it goes into the docs."""
 
+import json
 import os
 import platform
 import subprocess
@@ -14,7 +15,6 @@ class Report:
     def __init__(self):
         self._sections = []
         self._goals = []
-        self._remembered = {}
 
     def section(self, title, text):
         print(f"\n## {title}\n\n{text}", flush=True)
@@ -24,12 +24,14 @@ class Report:
         print(f"-> {what}: {' '.join(judged)}", flush=True)
         self._goals.append((what, *judged))
 
-    def remember(self, what, value):
-        """For a later section of the same run to compare with."""
-        self._remembered[what] = value
+    def save(self, path):
+        Path(path).write_text(json.dumps({"goals": self._goals, "sections": self._sections}))
 
-    def recall(self, what):
-        return self._remembered.get(what)
+    def add(self, path):
+        """What was saved there."""
+        saved = json.loads(Path(path).read_text())
+        self._goals += saved["goals"]
+        self._sections += saved["sections"]
 
     def write(self, path, preface):
         parts = [preface, machine()]

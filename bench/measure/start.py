@@ -30,4 +30,3 @@ def run(report, rounds=ROUNDS):
           told(settled[name], "ms")) for name in contenders]))
     report.goal("first painted frame ÷ bare Qt Quick floor",
                 goal(median(first["panel"]) / floor, 1.3))
-    report.remember("first frame of the panel", median(first["panel"]))
