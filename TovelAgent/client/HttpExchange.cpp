@@ -4,6 +4,8 @@
 #include "client/HttpExchange.h"
 
 #include <cstddef>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -31,7 +33,8 @@ HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
 
 /// `exchange`, on an executor that runs one handler at a time: a stream whose
 /// time runs out closes itself, wherever the coroutine is at that moment.
-asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits limits) {
+asio::awaitable<HttpOutcome> exchangeSerially(HttpRequest request, HttpLimits limits,
+                                              BodySink sink) {
   ErrorCode error;
   // A named token: GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
@@ -51,7 +54,7 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
     co_return failureOf(error, HttpFailure::brokenOff);
   }
 
-  AnswerReader answer(limits);
+  AnswerReader answer(limits, std::move(sink));
   auto state = AnswerReader::State::wantsMore;
   while (state == AnswerReader::State::wantsMore) {
     const auto space = answer.space();
@@ -62,17 +65,28 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
     }
     state = error ? answer.ended() : answer.received(count);
   }
-  co_return answer.takeResult();
+  co_return answer.outcome();
 }
 
 }  // namespace
 
-asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
+asio::awaitable<HttpOutcome> exchange(HttpRequest request, HttpLimits limits, BodySink sink) {
   const auto executor = co_await asio::this_coro::executor;
-  auto serial = exchangeSerially(std::move(request), limits);
+  auto serial = exchangeSerially(std::move(request), limits, std::move(sink));
   auto completion =
       asio::co_spawn(asio::make_strand(executor), std::move(serial), asio::use_awaitable);
   co_return co_await std::move(completion);
+}
+
+asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
+  std::string body;
+  BodySink keep = [&body](std::string_view piece, auto /*left*/) { body += piece; };
+  auto exchanged = exchange(std::move(request), limits, std::move(keep));
+  const auto outcome = co_await std::move(exchanged);
+  if (!outcome) {
+    co_return outcome.error();
+  }
+  co_return HttpAnswer{*outcome, std::move(body)};
 }
 
 }  // namespace quillmark

@@ -4,8 +4,12 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/ip/tcp.hpp>
@@ -43,14 +47,24 @@ enum class HttpFailure {
   tooLarge,      ///< more came than `HttpLimits` allows
 };
 
+/// The answer's status.
+using HttpOutcome = boost::system::result<unsigned, HttpFailure>;
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 
-/// Sends `request` over a connection of its own and completes with the answer,
-/// whatever its status, or with what kept it from coming whole. Follows no
-/// redirect, asks for no compression, keeps nothing. Runs on the awaiting
-/// coroutine's executor, which may have several threads, and blocks none of them.
-/// Throws `std::bad_alloc`, and `std::length_error` for a token that is longer
-/// than a header field may be.
+/// Takes a body as it comes, piece by piece. `left` more bytes are announced, or
+/// nobody knows how many. What it throws ends the exchange.
+using BodySink = std::function<void(std::string_view piece, std::optional<std::size_t> left)>;
+
+/// Sends `request` over a connection of its own and completes with the answer's
+/// status, whatever it is, or with what kept the answer from coming whole: then
+/// what `sink` took is of no use. Follows no redirect, asks for no compression,
+/// keeps nothing. Runs on the awaiting coroutine's executor, which may have
+/// several threads, and blocks none of them. Throws `std::bad_alloc`, and
+/// `std::length_error` for a token that is longer than a header field may be.
+[[nodiscard]] boost::asio::awaitable<HttpOutcome> exchange(HttpRequest request, HttpLimits limits,
+                                                           BodySink sink);
+
+/// The same, for who wants the body whole.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

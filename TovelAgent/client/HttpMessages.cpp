@@ -3,8 +3,6 @@
 
 #include "client/HttpMessages.h"
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -18,20 +16,11 @@ using ErrorCode = boost::system::error_code;
 
 constexpr std::size_t readSize = std::size_t{64} * 1024;
 constexpr int maxInterimAnswers = 16;
-constexpr std::size_t longBody = std::size_t{1024} * 1024;
 
 // A chunked body always ends with as many bytes that only make sense together.
 // The parser must not see fewer: it counts on them once it has met the last
 // chunk's size.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
-
-/// A text that grows by doubling is held twice while it is copied. Room for the
-/// longest body costs addresses alone: memory is what has been written to.
-void makeRoomOnce(std::string& body, std::uint64_t longest) {
-  if (body.size() >= longBody && body.capacity() < longest) {
-    body.reserve(longest);
-  }
-}
 
 bool exceedsLimit(const ErrorCode& error) {
   return error == http::error::header_limit || error == http::error::body_limit;
@@ -50,7 +39,10 @@ http::request<http::empty_body> requestMessage(const HttpRequest& request) {
   return result;
 }
 
-AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
+AnswerReader::AnswerReader(const HttpLimits& limits, BodySink sink)
+    : limits_(limits), sink_(std::move(sink)) {
+  startAnswer();
+}
 
 boost::asio::mutable_buffer AnswerReader::space() { return buffer_.prepare(readSize); }
 
@@ -68,9 +60,6 @@ AnswerReader::State AnswerReader::received(std::size_t count) {
     const std::size_t used = parser_->put(buffer_.data(), error);
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
-    if (!inHeader && !parser_->content_length()) {
-      makeRoomOnce(parser_->get().body(), limits_.bodyBytes);
-    }
     const bool needsMore = error == http::error::need_more;
     // What it then leaves is a piece of the header, a chunk's or trailer's line.
     if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
@@ -107,12 +96,11 @@ AnswerReader::State AnswerReader::ended() {
   return error ? fail(HttpFailure::brokenOff) : State::done;
 }
 
-HttpResult AnswerReader::takeResult() {
+HttpOutcome AnswerReader::outcome() const {
   if (failure_) {
     return *failure_;
   }
-  auto& answer = parser_->get();
-  return HttpAnswer{answer.result_int(), std::move(answer.body())};
+  return parser_->get().result_int();
 }
 
 AnswerReader::State AnswerReader::fail(HttpFailure failure) {
@@ -123,6 +111,7 @@ AnswerReader::State AnswerReader::fail(HttpFailure failure) {
 void AnswerReader::startAnswer() {
   headerSize_ = 0;
   parser_.emplace();
+  parser_->get().body() = &sink_;
   parser_->header_limit(limits_.headerBytes);
   parser_->body_limit(limits_.bodyBytes);
 }

@@ -10,9 +10,9 @@
 #include <boost/beast/http/empty_body.hpp>
 #include <boost/beast/http/message.hpp>
 #include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/string_body.hpp>
 
 #include "client/HttpExchange.h"
+#include "client/PassingBody.h"
 
 namespace quillmark {
 
@@ -21,11 +21,14 @@ namespace quillmark {
 [[nodiscard]] boost::beast::http::request<boost::beast::http::empty_body> requestMessage(
     const HttpRequest& request);
 
-/// Collects the final answer from the bytes of one connection, however they are
-/// cut into pieces; interim answers are passed over. Knows no socket.
+/// Reads the final answer from the bytes of one connection, however they are cut
+/// into pieces, and passes its body on; interim answers are passed over. Knows
+/// no socket.
 class AnswerReader final {
  public:
-  explicit AnswerReader(const HttpLimits& limits);
+  AnswerReader(const HttpLimits& limits, BodySink sink);
+  AnswerReader(const AnswerReader&) = delete;
+  AnswerReader& operator=(const AnswerReader&) = delete;
 
   enum class State { wantsMore, done, failed };
 
@@ -36,17 +39,18 @@ class AnswerReader final {
   /// The server will send nothing more.
   [[nodiscard]] State ended();
 
-  /// The answer, or what kept it from coming; once, when the reading is over.
-  [[nodiscard]] HttpResult takeResult();
+  /// The answer's status, or what kept it from coming, when the reading is over.
+  [[nodiscard]] HttpOutcome outcome() const;
 
  private:
-  using Parser = boost::beast::http::response_parser<boost::beast::http::string_body>;
+  using Parser = boost::beast::http::response_parser<PassingBody>;
 
   [[nodiscard]] State fail(HttpFailure failure);
   void startAnswer();
   [[nodiscard]] bool isInterim() const;
 
   HttpLimits limits_;
+  BodySink sink_;
   boost::beast::flat_buffer buffer_;
   std::optional<Parser> parser_;
   std::optional<HttpFailure> failure_;

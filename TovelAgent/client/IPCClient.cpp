@@ -9,7 +9,9 @@
 #include "client/AccessToken.h"
 #include "client/AgentRequest.h"
 #include "client/HttpExchange.h"
-#include "model/Codec.h"
+#include "model/AlertsResponse.h"
+#include "model/Decoder.h"
+#include "model/NetworkResponse.h"
 
 namespace quillmark {
 namespace {
@@ -62,13 +64,17 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     request->method = method;
     request->token = *authToken;
 
+    Decoder<R> decoder;
+    BodySink sink = [&decoder](std::string_view piece, std::optional<std::size_t> left) {
+      decoder.take(piece, left);
+    };
     const HttpLimits limits;
-    auto exchanged = exchange(std::move(*request), limits);
-    const auto answer = co_await std::move(exchanged);
-    if (!answer) {
+    auto exchanged = exchange(std::move(*request), limits, std::move(sink));
+    const auto outcome = co_await std::move(exchanged);
+    if (!outcome) {
       co_return std::nullopt;
     }
-    auto decoded = decode<R>(answer->body);
+    auto decoded = decoder.finish();
     if (!decoded) {
       co_return std::nullopt;
     }

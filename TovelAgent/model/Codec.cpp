@@ -3,23 +3,17 @@
 
 #include "model/Codec.h"
 
-#include <utility>
-
 #include <boost/json/serialize.hpp>
 
-#include "model/JsonReader.h"
-#include "model/JsonShape.h"
 #include "model/JsonWriter.h"
 
 namespace quillmark {
 
 template <Record R>
 Decoded<R> decode(std::string_view json) {
-  R record;
-  if (auto failure = readJson(json, JsonShapeOf<R>::shape, &record)) {
-    return std::move(*failure);
-  }
-  return record;
+  Decoder<R> decoder;
+  decoder.take(json, 0);
+  return decoder.finish();
 }
 
 template <Record R>

@@ -6,23 +6,16 @@
 #include <string>
 #include <string_view>
 
-#include <boost/system/result.hpp>
-
 #include "model/AgentStatus.h"
 #include "model/AlertsResponse.h"
-#include "model/DecodeError.h"
+#include "model/Decoder.h"
 #include "model/Field.h"
 #include "model/InventoryData.h"
 #include "model/NetworkResponse.h"
 
 namespace quillmark {
 
-template <Record R>
-using Decoded = boost::system::result<R, DecodeError>;
-
-/// Reads one JSON object into a record by its field table: the whole record,
-/// or the first failure in table order. Keys outside the table are ignored,
-/// whatever they hold. Throws `std::bad_alloc` only. Any thread.
+/// Reads one JSON object that is there whole, as `Decoder` does. Any thread.
 template <Record R>
 [[nodiscard]] Decoded<R> decode(std::string_view json);
 

@@ -7,6 +7,7 @@
 #include <bit>
 #include <cmath>
 #include <functional>
+#include <new>
 
 namespace quillmark {
 namespace {
@@ -37,6 +38,13 @@ DecodeError within(std::string step, DecodeError failure) {
 }
 
 }  // namespace
+
+void JsonFiller::goesOn(std::string_view piece, std::optional<std::size_t> left) {
+  before_ += piece_.size();
+  piece_ = piece;
+  heard_ = piece.data();
+  after_ = left;
+}
 
 bool JsonFiller::on_object_begin(ErrorCode& /*error*/) {
   begin(Kind::object);
@@ -89,7 +97,7 @@ bool JsonFiller::on_string_part(Text text, std::size_t /*size*/, ErrorCode& /*er
     beginString();
   }
   if (string_ != nullptr) {
-    string_->append(text.data(), text.size());
+    append(text);
   }
   return true;
 }
@@ -182,10 +190,11 @@ JsonFiller::Target JsonFiller::nextElement(Open& array) const {
   // What was read tells how many will come. Reserved in vain this costs
   // nothing; growing without it holds the elements twice.
   constexpr std::size_t enough = 32;
-  if (array.current >= enough && std::has_single_bit(array.current)) {
-    const auto read = static_cast<double>(position_ - array.start);
-    const auto left = static_cast<double>(json_.data() + json_.size() - position_);
-    const auto more = static_cast<double>(array.current) * left / std::max(read, 1.0);
+  const auto left = this->left();
+  if (left && array.current >= enough && std::has_single_bit(array.current)) {
+    const auto read = static_cast<double>(position() - array.start);
+    const auto more =
+        static_cast<double>(array.current) * static_cast<double>(*left) / std::max(read, 1.0);
     constexpr double margin = 1.02;
     shape->reserve(place, array.current + 1 + static_cast<std::size_t>(more * margin));
   }
@@ -217,7 +226,7 @@ void JsonFiller::begin(Kind kind) {
     if (kind == Kind::array) {
       target.shape->clear(target.place);
     }
-    open_.push_back({target, position_});
+    open_.push_back({target, position()});
   }
 }
 
@@ -274,12 +283,37 @@ void JsonFiller::number(std::optional<std::int64_t> whole) {
   }
 }
 
+// A string that grows by doubling is held twice while it is copied. Room for all
+// that can come costs addresses alone: memory is what has been written to.
+void JsonFiller::append(Text text) {
+  constexpr std::size_t longString = std::size_t{1024} * 1024;
+  constexpr std::size_t roomForAny = 256 * longString;
+  const auto size = string_->size() + text.size();
+  if (size > string_->capacity() && size >= longString) {
+    try {
+      string_->reserve(size + left().value_or(roomForAny));
+    } catch (const std::bad_alloc&) {
+      // Where addresses are counted as memory it grows like any other.
+    }
+  }
+  string_->append(text.data(), text.size());
+}
+
 // A text that had to be unescaped lies elsewhere and tells nothing.
 void JsonFiller::heard(Text text) {
-  const auto* const end = json_.data() + json_.size();
-  if (!std::less<>()(text.data(), position_) && !std::less<>()(end, text.data())) {
-    position_ = text.data();
+  const auto* const end = piece_.data() + piece_.size();
+  if (!std::less<>()(text.data(), heard_) && !std::less<>()(end, text.data())) {
+    heard_ = text.data();
   }
+}
+
+std::size_t JsonFiller::position() const {
+  return before_ + static_cast<std::size_t>(heard_ - piece_.data());
+}
+
+/// How much of the text is not read yet, where that is known.
+std::optional<std::size_t> JsonFiller::left() const {
+  return after_ ? std::optional(before_ + piece_.size() + *after_ - position()) : std::nullopt;
 }
 
 // The value that is read has come, and what failed of it before counts no more.

@@ -30,8 +30,11 @@ class JsonFiller final {
   using Text = boost::json::string_view;
   using ErrorCode = boost::json::error_code;
 
-  JsonFiller(std::string_view json, const JsonShape& shape, void* place)
-      : json_(json), position_(json.data()), root_{&shape, place} {}
+  JsonFiller(const JsonShape& shape, void* place) : root_{&shape, place} {}
+
+  /// The parser goes on with `piece`, which `left` more bytes will follow,
+  /// nobody knows how many without a value.
+  void goesOn(std::string_view piece, std::optional<std::size_t> left);
 
   /// What kept the value from being filled, once the parser is done.
   [[nodiscard]] std::optional<DecodeError> takeFailure() { return std::move(failure_); }
@@ -73,7 +76,7 @@ class JsonFiller final {
   /// An object or array that has begun and not ended.
   struct Open {
     Target target;
-    const char* start;           ///< where in the text it begins
+    std::size_t start;           ///< where in the text it begins
     std::size_t current = none;  ///< the index of the member or element that is read
     std::uint64_t seen = 0;      ///< a bit for each member that came
     std::vector<std::pair<std::size_t, DecodeError>> failures = {};  ///< by index
@@ -87,14 +90,19 @@ class JsonFiller final {
   void end();
   void beginString();
   void number(std::optional<std::int64_t> whole);
+  void append(Text text);
   void heard(Text text);
+  [[nodiscard]] std::size_t position() const;
+  [[nodiscard]] std::optional<std::size_t> left() const;
 
   void came();
   void fail(DecodeError failure);
   void mismatch(const Target& target, std::string_view found);
 
-  std::string_view json_;
-  const char* position_;  ///< in the text, as far as the events told
+  std::string_view piece_;
+  const char* heard_ = nullptr;  ///< where in the piece, as far as the events told
+  std::size_t before_ = 0;       ///< how much of the text came before the piece
+  std::optional<std::size_t> after_;
   Target root_;
   std::optional<DecodeError> failure_;
   std::vector<Open> open_;

@@ -17,7 +17,8 @@ using State = AnswerReader::State;
 
 /// The body of an answer that comes in pieces of this size.
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
-  AnswerReader reader(HttpLimits{});
+  std::string body;
+  AnswerReader reader(HttpLimits{}, [&](std::string_view part, auto /*left*/) { body += part; });
   auto state = State::wantsMore;
   while (state == State::wantsMore && !answer.empty()) {
     const auto piece = answer.substr(0, pieceSize);
@@ -28,8 +29,7 @@ std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pie
   if (state == State::wantsMore) {
     state = reader.ended();
   }
-  const auto result = reader.takeResult();
-  return result ? std::optional(result->body) : std::nullopt;
+  return reader.outcome() ? std::optional(body) : std::nullopt;
 }
 
 testing::AssertionResult isSameInPieces(const std::string& answer,
