@@ -40,5 +40,8 @@ Item {
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
+        // Not to be seen. A box without it counts for the renderer as hiding every
+        // pixel it touches, and what it only touches stays unpainted.
+        opacity: 0.999
     }
 }

@@ -51,6 +51,22 @@ def test_lines_between_rows_are_equally_thick(launch, scale):
     assert len(lines) >= 7 and len(set(lines[1:-1])) == 1, lines
 
 
+@pytest.mark.parametrize("scale", ["1", "1.25", "1.5", "1.75", "2"])
+def test_rows_leave_no_trace_when_they_shrink(launch, backend, scale):
+    short = bodies.alerts(*(bodies.alert(f"Alert {n}", description="a word") for n in range(3)))
+    long = bodies.alerts(*(bodies.alert("many words " * 1000, description="and more " * 1000)
+                           for _ in range(20)))
+    panel = launch({"alerts": short}, QT_SCALE_FACTOR=scale)
+    panel.show("Alerts")
+    hands.park()
+    panel.tree.wait_for("text", "Alert 0")
+    before = Picture.settled(SCREEN[0])
+    for bodies_sent, told in (long, "many words "), (short, "Alert 0"):
+        backend.reply(alerts=bodies_sent)
+        panel.tree.wait_for_beginning("text", told)
+    assert Picture.settled(SCREEN[0]).whole() == before.whole()
+
+
 # The resource a desktop sets when texts shall be larger, and Qt's own word for it.
 @pytest.mark.parametrize("environment, resource", [
     ({}, "Xft.dpi:\t192"), ({"QT_FONT_DPI": "192"}, "Xft.dpi:\t96"),
