@@ -3,8 +3,11 @@
 
 #include "client/HttpMessages.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
+
+#include <boost/beast/core/buffers_prefix.hpp>
 
 namespace quillmark {
 namespace {
@@ -56,11 +59,17 @@ AnswerReader::State AnswerReader::received(std::size_t count) {
       return State::wantsMore;
     }
     parser_->eager(!inHeader);
+    // A chunk's line or a trailer is as short as a header, even if it came at once.
+    const auto all = buffer_.size();
+    const auto shown = inHeader ? all : std::min<std::size_t>(all, limits_.headerBytes);
     ErrorCode error;
-    const std::size_t used = parser_->put(buffer_.data(), error);
+    const std::size_t used = parser_->put(beast::buffers_prefix(shown, buffer_.data()), error);
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
+    if (needsMore && used > 0 && shown < all) {
+      continue;
+    }
     // What it then leaves is a piece of the header, a chunk's or trailer's line.
     if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
       return fail(HttpFailure::tooLarge);

@@ -36,20 +36,20 @@ const SeverityLook& lookOf(const QString& severity) {
 
 }  // namespace
 
-AlertPresentation present(const ThreatAlert& alert) {
-  const auto severity = QString::fromStdString(alert.severity);
+AlertPresentation present(const Snapshot<ThreatAlert>& alert) {
+  const auto severity = shortened(alert->severity);
   const auto& look = lookOf(severity);
+  const auto typeAloud = shortened(alert->alert_type);
 
   AlertPresentation row;
   row.severityIcon = look.icon;
   row.severityColor = look.color;
-  row.alertType = QString::fromStdString(alert.alert_type);
-  row.accessibleName =
-      severity.isEmpty() ? row.alertType : severity + QStringLiteral(": ") + row.alertType;
-  if (alert.description) {
+  row.alertType = LongText({alert, &alert->alert_type});
+  row.accessibleName = severity.isEmpty() ? typeAloud : severity + QStringLiteral(": ") + typeAloud;
+  if (alert->description) {
     row.hasDescription = true;
-    row.description = QString::fromStdString(*alert.description);
-    row.accessibleName += QStringLiteral(", ") + row.description;
+    row.description = LongText({alert, &*alert->description});
+    row.accessibleName += QStringLiteral(", ") + shortened(*alert->description);
   }
   return row;
 }

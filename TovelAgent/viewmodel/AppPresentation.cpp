@@ -5,14 +5,14 @@
 
 namespace quillmark {
 
-AppPresentation present(const InstalledApp& app) {
+AppPresentation present(const Snapshot<InstalledApp>& app) {
   AppPresentation row;
-  row.name = QString::fromStdString(app.name);
-  row.accessibleName = row.name;
-  if (app.version) {
+  row.name = LongText({app, &app->name});
+  row.accessibleName = shortened(app->name);
+  if (app->version) {
     row.hasVersion = true;
-    row.version = QString::fromStdString("v" + *app.version);
-    row.accessibleName += QStringLiteral(", ") + row.version;
+    row.version = LongText({app, &*app->version}, QStringLiteral("v"));
+    row.accessibleName += QStringLiteral(", v") + shortened(*app->version);
   }
   return row;
 }

@@ -7,6 +7,8 @@
 #include <QString>
 
 #include "model/InstalledApp.h"
+#include "viewmodel/LongText.h"
+#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -14,18 +16,18 @@ namespace quillmark {
 struct AppPresentation {
   Q_GADGET
   QML_VALUE_TYPE(appPresentation)
-  Q_PROPERTY(QString name MEMBER name CONSTANT)
+  Q_PROPERTY(quillmark::LongText name MEMBER name CONSTANT)
   Q_PROPERTY(bool hasVersion MEMBER hasVersion CONSTANT)
-  Q_PROPERTY(QString version MEMBER version CONSTANT)
+  Q_PROPERTY(quillmark::LongText version MEMBER version CONSTANT)
   Q_PROPERTY(QString accessibleName MEMBER accessibleName CONSTANT)
 
  public:
-  QString name;
+  LongText name;
   bool hasVersion = false;  ///< an empty version is one too
-  QString version;          ///< with a "v" in front
+  LongText version;         ///< with a "v" in front
   QString accessibleName;   ///< the row read aloud
 };
 
-[[nodiscard]] AppPresentation present(const InstalledApp& app);
+[[nodiscard]] AppPresentation present(const Snapshot<InstalledApp>& app);
 
 }  // namespace quillmark

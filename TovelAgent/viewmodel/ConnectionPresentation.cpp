@@ -3,15 +3,26 @@
 
 #include "viewmodel/ConnectionPresentation.h"
 
+#include <string_view>
+
+#include "viewmodel/LongText.h"
+
 namespace quillmark {
 
-ConnectionPresentation present(const NetworkConnection& connection) {
+namespace {
+
+QString endpoint(std::string_view address, std::string_view port) {
+  return shortened(address) + QLatin1Char(':') + shortened(port);
+}
+
+}  // namespace
+
+ConnectionPresentation present(const Snapshot<NetworkConnection>& connection) {
   ConnectionPresentation row;
-  row.localEndpoint =
-      QString::fromStdString(connection.local_address + ":" + connection.local_port);
+  row.localEndpoint = endpoint(connection->local_address, connection->local_port);
   row.remoteEndpoint =
-      QString::fromStdString("\u2192 " + connection.remote_address + ":" + connection.remote_port);
-  row.state = QString::fromStdString(connection.state);
+      QStringLiteral("→ ") + endpoint(connection->remote_address, connection->remote_port);
+  row.state = shortened(connection->state);
   row.accessibleName =
       QStringList{row.localEndpoint, row.remoteEndpoint, row.state}.join(QStringLiteral(", "));
   return row;

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "model/NetworkConnection.h"
+#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -27,6 +28,6 @@ struct ConnectionPresentation {
 };
 
 /// Joins the texts as they are; brackets round an IPv6 address are not added.
-[[nodiscard]] ConnectionPresentation present(const NetworkConnection& connection);
+[[nodiscard]] ConnectionPresentation present(const Snapshot<NetworkConnection>& connection);
 
 }  // namespace quillmark

@@ -91,23 +91,24 @@ boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardV
 }
 
 void DashboardViewModel::assign(PollResult result) {
-  PollResult before{status_, alerts_, networkConnections_, inventory_};
-  publish(status_, std::move(result.status), &DashboardViewModel::statusChanged);
-  publish(alerts_, std::move(result.alerts), &DashboardViewModel::alertsChanged);
-  publish(networkConnections_, std::move(result.networkConnections),
+  publish(status_, result.status, &DashboardViewModel::statusChanged);
+  publish(alerts_, result.alerts, &DashboardViewModel::alertsChanged);
+  publish(networkConnections_, result.networkConnections,
           &DashboardViewModel::networkConnectionsChanged);
-  publish(inventory_, std::move(result.inventory), &DashboardViewModel::inventoryChanged);
-  // A long list takes longer to free than a window may take to answer. At the
-  // very end a poll may arrive after the executor has gone.
+  publish(inventory_, result.inventory, &DashboardViewModel::inventoryChanged);
+  // What was there before takes longer to free than a window may take to answer.
+  // At the very end a poll may arrive after the executor has gone.
   if (TaskExecutor::exists()) {
-    boost::asio::post(TaskExecutor::current(), [before = std::move(before)] {});
+    boost::asio::post(TaskExecutor::current(), [before = std::move(result)] {});
   }
 }
 
+/// Leaves the field's value of before in `value`.
 template <class Value>
-void DashboardViewModel::publish(Value& field, Value value, void (DashboardViewModel::*changed)()) {
+void DashboardViewModel::publish(Value& field, Value& value,
+                                 void (DashboardViewModel::*changed)()) {
   Q_EMIT objectWillChange();
-  field = std::move(value);
+  std::swap(field, value);
   Q_EMIT(this->*changed)();
 }
 

@@ -97,7 +97,7 @@ class DashboardViewModel final : public QObject,
   void showCards();
 
   template <class Value>
-  void publish(Value& field, Value value, void (DashboardViewModel::*changed)());
+  void publish(Value& field, Value& value, void (DashboardViewModel::*changed)());
 
   std::optional<AgentStatus> status_;
   Snapshot<std::vector<ThreatAlert>> alerts_;

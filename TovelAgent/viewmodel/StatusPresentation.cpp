@@ -4,6 +4,7 @@
 #include "viewmodel/StatusPresentation.h"
 
 #include "viewmodel/FormatDate.h"
+#include "viewmodel/LongText.h"
 
 namespace quillmark {
 
@@ -11,13 +12,12 @@ StatusPresentation present(const std::optional<AgentStatus>& status) {
   const auto threatCount = status ? status->threat_count : 0;
 
   StatusPresentation header;
-  header.status =
-      status ? QString::fromStdString(status->status).toUpper() : QStringLiteral("OFFLINE");
+  header.status = status ? shortened(status->status).toUpper() : QStringLiteral("OFFLINE");
   header.statusIsHealthy = status && status->status == "ok";
   header.threats = QString::number(threatCount);
   header.threatsAreHealthy = threatCount == 0;
   header.hasLastScan = status.has_value();
-  header.lastScan = status ? formatDate(QString::fromStdString(status->last_scan)) : QString();
+  header.lastScan = status ? formatDate(shortened(status->last_scan)) : QString();
   return header;
 }
 

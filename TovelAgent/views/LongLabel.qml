@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Quillmark.ViewModel
 import Quillmark.Views
 
 /// A text of whatever length in a row of a list. One that would take long to lay
@@ -11,7 +12,7 @@ import Quillmark.Views
 Column {
     id: label
 
-    required property string text
+    required property longText text
     required property int size
     property int weight: Font.Normal
     property color color: Theme.text
@@ -33,6 +34,7 @@ Column {
 
     // With the height of the pieces so far, and a chance for all else between.
     onPositioningComplete: next.start()
+    onTextChanged: next.start()
 
     Timer {
         id: next

@@ -15,10 +15,13 @@ namespace {
 
 using State = AnswerReader::State;
 
+// Just enough for what is read here, so that a little more than that is too much.
+constexpr HttpLimits limits{.headerBytes = 64};
+
 /// The body of an answer that comes in pieces of this size.
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
   std::string body;
-  AnswerReader reader(HttpLimits{}, [&](std::string_view part, auto /*left*/) { body += part; });
+  AnswerReader reader(limits, [&](std::string_view part, auto /*left*/) { body += part; });
   auto state = State::wantsMore;
   while (state == State::wantsMore && !answer.empty()) {
     const auto piece = answer.substr(0, pieceSize);
@@ -55,6 +58,18 @@ TEST(AnswerReaderInPieces, ReadsTheSameBody) {
 TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
+  const auto longBody = std::string(100, 'x');
+  EXPECT_TRUE(isSameInPieces(chunkedHeader + "64\r\n" + longBody + "\r\n0\r\n\r\n", longBody));
+}
+
+TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {
+  const std::string fifty(50, 'y');
+  const auto answer = [](const std::string& extension, const std::string& trailer) {
+    return chunkedHeader + "1;" + extension + "\r\nx\r\n0\r\nX: " + trailer + "\r\n\r\n";
+  };
+  EXPECT_TRUE(isSameInPieces(answer(fifty, fifty), "x"));
+  EXPECT_TRUE(isSameInPieces(answer(fifty + fifty, ""), std::nullopt));
+  EXPECT_TRUE(isSameInPieces(answer("", fifty + fifty), std::nullopt));
 }
 
 // The size of the last chunk is then the first thing of the body.

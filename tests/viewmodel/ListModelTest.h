@@ -35,7 +35,7 @@ using Told = std::vector<std::string>;
   const int role = model.roleNames().key("app");
   for (int row = 0; row < model.rowCount(); ++row) {
     const auto value = model.data(model.index(row), role).value<AppPresentation>();
-    letters += value.name.toStdString();
+    letters += value.name.beginning().toStdString();
   }
   return letters;
 }
@@ -61,8 +61,13 @@ class ListModelTest : public testing::Test {
   /// What `model_` tells when it goes from `before` to `after`.
   Told toldBetween(const std::string& before, const std::string& after) {
     model_.show(rowsOf(before));
+    return toldWith(rowsOf(after));
+  }
+
+  /// What `model_` tells when it goes on to these rows.
+  Told toldWith(Model::Rows rows) {
     told_.clear();
-    model_.show(rowsOf(after));
+    model_.show(std::move(rows));
     return told_;
   }
 

@@ -3,75 +3,88 @@
 
 #include "views/TextPieces.h"
 
-#include <QStringList>
+#include <memory>
+#include <string>
+
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
 namespace quillmark::test {
 namespace {
 
-QStringList piecesOf(const QString& text) {
-  TextPieces model;
-  model.setText(text);
-  EXPECT_EQ(model.rowCount(), 1) << "all but the first wait until they are asked for";
-  while (model.hasNext()) {
-    model.showNext();
+class TextPiecesTest : public testing::Test {
+ protected:
+  /// Shows a text, of which there is no other copy.
+  void show(const std::string& text) {
+    auto before = std::exchange(text_, std::make_shared<const std::string>(text));
+    model_.setText(LongText(text_));
   }
-  QStringList pieces;
-  for (int i = 0; i < model.rowCount(); ++i) {
-    pieces.push_back(model.data(model.index(i), Qt::DisplayRole).toString());
-  }
-  return pieces;
-}
 
-TEST(PiecesOfText, AreTheTextItselfUnlessItIsLong) {
-  for (const int length : {0, 1, 4000}) {
-    const QString text(length, QLatin1Char('x'));
-    EXPECT_EQ(piecesOf(text), QStringList{text});
-  }
-}
-
-TEST(PiecesOfText, MakeUpTheText) {
-  for (const char* const part :
-       {"x", "word ", "a line\n", "\xF0\x9F\x90\x9E", " \xF0\x9F\x90\x9E"}) {
-    const auto text = QString::fromUtf8(part).repeated(9001);
-    const auto pieces = piecesOf(text);
-    EXPECT_GT(pieces.size(), 1);
-    EXPECT_TRUE(pieces.join(QString()) == text) << part;
-    for (const auto& piece : pieces) {
-      EXPECT_LE(piece.size(), 4200);
-      EXPECT_FALSE(piece.isEmpty());
+  [[nodiscard]] QString shown() const {
+    QString text;
+    for (int row = 0; row < model_.rowCount(); ++row) {
+      text += model_.data(model_.index(row), Qt::DisplayRole).toString();
     }
+    return text;
   }
+
+  TextPieces model_;
+  QSignalSpy resets_{&model_, &QAbstractItemModel::modelReset};
+
+ private:
+  std::shared_ptr<const std::string> text_;
+};
+
+TEST_F(TextPiecesTest, ShowsAllButTheFirstWhenAskedTo) {
+  show(std::string(9000, 'x'));
+  EXPECT_FALSE(model_.isShort());
+  EXPECT_EQ(model_.rowCount(), 1);
+  EXPECT_TRUE(model_.showNext());
+  EXPECT_TRUE(model_.showNext());
+  EXPECT_EQ(shown(), QString(9000, QLatin1Char('x')));
+  EXPECT_FALSE(model_.showNext());
+  EXPECT_EQ(model_.rowCount(), 3);
 }
 
-TEST(PiecesOfText, EndWithWhiteSpaceWhereThereIsSome) {
-  auto pieces = piecesOf(QStringLiteral("four ").repeated(5001));
-  pieces.removeLast();
-  for (const auto& piece : pieces) {
-    EXPECT_TRUE(piece.back().isSpace());
-  }
+TEST_F(TextPiecesTest, ShowsAShortTextWhole) {
+  show("short");
+  EXPECT_TRUE(model_.isShort());
+  EXPECT_EQ(shown(), QStringLiteral("short"));
+  EXPECT_FALSE(model_.showNext());
 }
 
-TEST(PiecesOfText, BeginAnewWithANewText) {
-  TextPieces model;
-  model.setText(QString(9000, QLatin1Char('x')));
-  EXPECT_FALSE(model.isShort());
-  model.showNext();
-  EXPECT_EQ(model.rowCount(), 2);
-  model.setText(QStringLiteral("short"));
-  EXPECT_TRUE(model.isShort());
-  EXPECT_EQ(model.rowCount(), 1);
-  EXPECT_FALSE(model.hasNext());
+TEST_F(TextPiecesTest, ShowsAnEmptyTextAsALine) {
+  show("");
+  EXPECT_EQ(model_.rowCount(), 1);
 }
 
-TEST(PiecesOfText, KeepTheHalvesOfACharacterTogether) {
-  // At an odd place, so that a piece would end amid a character.
-  const auto text = QStringLiteral("x") + QString::fromUtf8("\xF0\x9F\x90\x9E").repeated(4000);
-  for (const auto& piece : piecesOf(text)) {
-    EXPECT_FALSE(piece.front().isLowSurrogate());
-    EXPECT_FALSE(piece.back().isHighSurrogate());
-  }
+TEST_F(TextPiecesTest, BeginsAnewWithAnotherText) {
+  show(std::string(9000, 'x'));
+  EXPECT_TRUE(model_.showNext());
+  show(std::string(9000, 'y'));
+  EXPECT_EQ(model_.rowCount(), 1);
+  EXPECT_EQ(resets_.count(), 2);
+  show("y");
+  EXPECT_TRUE(model_.isShort());
+  EXPECT_EQ(shown(), QStringLiteral("y"));
+}
+
+TEST_F(TextPiecesTest, GoesOnWithTheSameTextFromAnotherSnapshot) {
+  show(std::string(9000, 'x'));
+  EXPECT_TRUE(model_.showNext());
+  show(std::string(8000, 'x') + "y");
+  EXPECT_EQ(model_.rowCount(), 2);
+  EXPECT_EQ(resets_.count(), 1);
+  EXPECT_TRUE(model_.showNext());
+  EXPECT_EQ(shown(), QString(8000, QLatin1Char('x')) + QLatin1Char('y'));
+}
+
+TEST_F(TextPiecesTest, BeginsAnewWithATextThatEndsEarlier) {
+  show(std::string(9000, 'x'));
+  EXPECT_TRUE(model_.showNext());
+  show(std::string(4000, 'x'));
+  EXPECT_EQ(shown(), QString(4000, QLatin1Char('x')));
 }
 
 }  // namespace

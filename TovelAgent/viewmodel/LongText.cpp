@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/LongText.h"
+
+#include <algorithm>
+
+namespace quillmark {
+namespace {
+
+// In bytes, of which a character may have four.
+constexpr std::size_t pieceLength = 4000;
+constexpr std::size_t longestWait = 200;  // for white space to end a piece with
+
+bool isBlank(char byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
+
+bool isAmidCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+/// Where the piece with this index begins, which depends on the text nearby alone.
+std::size_t beginOf(std::string_view text, std::size_t index) {
+  const auto latest = std::min(index * pieceLength, text.size());
+  if (latest == 0 || latest == text.size()) {
+    return latest;
+  }
+  const auto near = text.substr(latest - longestWait, longestWait);
+  if (const auto blank = std::find_if(near.rbegin(), near.rend(), isBlank); blank != near.rend()) {
+    return latest - static_cast<std::size_t>(blank - near.rbegin());
+  }
+  auto begin = latest;
+  while (begin > latest - longestWait && isAmidCharacter(text[begin])) {
+    --begin;
+  }
+  return begin;
+}
+
+QString pieceOf(std::string_view text, std::size_t index) {
+  const auto begin = beginOf(text, index);
+  const auto piece = text.substr(begin, beginOf(text, index + 1) - begin);
+  return QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size()));
+}
+
+}  // namespace
+
+LongText::LongText(const Snapshot<std::string>& text, const QString& before)
+    : beginning_(before + pieceOf(*text, 0)), isLong_(quillmark::isLong(*text)), text_(text) {}
+
+std::optional<QString> LongText::piece(std::size_t index) const {
+  if (index == 0) {
+    return beginning_;
+  }
+  const auto text = text_.lock();
+  return text && index * pieceLength < text->size() ? std::optional(pieceOf(*text, index))
+                                                    : std::nullopt;
+}
+
+bool isLong(std::string_view text) { return text.size() > pieceLength; }
+
+QString shortened(std::string_view text) {
+  return pieceOf(text, 0) + (isLong(text) ? QStringLiteral("…") : QString());
+}
+
+}  // namespace quillmark
