@@ -35,7 +35,7 @@ def under(attack, server, panel):
     time.sleep(SETTLING)
     idle = resident(panel.pid)
     since = time.monotonic()
-    with Peak(panel.pid, idle, server.body_bytes) as peak:
+    with Peak(panel.pid, idle, server.value_bytes) as peak:
         with server.attacking(attack):
             time.sleep(SECONDS)
             ended = time.monotonic()

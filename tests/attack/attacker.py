@@ -16,12 +16,11 @@ class Attacker(Backend):
         self._attack = None
         self._over = threading.Event()
         self._victims = []
-        self._longest_whole = 0
 
     @contextlib.contextmanager
     def attacking(self, attack):
         self._over.clear()
-        self._longest_whole = 0
+        self._victims.clear()
         self._attack = attack
         try:
             yield
@@ -29,26 +28,26 @@ class Attacker(Backend):
             self._attack = None
             self._over.set()
 
-    def body_bytes(self):
-        """What a client that keeps and shows bodies must hold: what was sent of
-        those under way, of which up to a socket buffer may not have been read
-        yet, and the longest that was sent whole."""
-        under_way = sum(victim.body_bytes for victim in list(self._victims))
-        return under_way + self._longest_whole
+    def value_bytes(self):
+        """What a client must hold that shows a value while the next one comes: what
+        was sent so far of the last two of each endpoint, of which up to a socket
+        buffer may not have been read yet."""
+        kept = {}
+        for victim in self._victims:
+            kept[victim.endpoint] = [*kept.get(victim.endpoint, [])[-1:], victim.value_bytes]
+        return sum(map(sum, kept.values()))
 
     def _serve(self, connection, number):
         if not (attack := self._attack):
             super()._serve(connection, number)
             return
         victim = Victim(connection, self._over)
-        self._victims.append(victim)
         with connection, contextlib.suppress(OSError):
-            if self._read(connection, number):
+            if request := self._read(connection, number):
+                victim.endpoint = request.endpoint
+                self._victims.append(victim)
                 attack(victim)
             self._await_end(connection)
-        if victim.is_whole:
-            self._longest_whole = max(self._longest_whole, victim.body_bytes)
-        self._victims.remove(victim)
 
     def _await_end(self, connection):
         """Until the panel has taken all and leaves."""

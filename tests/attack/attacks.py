@@ -13,20 +13,23 @@ BLOCK = b" " * (1 << 20)
 
 
 class Victim:
-    """A connection under attack; counts what of a body went into it."""
+    """A connection under attack; counts what went into it of a body that is a
+    value, which the panel has to keep."""
 
     def __init__(self, connection, over):
         self._connection = connection
         self._over = over
-        self.body_bytes = 0
-        self.is_whole = False
+        self.endpoint = None
+        self.value_bytes = 0
 
-    def head(self, data):
+    def send(self, data):
         self._connection.sendall(data)
 
-    def body(self, data):
-        self._connection.sendall(data)
-        self.body_bytes += len(data)
+    def value(self, data):
+        for begin in range(0, len(data), len(BLOCK)):
+            piece = data[begin:begin + len(BLOCK)]
+            self._connection.sendall(piece)
+            self.value_bytes += len(piece)
 
     def goes_on(self, pause=0.0):
         """False once the attack is over."""
@@ -39,33 +42,33 @@ class Victim:
 
 
 def endless_body(victim):
-    victim.head(OK + b"\r\n")
+    victim.send(OK + b"\r\n")
     while victim.goes_on():
-        victim.body(BLOCK)
+        victim.send(BLOCK)
 
 
 def endless_chunks(victim):
-    victim.head(OK + b"Transfer-Encoding: chunked\r\n\r\n")
+    victim.send(OK + b"Transfer-Encoding: chunked\r\n\r\n")
     chunk = b"4000\r\n" + BLOCK[:0x4000] + b"\r\n"
     while victim.goes_on():
-        victim.body(chunk * 64)
+        victim.send(chunk * 64)
 
 
 def endless_header_line(victim):
-    victim.head(OK + b"X: ")
+    victim.send(OK + b"X: ")
     while victim.goes_on():
-        victim.head(BLOCK)
+        victim.send(BLOCK)
 
 
 def million_headers(victim):
-    victim.head(OK + b"".join(b"X-%d: y\r\n" % i for i in range(1_000_000)) + b"\r\n{}")
+    victim.send(OK + b"".join(b"X-%d: y\r\n" % i for i in range(1_000_000)) + b"\r\n{}")
 
 
 def byte_every_half_second(victim):
     for byte in OK + b"X: " + b"y" * 1000:
         if not victim.goes_on(0.5):
             return
-        victim.head(bytes([byte]))
+        victim.send(bytes([byte]))
 
 
 def silence(victim):
@@ -73,33 +76,61 @@ def silence(victim):
         pass
 
 
-def whole(body):
-    """An answer that is complete, and far too much."""
+def whole(**values):
+    """Answers that are complete, and far too much."""
+    bodies_sent = {endpoint: json.dumps(value).encode() for endpoint, value in values.items()}
+
     def send(victim):
-        victim.head(OK + b"Content-Length: %d\r\n\r\n" % len(body))
-        victim.body(body)
-        victim.is_whole = True
+        body = bodies_sent.get(victim.endpoint, b"{}")
+        victim.send(OK + b"Content-Length: %d\r\n\r\n" % len(body))
+        victim.value(body)
     return send
 
 
 def huge_text():
     """In the first row of the Alerts tab."""
-    text = "x" * 100_000_000
-    return whole(json.dumps(bodies.alerts(bodies.alert(text))).encode())
+    return whole(alerts=bodies.alerts(bodies.alert("x" * 100_000_000)))
+
+
+def huge_texts():
+    """In every place that shows one."""
+    text = "many words " * 2_000_000
+    return whole(
+        status=bodies.status(status=text, last_scan=text),
+        alerts=bodies.alerts(bodies.alert(text, text, description=text)),
+        network=bodies.network({"local_address": text, "remote_port": text, "state": text}),
+        inventory=bodies.inventory(bodies.app(text, version=text), services=[text]))
+
+
+def huge_text_in_chunks():
+    """Of which nobody knows how long it will be."""
+    body = json.dumps(bodies.alerts(bodies.alert("x" * 100_000_000))).encode()
+    size = len(BLOCK)
+
+    def send(victim):
+        victim.send(OK + b"Transfer-Encoding: chunked\r\n\r\n")
+        for begin in range(0, len(body), size):
+            piece = body[begin:begin + size]
+            victim.send(b"%x\r\n" % len(piece))
+            victim.value(piece)
+            victim.send(b"\r\n")
+        victim.send(b"0\r\n\r\n")
+    return send
 
 
 def long_texts():
     """In as many rows as the Alerts tab shows."""
     texts = (bodies.alert("x" * 1_000_000, description="many words " * 100_000) for _ in range(100))
-    return whole(json.dumps(bodies.alerts(*texts)).encode())
+    return whole(alerts=bodies.alerts(*texts))
 
 
-def deep_nesting():
-    return whole(b'{"alerts":' + b"[" * 100_000 + b"]" * 100_000 + b"}")
+def deep_nesting(victim):
+    body = b'{"alerts":' + b"[" * 100_000 + b"]" * 100_000 + b"}"
+    victim.send(OK + b"Content-Length: %d\r\n\r\n" % len(body) + body)
 
 
 def resets(victim):
-    victim.head(OK + b"Content-Le")
+    victim.send(OK + b"Content-Le")
     victim.reset()
 
 
@@ -113,7 +144,9 @@ def every():
         "a byte every half second": byte_every_half_second,
         "silence": silence,
         "a text of 100 MB": huge_text(),
+        "a text of 100 MB in chunks": huge_text_in_chunks(),
+        "texts of 22 MB wherever one is shown": huge_texts(),
         "two hundred texts of 1 MB": long_texts(),
-        "nesting 100,000 deep": deep_nesting(),
+        "nesting 100,000 deep": deep_nesting,
         "resets amid the header": resets,
     }

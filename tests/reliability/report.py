@@ -66,11 +66,10 @@ def attacks(report, results):
                                          f"≤ {number(limit)}{unit}",
                                          "met" if held == len(found) else "**not met**"))
     report.section("Attacks", "The whole panel on its Alerts tab, twelve seconds of each. The "
-                   "body is what was sent of those under way and the longest that came "
-                   "whole; memory is sampled every 5 ms. When good values come depends on "
-                   "where between two polls an attack ends. Texts are shown as they are, "
-                   "however long: they are converted, measured and laid out on the UI "
-                   "thread.\n\n" + table(("attack", *(told for _, told, _, _ in ATTACK)), rows))
+                   "body is what was sent so far of a value and of the one before it, "
+                   "which is shown meanwhile; of whatever else comes nothing is to be "
+                   "kept. Memory is sampled every 5 ms. When good values come depends on "
+                   "where between two polls an attack ends.\n\n" + table(("attack", *(told for _, told, _, _ in ATTACK)), rows))
 
 
 def trouble(report, results):
