@@ -92,20 +92,21 @@ bool JsonFiller::on_key(Text text, std::size_t size, ErrorCode& error) {
 }
 
 bool JsonFiller::on_string_part(Text text, std::size_t /*size*/, ErrorCode& /*error*/) {
-  if (!inString_) {
-    inString_ = true;
+  if (!std::exchange(inString_, true)) {
     beginString();
   }
-  if (string_ != nullptr) {
-    append(text);
-  }
+  append(text);
   return true;
 }
 
-bool JsonFiller::on_string(Text text, std::size_t size, ErrorCode& error) {
+bool JsonFiller::on_string(Text text, std::size_t /*size*/, ErrorCode& /*error*/) {
   heard(text);
-  on_string_part(text, size, error);
-  inString_ = false;
+  if (std::exchange(inString_, false)) {
+    append(text);
+  } else if (beginString(); string_ != nullptr) {
+    // No larger than it need be, which it would be if it grew.
+    *string_ = std::string(text.data(), text.size());
+  }
   if (std::exchange(string_, nullptr) != nullptr) {
     came();
   }
@@ -288,6 +289,9 @@ void JsonFiller::number(std::optional<std::int64_t> whole) {
 void JsonFiller::append(Text text) {
   constexpr std::size_t longString = std::size_t{1024} * 1024;
   constexpr std::size_t roomForAny = 256 * longString;
+  if (string_ == nullptr) {
+    return;
+  }
   const auto size = string_->size() + text.size();
   if (size > string_->capacity() && size >= longString) {
     try {
