@@ -104,8 +104,12 @@ bool JsonFiller::on_string(Text text, std::size_t /*size*/, ErrorCode& /*error*/
   if (std::exchange(inString_, false)) {
     append(text);
   } else if (beginString(); string_ != nullptr) {
-    // No larger than it need be, which it would be if it grew.
-    *string_ = std::string(text.data(), text.size());
+    if (text.size() <= string_->capacity()) {
+      string_->assign(text.data(), text.size());
+    } else {
+      // No larger than it need be, which it would be if it grew.
+      *string_ = std::string(text.data(), text.size());
+    }
   }
   if (std::exchange(string_, nullptr) != nullptr) {
     came();
@@ -187,19 +191,25 @@ JsonFiller::Target JsonFiller::nextElement(Open& array) const {
     return {};
   }
   ++array.current;
-  const auto& [shape, place] = array.target;
-  // What was read tells how many will come. Reserved in vain this costs
-  // nothing; growing without it holds the elements twice.
   constexpr std::size_t enough = 32;
-  const auto left = this->left();
-  if (left && array.current >= enough && std::has_single_bit(array.current)) {
+  if (array.current >= enough && std::has_single_bit(array.current)) {
+    makeRoom(array);
+  }
+  const auto& [shape, place] = array.target;
+  return {shape->element, shape->append(place)};
+}
+
+// What was read tells how many elements will come. Reserved in vain this costs
+// nothing; growing without it holds the elements twice.
+void JsonFiller::makeRoom(const Open& array) const {
+  if (const auto left = this->left()) {
     const auto read = static_cast<double>(position() - array.start);
     const auto more =
         static_cast<double>(array.current) * static_cast<double>(*left) / std::max(read, 1.0);
     constexpr double margin = 1.02;
+    const auto& [shape, place] = array.target;
     shape->reserve(place, array.current + 1 + static_cast<std::size_t>(more * margin));
   }
-  return {shape->element, shape->append(place)};
 }
 
 void JsonFiller::chooseMember(std::string_view key) {
@@ -328,8 +338,10 @@ void JsonFiller::came() {
   auto& around = open_.back();
   if (around.target.shape->kind == Kind::object) {
     around.seen |= std::uint64_t{1} << around.current;
-    std::erase_if(around.failures,
-                  [&](const auto& earlier) { return earlier.first == around.current; });
+    if (!around.failures.empty()) {
+      std::erase_if(around.failures,
+                    [&](const auto& earlier) { return earlier.first == around.current; });
+    }
   }
 }
 

@@ -85,6 +85,7 @@ class JsonFiller final {
   [[nodiscard]] const JsonMember* currentMember() const;
   [[nodiscard]] Target nextTarget();
   [[nodiscard]] Target nextElement(Open& array) const;
+  void makeRoom(const Open& array) const;
   void chooseMember(std::string_view key);
   void begin(JsonShape::Kind kind);
   void end();
