@@ -2,15 +2,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Every tab at every usual scale, for the eye too."""
 
-from itertools import groupby
-
 import pytest
 
-from harness import bodies, colours, hands
+from harness import colours, hands
 from harness.layout import assert_uncut
 from harness.screen import BUILD, Picture, save
 from harness.waiting import until
-from harness.window import Box, tool
+from harness.window import tool
 
 TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 SCREEN = (3100, 2200)
@@ -33,38 +31,6 @@ def test_pictures(launch, scale):
         assert_uncut(panel.tree.read())
         save(BUILD / "pictures" / f"{tab.lower()}-{scale}.png", window)
     assert bars == sorted(bars)
-
-
-@pytest.mark.parametrize("scale", ["1", "1.25", "1.5", "1.75", "2"])
-def test_lines_between_rows_are_equally_thick(launch, scale):
-    rows = [bodies.app(f"App {n}", **({"version": "1"} if n % 3 else {})) for n in range(30)]
-    panel = launch({"inventory": bodies.inventory(*rows)}, QT_SCALE_FACTOR=scale)
-    panel.show("Inventory")
-    panel.tree.wait_for("list", "Installed applications")
-    hands.park()
-    window = panel.window.box
-    # Right of all texts, below the tab bar.
-    column = Box(window.centre[0], window.y + window.height // 3, 1, window.height // 2)
-    pixels = list(Picture.settled(SCREEN[0]).pixels(column))
-    lines = [len(list(run)) for colour, run in groupby(pixels) if colour == colours.SEPARATOR]
-    # The first and the last may be cut off.
-    assert len(lines) >= 7 and len(set(lines[1:-1])) == 1, lines
-
-
-@pytest.mark.parametrize("scale", ["1", "1.25", "1.5", "1.75", "2"])
-def test_rows_leave_no_trace_when_they_shrink(launch, backend, scale):
-    short = bodies.alerts(*(bodies.alert(f"Alert {n}", description="a word") for n in range(3)))
-    long = bodies.alerts(*(bodies.alert("many words " * 1000, description="and more " * 1000)
-                           for _ in range(20)))
-    panel = launch({"alerts": short}, QT_SCALE_FACTOR=scale)
-    panel.show("Alerts")
-    hands.park()
-    panel.tree.wait_for("text", "Alert 0")
-    before = Picture.settled(SCREEN[0])
-    for bodies_sent, told in (long, "many words "), (short, "Alert 0"):
-        backend.reply(alerts=bodies_sent)
-        panel.tree.wait_for_beginning("text", told)
-    assert Picture.settled(SCREEN[0]).whole() == before.whole()
 
 
 # The resource a desktop sets when texts shall be larger, and Qt's own word for it.
