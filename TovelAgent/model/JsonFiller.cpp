@@ -14,6 +14,8 @@ namespace {
 
 using Kind = JsonShape::Kind;
 
+constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
+
 std::string_view nameOf(Kind kind) {
   switch (kind) {
     case Kind::boolean:
@@ -103,6 +105,7 @@ bool JsonFiller::on_string(Text text, std::size_t /*size*/, ErrorCode& /*error*/
   heard(text);
   if (std::exchange(inString_, false)) {
     append(text);
+    fit();
   } else if (beginString(); string_ != nullptr) {
     if (text.size() <= string_->capacity()) {
       string_->assign(text.data(), text.size());
@@ -297,13 +300,12 @@ void JsonFiller::number(std::optional<std::int64_t> whole) {
 // A string that grows by doubling is held twice while it is copied. Room for all
 // that can come costs addresses alone: memory is what has been written to.
 void JsonFiller::append(Text text) {
-  constexpr std::size_t longString = std::size_t{1024} * 1024;
-  constexpr std::size_t roomForAny = 256 * longString;
+  constexpr std::size_t roomForAny = 256 * mebibyte;
   if (string_ == nullptr) {
     return;
   }
   const auto size = string_->size() + text.size();
-  if (size > string_->capacity() && size >= longString) {
+  if (size > string_->capacity() && size >= mebibyte) {
     try {
       string_->reserve(size + left().value_or(roomForAny));
     } catch (const std::bad_alloc&) {
@@ -311,6 +313,15 @@ void JsonFiller::append(Text text) {
     }
   }
   string_->append(text.data(), text.size());
+}
+
+// Gives back what was too much room, but where that means copying much: there can
+// be few of these in one text.
+void JsonFiller::fit() {
+  constexpr std::size_t much = 16 * mebibyte;
+  if (string_ != nullptr && string_->size() < std::min(much, string_->capacity() / 2)) {
+    string_->shrink_to_fit();
+  }
 }
 
 // A text that had to be unescaped lies elsewhere and tells nothing.

@@ -92,6 +92,7 @@ class JsonFiller final {
   void beginString();
   void number(std::optional<std::int64_t> whole);
   void append(Text text);
+  void fit();
   void heard(Text text);
   [[nodiscard]] std::size_t position() const;
   [[nodiscard]] std::optional<std::size_t> left() const;
