@@ -14,7 +14,7 @@ Pressable {
     implicitWidth: 30
     implicitHeight: 20
 
-    Rectangle {
+    Box {
         anchors.fill: parent
         anchors.margins: 1
         radius: Theme.focusRadius

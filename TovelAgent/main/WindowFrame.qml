@@ -46,12 +46,12 @@ Item {
     signal toggleMaximized
     onToggleMaximized: isMaximized ? window.showNormal() : window.showMaximized()
 
-    Rectangle {
+    Box {
         visible: !frame.isMaximized
         anchors.fill: parent
         color: "transparent"
-        border.width: 1
-        border.color: Theme.windowBorder
+        borderWidth: 1
+        borderColor: Theme.windowBorder
     }
 
     Repeater {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A filled button with an icon and a text. Disabled, it is out of the
 /// keyboard's way too.
@@ -14,10 +15,10 @@ Pressable {
     property int padding: 10
 
     label: text
-    focusMargin: -3
+    focusInset: -3
     implicitHeight: row.height + 2 * padding
 
-    Rectangle {
+    Box {
         anchors.fill: parent
         radius: Theme.sectionRadius
         color: button.ground

@@ -3,6 +3,7 @@
 
 import QtQuick
 import Quillmark.Settings
+import Quillmark.Views
 
 /// Whether the agent runs, and how to change that.
 SectionCard {
@@ -18,7 +19,7 @@ SectionCard {
     Row {
         spacing: Theme.spacing
 
-        Rectangle {
+        Box {
             width: 10
             height: 10
             radius: 5

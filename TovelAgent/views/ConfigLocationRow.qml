@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A place where a configuration file may lie.
-Rectangle {
+Box {
     id: row
 
     required property string path

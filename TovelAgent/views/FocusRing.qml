@@ -6,18 +6,21 @@ import Quillmark.Views
 
 /// Shows where the keyboard is, at the edge of its parent, unless the pointer
 /// brought it there.
-Rectangle {
+Box {
     id: ring
 
     required property Item target
+    /// How far from its parent's edge, inwards.
+    property int inset: 1
 
     anchors.fill: parent
-    anchors.margins: 1
+    // Whole pixels of the screen, or it would be nearer to one side than another.
+    anchors.margins: Math.round(inset * Screen.devicePixelRatio) / Screen.devicePixelRatio
     visible: target.activeFocus && !origin.isPointer
     color: "transparent"
     radius: Theme.focusRadius
-    border.width: 2
-    border.color: Theme.blue
+    borderWidth: 2
+    borderColor: Theme.blue
     z: 1
 
     FocusOrigin {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A label above a text field.
 Column {
@@ -30,13 +31,13 @@ Column {
         property alias content: entry.text
     }
 
-    Rectangle {
+    Box {
         width: parent.width
         height: input.implicitHeight
         radius: Theme.sectionRadius
         color: Theme.white
-        border.width: input.activeFocus ? 2 : 1
-        border.color: input.activeFocus ? Theme.blue : Theme.fieldBorder
+        borderWidth: input.activeFocus ? 2 : 1
+        borderColor: input.activeFocus ? Theme.blue : Theme.fieldBorder
 
         Entry {
             id: input

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// One numbered step of a step-by-step help.
 Item {
@@ -13,7 +14,7 @@ Item {
 
     implicitHeight: Math.max(badge.height, texts.height)
 
-    Rectangle {
+    Box {
         id: badge
 
         width: 24

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A line with an icon on a tint: something went well, or did not.
-Rectangle {
+Box {
     id: notice
 
     required property string icon

@@ -8,7 +8,7 @@ Item {
     id: pressable
 
     required property string label
-    property int focusMargin: 1
+    property int focusInset: 1
     /// Not for what stands in for a part of the desktop: using that shall not
     /// take the keyboard from where the user was.
     property bool takesFocus: true
@@ -46,6 +46,6 @@ Item {
 
     FocusRing {
         target: pressable
-        anchors.margins: pressable.focusMargin
+        inset: pressable.focusInset
     }
 }

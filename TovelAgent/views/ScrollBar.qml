@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A slim bar at the right that can be dragged; there only when there is
 /// something to scroll. What it does, the keyboard does at what it scrolls.
@@ -37,7 +38,7 @@ MouseArea {
 
     Accessible.ignored: true
 
-    Rectangle {
+    Box {
         id: thumb
 
         readonly property real way: bar.height - 2 * bar.margin - height

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A titled card of the Settings tab.
-Rectangle {
+Box {
     id: card
 
     required property string icon
@@ -16,8 +17,8 @@ Rectangle {
     implicitHeight: column.height + 2 * 12
     color: Theme.white
     radius: Theme.sectionRadius
-    border.width: 1
-    border.color: Theme.sectionBorder
+    borderWidth: 1
+    borderColor: Theme.sectionBorder
 
     Accessible.role: Accessible.Grouping
     Accessible.name: title

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A number with its title, as wide as there is room.
 Item {
@@ -17,7 +18,7 @@ Item {
         radius: Theme.cardRadius
     }
 
-    Rectangle {
+    Box {
         anchors.fill: parent
         radius: Theme.cardRadius
         color: Theme.white

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// A small titled value with a dot that says whether it is as it should be.
 /// The keyboard reaches it, so that who cannot see it can stay at it and is
@@ -44,7 +45,7 @@ Item {
             Row {
                 spacing: 6
 
-                Rectangle {
+                Box {
                     width: 8
                     height: 8
                     radius: 4
@@ -64,7 +65,7 @@ Item {
 
         FocusRing {
             target: told
-            anchors.margins: -5
+            inset: -5
         }
     }
 }

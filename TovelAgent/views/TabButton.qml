@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// One tab of the tab bar. Only the active one has the bar under it and is
 /// taller by that.
@@ -55,7 +56,7 @@ Pressable {
             }
         }
 
-        Rectangle {
+        Box {
             visible: button.isActive
             width: parent.width
             height: 3

@@ -10,7 +10,8 @@
 namespace quillmark::test {
 
 // For test programs with Qt in them. They link the `main` beside this header,
-// which makes a QGuiApplication without a display; every warning that Qt or QML
+// which makes a QGuiApplication without a display, but with screens that are named
+// after their scales, the first of scale 1; every warning that Qt or QML
 // prints fails the running test.
 
 /// While one lives, warnings are kept for the test in place of failing it.

@@ -57,7 +57,7 @@ bool waitUntil(const std::function<bool()>& condition) {
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLMARK_SCREENS);
   const QGuiApplication application(argc, argv);
   qInstallMessageHandler(quillmark::test::failOnWarning);
   return RUN_ALL_TESTS();

@@ -55,7 +55,7 @@ TestCase {
     }
 
     function isOfType(item, name) {
-        return new RegExp("^(QQuick)?" + name + "(_QML|\\()").test(item.toString());
+        return new RegExp("^(QQuick|quillmark::)?" + name + "(_QML|\\()").test(item.toString());
     }
 
     /// The one item of the type of this name.

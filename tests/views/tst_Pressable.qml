@@ -68,8 +68,8 @@ ViewTest {
         view.forceActiveFocus(Qt.TabFocusReason);
         const ring = ringOf(view)[0];
         verify(ring, "there is a ring");
-        verify(ring.border.width >= 2);
-        compareColor(ring.border.color, Theme.blue);
+        verify(ring.borderWidth >= 2);
+        compareColor(ring.borderColor, Theme.blue);
     }
 
     function test_clickTakesTheFocusWithoutARing() {

@@ -12,7 +12,7 @@ ViewTest {
     }
 
     function dotOf(view) {
-        return itemOfType(view, "Rectangle");
+        return itemOfType(view, "Box");
     }
 
     function toldOf(view) {

@@ -18,7 +18,7 @@ ViewTest {
     }
 
     function underlinesOf(view) {
-        return itemsOfType(view, "Rectangle");
+        return itemsOfType(view, "Box");
     }
 
     function test_content_data() {

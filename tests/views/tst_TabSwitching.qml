@@ -22,7 +22,7 @@ PolledViewTest {
 
     function underlined() {
         return itemsOfType(content, "TabButton")
-            .filter(one => itemsOfType(one, "Rectangle").some(bar => bar.height === 3))
+            .filter(one => itemsOfType(one, "Box").some(bar => bar.height === 3))
             .map(one => one.title);
     }
 

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QMargins>
+#include <QSize>
+
+namespace quillmark {
+
+/// How a box is drawn. All lengths are device pixels.
+struct BoxLook {
+  QColor color;
+  qreal radius = 0;  ///< at most half of the box's shorter side
+  int borderWidth = 0;
+  QColor borderColor;
+  qreal softness = 0;  ///< above 0, the box is a shadow of this blur radius
+
+  bool operator==(const BoxLook&) const = default;
+};
+
+/// The smallest picture of a box that grows to any size by stretching what lies
+/// between its corners.
+struct BoxPicture {
+  BoxPicture(const BoxLook& look, QSize box);
+
+  QSize size;
+  QMargins corners;  ///< what must not be stretched
+  int reach = 0;     ///< how far the picture goes beyond the box on each side
+};
+
+/// Draws `look` as a picture of `picture`'s size.
+[[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPicture& picture);
+
+}  // namespace quillmark
