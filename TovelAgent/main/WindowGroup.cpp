@@ -50,6 +50,8 @@ void WindowGroup::open() {
   if (window == nullptr) {
     qFatal("The main window cannot be built: %s", qUtf8Printable(component_.errorString()));
   }
+  // Not in QML, whose engine would first have to learn all of Qt's enumerations.
+  window->setFlags(Qt::Window | Qt::FramelessWindowHint);
   windows_.append(window);
   connect(window, &QQuickWindow::sceneGraphError, this, &restartInSoftware);
   // Nothing but closing hides a window.
