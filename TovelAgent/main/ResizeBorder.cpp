@@ -62,7 +62,4 @@ void ResizeBorder::mousePressEvent(QMouseEvent* event) {
   window()->startSystemResize(edgesAt(event->position()));
 }
 
-// Accepted, so that it does not maximise the window as one on the header does.
-void ResizeBorder::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
-
 }  // namespace quillmark

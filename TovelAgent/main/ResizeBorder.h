@@ -30,7 +30,6 @@ class ResizeBorder : public QQuickItem {
   void hoverEnterEvent(QHoverEvent* event) override;
   void hoverMoveEvent(QHoverEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   [[nodiscard]] Qt::Edges edgesWithin(qreal reach, const QPointF& point) const;
