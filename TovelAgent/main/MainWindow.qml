@@ -9,7 +9,6 @@ Window {
     id: window
 
     title: "Quillmark Agent"
-    flags: Qt.Window | Qt.FramelessWindowHint
     width: 1000
     height: 700
     minimumWidth: 1000

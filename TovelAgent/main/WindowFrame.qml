@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
+import Quillmark.Main
 import Quillmark.Views
 
 /// What a title bar and a frame would do: drag the window at its header band,
@@ -16,7 +15,6 @@ Item {
 
     readonly property bool isMaximized: window.visibility === Window.Maximized
                                         || window.visibility === Window.FullScreen
-    readonly property int handle: 5
     readonly property int corner: 12
 
     // A MouseArea, since a handler waits for ever for the release that the
@@ -54,21 +52,11 @@ Item {
         borderColor: Theme.windowBorder
     }
 
-    Repeater {
-        model: frame.isMaximized ? [] : [
-            Qt.TopEdge, Qt.BottomEdge, Qt.LeftEdge, Qt.RightEdge,
-            Qt.TopEdge | Qt.LeftEdge, Qt.TopEdge | Qt.RightEdge,
-            Qt.BottomEdge | Qt.LeftEdge, Qt.BottomEdge | Qt.RightEdge
-        ]
-
-        ResizeEdge {
-            required property int modelData
-
-            window: frame.window
-            edges: modelData
-            thickness: frame.handle
-            corner: frame.corner
-        }
+    ResizeBorder {
+        visible: !frame.isMaximized
+        anchors.fill: parent
+        thickness: 5
+        corner: frame.corner
     }
 
     WindowControls {

@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QtDebug>
 
@@ -32,6 +33,7 @@ WindowGroup::WindowGroup(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
 
 WindowGroup::~WindowGroup() {
+  finish();
   for (auto* const window : std::as_const(windows_)) {
     window->disconnect(this);
   }
@@ -46,11 +48,16 @@ void WindowGroup::destroyClosed() {
 }
 
 void WindowGroup::open() {
-  auto* const window = qobject_cast<QQuickWindow*>(component_.create());
+  finish();
+  auto* const window =
+      qobject_cast<QQuickWindow*>(component_.beginCreate(component_.engine()->rootContext()));
   if (window == nullptr) {
     qFatal("The main window cannot be built: %s", qUtf8Printable(component_.errorString()));
   }
+  // Not in QML, whose engine would first have to learn all of Qt's enumerations.
+  window->setFlags(Qt::Window | Qt::FramelessWindowHint);
   windows_.append(window);
+  isUnfinished_ = true;
   connect(window, &QQuickWindow::sceneGraphError, this, &restartInSoftware);
   // Nothing but closing hides a window.
   connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
@@ -73,6 +80,18 @@ void WindowGroup::present() {
   window->setVisible(true);
   window->raise();
   window->requestActivate();
+  // Only now, while the desktop makes room for the window.
+  finish();
+}
+
+/// Lays out the latest window's content, if that was not done yet.
+void WindowGroup::finish() {
+  if (std::exchange(isUnfinished_, false)) {
+    // Or else QML, whose own `visible` has not heard of ours, would hide the window.
+    auto* const window = windows_.last();
+    window->setProperty("visible", window->isVisible());
+    component_.completeCreate();
+  }
 }
 
 }  // namespace quillmark

@@ -20,7 +20,7 @@ class WindowGroup final : public QObject {
   explicit WindowGroup(QQmlEngine& engine);
   ~WindowGroup() override;
 
-  /// Makes a window, not yet shown.
+  /// Makes a window, not yet shown. Its content is laid out when it is presented.
   void open();
 
   /// Brings the latest window forward; makes one first if none is there.
@@ -28,9 +28,11 @@ class WindowGroup final : public QObject {
 
  private:
   void destroyClosed();
+  void finish();
 
   QQmlComponent component_;
   QList<QQuickWindow*> windows_;
+  bool isUnfinished_ = false;    ///< the latest window's content is made, but not laid out
   QList<QQuickWindow*> closed_;  ///< hidden and about to go
 };
 

@@ -48,14 +48,15 @@ int main(int argc, char* argv[]) {
     execvp(argv[1], argv + 1);
     _exit(127);
   }
-  double first = 0;
   do {
     if (!screen.waitForDrawing(patience)) {
       std::fputs("nothing was drawn\n", stderr);
       return 1;
     }
-    first = millisecondsSince(start);
   } while (!screen.showsAWindow());
+  // When it is seen, not when something was drawn: that may have been an empty
+  // ground, with the frame following while the look was taken.
+  const double first = millisecondsSince(start);
 
   double last = first;
   while (screen.waitForDrawing(stillness)) {

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace quillmark {
+
+/// The edges and corners of the window that it fills, which the pointer resizes
+/// it by. What lies further in belongs to what is below. UI thread only.
+class ResizeBorder : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+  /// How far an edge reaches inwards.
+  Q_PROPERTY(qreal thickness MEMBER thickness_ REQUIRED)
+  /// The side of the square at each corner.
+  Q_PROPERTY(qreal corner MEMBER corner_ REQUIRED)
+
+ public:
+  explicit ResizeBorder(QQuickItem* parent = nullptr);
+
+  /// The edges that a drag from `point` moves, if any.
+  [[nodiscard]] Qt::Edges edgesAt(const QPointF& point) const;
+
+  [[nodiscard]] bool contains(const QPointF& point) const override;
+
+ protected:
+  void hoverEnterEvent(QHoverEvent* event) override;
+  void hoverMoveEvent(QHoverEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  [[nodiscard]] Qt::Edges edgesWithin(qreal reach, const QPointF& point) const;
+
+  qreal thickness_ = 0;
+  qreal corner_ = 0;
+};
+
+}  // namespace quillmark
