@@ -11,6 +11,8 @@
 #include <boost/asio/buffer.hpp>
 #include <boost/beast/core/buffers_range.hpp>
 #include <boost/beast/http/message.hpp>
+#include <boost/optional/optional.hpp>
+#include <boost/system/error_code.hpp>
 
 #include "client/HttpExchange.h"
 

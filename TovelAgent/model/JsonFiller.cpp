@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <exception>
 #include <functional>
-#include <new>
 
 namespace quillmark {
 namespace {
@@ -32,6 +32,17 @@ std::string_view nameOf(Kind kind) {
   return "object";
 }
 
+/// Addresses that nothing was written to cost no memory, so room may be far too
+/// much. Where addresses are counted as memory there may be none: then what it is
+/// for grows like any other.
+template <class Reserve>
+void makeRoomBy(const Reserve& reserve) {
+  try {
+    reserve();
+  } catch (const std::exception&) {
+  }
+}
+
 /// The failure as it is told one step further out.
 DecodeError within(std::string step, DecodeError failure) {
   const bool separate = !failure.path.empty() && failure.path.front() != '[';
@@ -41,11 +52,19 @@ DecodeError within(std::string step, DecodeError failure) {
 
 }  // namespace
 
+bool JsonFiller::isSwelling() const {
+  // An empty text takes 32 bytes, and two in JSON.
+  constexpr std::size_t spare = 16 * mebibyte;
+  constexpr std::size_t usual = 3;  // times the text
+  return elementBytes_ > spare && elementBytes_ - spare > usual * position();
+}
+
 void JsonFiller::goesOn(std::string_view piece, std::optional<std::size_t> left) {
   before_ += piece_.size();
   piece_ = piece;
   heard_ = piece.data();
-  after_ = left;
+  // Nobody says more and means it.
+  after_ = left ? std::optional(std::min(*left, 1024 * mebibyte)) : std::nullopt;
 }
 
 bool JsonFiller::on_object_begin(ErrorCode& /*error*/) {
@@ -189,7 +208,7 @@ JsonFiller::Target JsonFiller::nextTarget() {
                            : Target{member->shape, member->place(open_.back().target.place)};
 }
 
-JsonFiller::Target JsonFiller::nextElement(Open& array) const {
+JsonFiller::Target JsonFiller::nextElement(Open& array) {
   if (!array.failures.empty()) {
     return {};
   }
@@ -199,19 +218,20 @@ JsonFiller::Target JsonFiller::nextElement(Open& array) const {
     makeRoom(array);
   }
   const auto& [shape, place] = array.target;
+  elementBytes_ += shape->elementSize;
   return {shape->element, shape->append(place)};
 }
 
-// What was read tells how many elements will come. Reserved in vain this costs
-// nothing; growing without it holds the elements twice.
+// What was read tells how many elements will come. Growing without that holds
+// them twice.
 void JsonFiller::makeRoom(const Open& array) const {
   if (const auto left = this->left()) {
     const auto read = static_cast<double>(position() - array.start);
     const auto more =
         static_cast<double>(array.current) * static_cast<double>(*left) / std::max(read, 1.0);
     constexpr double margin = 1.02;
-    const auto& [shape, place] = array.target;
-    shape->reserve(place, array.current + 1 + static_cast<std::size_t>(more * margin));
+    const auto count = array.current + 1 + static_cast<std::size_t>(more * margin);
+    makeRoomBy([&] { array.target.shape->reserve(array.target.place, count); });
   }
 }
 
@@ -297,8 +317,7 @@ void JsonFiller::number(std::optional<std::int64_t> whole) {
   }
 }
 
-// A string that grows by doubling is held twice while it is copied. Room for all
-// that can come costs addresses alone: memory is what has been written to.
+// A string that grows by doubling is held twice while it is copied.
 void JsonFiller::append(Text text) {
   constexpr std::size_t roomForAny = 256 * mebibyte;
   if (string_ == nullptr) {
@@ -306,17 +325,13 @@ void JsonFiller::append(Text text) {
   }
   const auto size = string_->size() + text.size();
   if (size > string_->capacity() && size >= mebibyte) {
-    try {
-      string_->reserve(size + left().value_or(roomForAny));
-    } catch (const std::bad_alloc&) {
-      // Where addresses are counted as memory it grows like any other.
-    }
+    makeRoomBy([&] { string_->reserve(size + left().value_or(roomForAny)); });
   }
   string_->append(text.data(), text.size());
 }
 
-// Gives back what was too much room, but where that means copying much: there can
-// be few of these in one text.
+// Gives back what was too much room, but where that means copying much: a text has
+// no more than a handful of strings that keep addresses for nothing.
 void JsonFiller::fit() {
   constexpr std::size_t much = 16 * mebibyte;
   if (string_ != nullptr && string_->size() < std::min(much, string_->capacity() / 2)) {

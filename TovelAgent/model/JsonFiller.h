@@ -32,9 +32,13 @@ class JsonFiller final {
 
   JsonFiller(const JsonShape& shape, void* place) : root_{&shape, place} {}
 
-  /// The parser goes on with `piece`, which `left` more bytes will follow,
-  /// nobody knows how many without a value.
+  /// The parser goes on with `piece`, which `left` more bytes will follow;
+  /// without a value nobody knows how many.
   void goesOn(std::string_view piece, std::optional<std::size_t> left);
+
+  /// Whether the elements of lists have become far larger than their text is, as
+  /// no list does that says something.
+  [[nodiscard]] bool isSwelling() const;
 
   /// What kept the value from being filled, once the parser is done.
   [[nodiscard]] std::optional<DecodeError> takeFailure() { return std::move(failure_); }
@@ -84,7 +88,7 @@ class JsonFiller final {
 
   [[nodiscard]] const JsonMember* currentMember() const;
   [[nodiscard]] Target nextTarget();
-  [[nodiscard]] Target nextElement(Open& array) const;
+  [[nodiscard]] Target nextElement(Open& array);
   void makeRoom(const Open& array) const;
   void chooseMember(std::string_view key);
   void begin(JsonShape::Kind kind);
@@ -102,8 +106,9 @@ class JsonFiller final {
   void mismatch(const Target& target, std::string_view found);
 
   std::string_view piece_;
-  const char* heard_ = nullptr;  ///< where in the piece, as far as the events told
-  std::size_t before_ = 0;       ///< how much of the text came before the piece
+  const char* heard_ = nullptr;   ///< where in the piece, as far as the events told
+  std::size_t before_ = 0;        ///< how much of the text came before the piece
+  std::size_t elementBytes_ = 0;  ///< of all elements so far, with those forgotten again
   std::optional<std::size_t> after_;
   Target root_;
   std::optional<DecodeError> failure_;

@@ -3,6 +3,8 @@
 
 #include "model/JsonReader.h"
 
+#include <utility>
+
 #include <boost/json/basic_parser_impl.hpp>
 
 #include "model/JsonFiller.h"
@@ -13,6 +15,8 @@ namespace {
 // Deep enough that no ignored value of a sensible body refuses it, shallow
 // enough that a hostile one cannot exhaust the stack.
 constexpr std::size_t maxNesting = 512;
+
+constexpr std::size_t longestStep = std::size_t{64} * 1024;
 
 boost::json::parse_options options() {
   boost::json::parse_options options;
@@ -30,23 +34,27 @@ class JsonReader::Parser {
     if (failure_) {
       return;
     }
-    parser_.handler().goesOn(piece, left);
-    const std::size_t used = parser_.write_some(more, piece.data(), piece.size(), failure_);
-    if (!failure_ && used < piece.size()) {
-      failure_ = boost::json::error::extra_data;
+    auto& filler = parser_.handler();
+    filler.goesOn(piece, left);
+    boost::json::error_code error;
+    const std::size_t used = parser_.write_some(more, piece.data(), piece.size(), error);
+    if (!error && used < piece.size()) {
+      error = boost::json::error::extra_data;
+    }
+    if (error) {
+      failure_ = {DecodeFailure::dataCorrupted, {}, error.message()};
+    } else if (filler.isSwelling()) {
+      failure_ = {DecodeFailure::dataCorrupted, {}, "lists far larger than their text"};
     }
   }
 
   [[nodiscard]] std::optional<DecodeError> takeFailure() {
-    if (failure_) {
-      return DecodeError{DecodeFailure::dataCorrupted, {}, failure_.message()};
-    }
-    return parser_.handler().takeFailure();
+    return failure_ ? std::move(failure_) : parser_.handler().takeFailure();
   }
 
  private:
   boost::json::basic_parser<JsonFiller> parser_;
-  boost::json::error_code failure_;
+  std::optional<DecodeError> failure_;
 };
 
 JsonReader::JsonReader(const JsonShape& shape, void* place)
@@ -55,6 +63,12 @@ JsonReader::JsonReader(const JsonShape& shape, void* place)
 JsonReader::~JsonReader() = default;
 
 void JsonReader::take(std::string_view piece, std::optional<std::size_t> left) {
+  // A long piece is no reason to look less often at what becomes of it.
+  while (piece.size() > longestStep) {
+    const auto after = piece.size() - longestStep;
+    parser_->write(true, piece.substr(0, longestStep), left ? std::optional(after + *left) : left);
+    piece.remove_prefix(longestStep);
+  }
   parser_->write(true, piece, left);
 }
 

@@ -41,6 +41,7 @@ struct JsonShape {
 
   // Of an array.
   const JsonShape* element = nullptr;
+  std::size_t elementSize = 0;  ///< in bytes, without what an element points to
   void (*clear)(void* array) = nullptr;
   void (*reserve)(void* array, std::size_t count) = nullptr;
   void* (*append)(void* array) = nullptr;  ///< the place of one more element
@@ -73,6 +74,7 @@ struct JsonShapeOf<std::vector<T>> {
   static constexpr JsonShape shape{
       .kind = JsonShape::Kind::array,
       .element = &JsonShapeOf<T>::shape,
+      .elementSize = sizeof(T),
       .clear = [](void* array) { at(array).clear(); },
       .reserve = [](void* array, std::size_t count) { at(array).reserve(count); },
       .append = [](void* array) -> void* { return &at(array).emplace_back(); }};

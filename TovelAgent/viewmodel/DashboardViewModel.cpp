@@ -96,7 +96,8 @@ void DashboardViewModel::assign(PollResult result) {
   publish(networkConnections_, result.networkConnections,
           &DashboardViewModel::networkConnectionsChanged);
   publish(inventory_, result.inventory, &DashboardViewModel::inventoryChanged);
-  // What was there before takes longer to free than a window may take to answer.
+  // There lies now what was shown before, which takes longer to free than a window
+  // may take to answer.
   // At the very end a poll may arrive after the executor has gone.
   if (TaskExecutor::exists()) {
     boost::asio::post(TaskExecutor::current(), [before = std::move(result)] {});

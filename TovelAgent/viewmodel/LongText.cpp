@@ -24,7 +24,8 @@ std::size_t beginOf(std::string_view text, std::size_t index) {
   }
   const auto near = text.substr(latest - longestWait, longestWait);
   if (const auto blank = std::find_if(near.rbegin(), near.rend(), isBlank); blank != near.rend()) {
-    return latest - static_cast<std::size_t>(blank - near.rbegin());
+    const auto begin = latest - static_cast<std::size_t>(blank - near.rbegin());
+    return text.substr(begin - 1, 2) == "\r\n" ? begin + 1 : begin;
   }
   auto begin = latest;
   while (begin > latest - longestWait && isAmidCharacter(text[begin])) {
@@ -33,9 +34,22 @@ std::size_t beginOf(std::string_view text, std::size_t index) {
   return begin;
 }
 
+std::string_view withoutLineBreak(std::string_view line) {
+  for (const std::string_view end : {"\r\n", "\n", "\r"}) {
+    if (line.ends_with(end)) {
+      return line.substr(0, line.size() - end.size());
+    }
+  }
+  return line;
+}
+
 QString pieceOf(std::string_view text, std::size_t index) {
   const auto begin = beginOf(text, index);
-  const auto piece = text.substr(begin, beginOf(text, index + 1) - begin);
+  const auto end = beginOf(text, index + 1);
+  auto piece = text.substr(begin, end - begin);
+  if (end < text.size()) {
+    piece = withoutLineBreak(piece);
+  }
   return QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size()));
 }
 

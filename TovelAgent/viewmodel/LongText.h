@@ -22,7 +22,8 @@ namespace quillmark {
 /// A text of the agent's, which may be as long as an answer. It comes in pieces,
 /// each of which is converted and laid out in a fraction of a frame: one for all
 /// but the longest texts. A piece ends with white space where there is some near,
-/// and never amid a character.
+/// and never amid a character; a line break between two pieces belongs to neither,
+/// for each piece begins a line.
 ///
 /// Of a long text only the beginning is kept here, for script engines keep what
 /// they have seen as long as they like; the rest is there as long as its snapshot

@@ -54,8 +54,9 @@ class SnapshotListModel final : public ListModel {
   // Comparing more rows than this takes longer than showing anew those in view.
   static constexpr int mostCompared = 2'000;
 
-  /// Whether a view may go on showing `before` for `after`. Of long texts it has
-  /// only the beginning: it must learn where they are now.
+  /// Whether a view may go on showing `before` for `after`. Of a long text it has
+  /// only the beginning and must learn where the rest is now; nor are long texts
+  /// compared any sooner than shown.
   static bool isSame(const Row& before, const Row& after) {
     if constexpr (Record<Row>) {
       if (hasLongText(after)) {

@@ -124,6 +124,15 @@ def long_texts():
     return whole(alerts=bodies.alerts(*texts))
 
 
+def empty_services(victim):
+    """Each of which takes ten times what it takes in JSON."""
+    body = b'{"apps":[],"network_interfaces":[],"permissions":[],"services":["' \
+        + b'","' * 20_000_000 + b'"]}'
+    victim.send(OK + b"Content-Length: %d\r\n\r\n" % len(body))
+    # Too many to be taken, so that nothing of it is to be kept.
+    victim.send(body)
+
+
 def deep_nesting(victim):
     body = b'{"alerts":' + b"[" * 100_000 + b"]" * 100_000 + b"}"
     victim.send(OK + b"Content-Length: %d\r\n\r\n" % len(body) + body)
@@ -147,6 +156,7 @@ def every():
         "a text of 100 MB in chunks": huge_text_in_chunks(),
         "texts of 22 MB wherever one is shown": huge_texts(),
         "two hundred texts of 1 MB": long_texts(),
+        "twenty million empty services": empty_services,
         "nesting 100,000 deep": deep_nesting,
         "resets amid the header": resets,
     }

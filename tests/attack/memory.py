@@ -35,8 +35,9 @@ class Peak:
 
     def _sample(self):
         while not self._stopped.is_set():
-            # Asked for last, the debt is rather too small than too great.
+            # Asked for first, the debt is rather too small than too great.
+            owed = self._owed()
             above = resident(self._pid) - self._idle
             self.above_idle = max(self.above_idle, above)
-            self.beyond = max(self.beyond, above - self._owed())
+            self.beyond = max(self.beyond, above - owed)
             time.sleep(0.005)

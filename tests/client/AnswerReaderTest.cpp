@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -60,6 +61,25 @@ TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
   const auto longBody = std::string(100, 'x');
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "64\r\n" + longBody + "\r\n0\r\n\r\n", longBody));
+}
+
+/// What the body's takers are told to be left after each piece of it.
+std::vector<std::optional<std::size_t>> leftOf(const std::string& answer) {
+  std::vector<std::optional<std::size_t>> told;
+  AnswerReader reader(limits, [&](auto /*piece*/, auto left) { told.push_back(left); });
+  auto state = State::wantsMore;
+  for (auto byte = answer.begin(); byte != answer.end() && state == State::wantsMore; ++byte) {
+    *static_cast<char*>(reader.space().data()) = *byte;
+    state = reader.received(1);
+  }
+  return told;
+}
+
+TEST(AnswerReader, TellsWhatIsLeftOfABodyWhoseLengthIsKnown) {
+  using Left = std::vector<std::optional<std::size_t>>;
+  EXPECT_EQ(leftOf(ok + "Content-Length: 3\r\n\r\nabc"), (Left{2, 1, 0}));
+  EXPECT_EQ(leftOf(ok + "\r\nab"), (Left{std::nullopt, std::nullopt}));
+  EXPECT_EQ(leftOf(chunkedHeader + "2\r\nab\r\n0\r\n\r\n"), Left{std::nullopt});
 }
 
 TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
 #include "fuzz/Fuzzer.h"
 #include "model/Codec.h"
+#include "model/Pieces.h"
 
 namespace {
 
@@ -14,19 +14,10 @@ using namespace quillmark;
 using namespace quillmark::fuzz;
 
 template <Record R>
-Decoded<R> decodeInPieces(std::string_view json, std::size_t pieceSize) {
-  Decoder<R> decoder;
-  for (; !json.empty(); json.remove_prefix(std::min(pieceSize, json.size()))) {
-    decoder.take(json.substr(0, pieceSize));
-  }
-  return decoder.finish();
-}
-
-template <Record R>
 void decodeAs(std::string_view json) {
   const auto record = decode<R>(json);
   for (const std::size_t pieceSize : {std::size_t{1}, std::size_t{7}}) {
-    const auto other = decodeInPieces<R>(json, pieceSize);
+    const auto other = test::decodedInPieces<R>(json, pieceSize, pieceSize > 1);
     require(record ? other && *other == *record : other.has_error(),
             "a text decodes to the same in pieces");
   }

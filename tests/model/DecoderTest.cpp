@@ -1,31 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <algorithm>
 #include <cstddef>
-#include <optional>
+#include <limits>
 #include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
 
 #include "model/Codec.h"
+#include "model/Pieces.h"
 #include "model/Records.h"
+#include "model/Repeated.h"
 #include "model/Samples.h"
 #include "model/json/Expectation.h"
 
 namespace quillmark::test {
 namespace {
-
-template <Record R>
-Decoded<R> decodedInPieces(std::string_view json, std::size_t pieceSize,
-                           std::optional<std::size_t> left = {}) {
-  Decoder<R> decoder;
-  for (; !json.empty(); json.remove_prefix(std::min(pieceSize, json.size()))) {
-    decoder.take(json.substr(0, pieceSize), left);
-  }
-  return decoder.finish();
-}
 
 /// Whether `json` comes out the same in pieces of every size up to a few bytes.
 /// Of a text with several faults the parser may tell another.
@@ -33,7 +24,7 @@ template <Record R>
 testing::AssertionResult isSameInPieces(std::string_view json) {
   const auto whole = decode<R>(json);
   for (std::size_t pieceSize = 1; pieceSize <= 3; ++pieceSize) {
-    const auto inPieces = decodedInPieces<R>(json, pieceSize);
+    const auto inPieces = decodedInPieces<R>(json, pieceSize, pieceSize != 2);
     const bool isSame = whole
                             ? inPieces && *inPieces == *whole
                             : inPieces.has_error() && inPieces.error().kind == whole.error().kind &&
@@ -66,16 +57,14 @@ TYPED_TEST(TextsInPieces, AreTheSameInEveryField) {
   }
 }
 
-/// Whether `record` comes out however many bytes were announced, be it true or not.
+/// Whether `record` comes out the same, its length told or not.
 template <Record R>
 testing::AssertionResult comesOut(const R& record) {
   const auto json = encode(record);
-  for (const auto left :
-       {std::optional<std::size_t>(), std::optional<std::size_t>(0), std::optional(json.size())}) {
-    const auto decoded = decodedInPieces<R>(json, 10'000, left);
+  for (const bool isLengthTold : {true, false}) {
+    const auto decoded = decodedInPieces<R>(json, 10'000, isLengthTold);
     if (!decoded || *decoded != record) {
-      return testing::AssertionFailure()
-             << (left ? std::to_string(*left) : "nothing") << " announced";
+      return testing::AssertionFailure() << "its length told: " << isLengthTold;
     }
   }
   return testing::AssertionSuccess();
@@ -88,11 +77,35 @@ TEST(LongTextsInPieces, AreTheSame) {
   EXPECT_TRUE(comesOut(response));
 }
 
+TEST(LongTextsInPieces, AreTheSameWhateverLengthWasTold) {
+  ThreatAlert alert = sample<ThreatAlert>();
+  alert.alert_type.assign(5'000'000, 'x');
+  const auto json = encode(alert);
+  for (const auto left : {std::size_t{0}, json.size(), std::numeric_limits<std::size_t>::max()}) {
+    Decoder<ThreatAlert> decoder;
+    decoder.take(std::string_view(json).substr(0, 2'000'000), left);
+    decoder.take(std::string_view(json).substr(2'000'000), left);
+    const auto decoded = decoder.finish();
+    EXPECT_TRUE(decoded && *decoded == alert) << left;
+  }
+}
+
 TEST(LongListsInPieces, AreTheSame) {
   NetworkResponse response;
   response.connections.resize(10'000, sample<NetworkConnection>());
   response.connections.back() = {};
   EXPECT_TRUE(comesOut(response));
+}
+
+// A list that says nothing may not cost ten times what was sent.
+TEST(ListsOfNothing, AreRefusedOnceTheyAreLong) {
+  const auto listOf = [](int count, const std::string& element) {
+    return R"({"apps":[],"network_interfaces":[],"permissions":[],"services":[)" +
+           repeated(count - 1, element + ",") + element + "]}";
+  };
+  EXPECT_TRUE(decode<InventoryData>(listOf(100'000, R"("")")));
+  EXPECT_FALSE(decode<InventoryData>(listOf(2'000'000, R"("")")));
+  EXPECT_TRUE(decode<InventoryData>(listOf(2'000'000, R"("a.service")")));
 }
 
 }  // namespace

@@ -36,8 +36,7 @@ TEST(PiecesOfText, AreTheTextItselfUnlessItIsLong) {
 }
 
 TEST(PiecesOfText, MakeUpTheText) {
-  for (const std::string part :
-       {"x", "word ", "a line\n", "\U0001F41E", " \U0001F41E", "x\u0301"}) {
+  for (const std::string part : {"x", "word ", "\U0001F41E", " \U0001F41E", "x\u0301"}) {
     const auto text = repeated(9001, part);
     const auto pieces = piecesOf(text);
     EXPECT_GT(pieces.size(), 1);
@@ -45,6 +44,19 @@ TEST(PiecesOfText, MakeUpTheText) {
     for (const auto& piece : pieces) {
       EXPECT_LE(piece.toUtf8().size(), 4200);
       EXPECT_FALSE(piece.isEmpty());
+    }
+  }
+}
+
+// Each is laid out by itself, and so begins a line as it is.
+TEST(PiecesOfText, ShareALineBreakBetweenThem) {
+  for (const std::string lineBreak : {"\n", "\r\n", "\r"}) {
+    // At every place around the end of a piece in turn.
+    for (const auto& before : {"", "x", "xx"}) {
+      const auto text = before + repeated(3001, "four" + lineBreak);
+      const auto pieces = piecesOf(text);
+      EXPECT_GT(pieces.size(), 1);
+      EXPECT_EQ(pieces.join(QString::fromStdString(lineBreak)).toStdString(), text);
     }
   }
 }
@@ -82,11 +94,19 @@ TEST(ShortenedText, IsItsFirstPiece) {
 }
 
 TEST(LongTextOfRecord, IsFoundInEveryField) {
-  const std::string text(4001, 'x');
   EXPECT_FALSE(hasLongText(ThreatAlert{"a", "b", "c", "d", "e", "f"}));
   EXPECT_FALSE(hasLongText(ThreatAlert{"a", "b", {}, {}, {}, {}}));
-  EXPECT_TRUE(hasLongText(ThreatAlert{text, "b", {}, {}, {}, {}}));
-  EXPECT_TRUE(hasLongText(ThreatAlert{"a", "b", {}, text, {}, {}}));
+  std::apply(
+      [](const auto&... field) {
+        ThreatAlert alert{"a", "b", {}, {}, {}, {}};
+        const auto isFound = [&](auto member) {
+          auto changed = alert;
+          changed.*member = std::string(4001, 'x');
+          return hasLongText(changed);
+        };
+        EXPECT_TRUE((isFound(field.member) && ...));
+      },
+      ThreatAlert::fields);
 }
 
 }  // namespace

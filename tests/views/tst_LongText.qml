@@ -27,26 +27,38 @@ ViewTest {
         verify(text.startsWith(shown.slice(0, end)));
     }
 
+    // A line break between two pieces is not part of either.
+    function joined(texts) {
+        return texts.join("").replace(/\n/g, "");
+    }
+
     function test_rows(data) {
         const text = data.text;
         const alert = make(alertRow, { width: 600, alert: Sample.alert("high", "malware", text) });
-        tryVerify(() => textsIn(alert).join("") === "malware" + text, 60000);
+        tryVerify(() => joined(textsIn(alert)) === joined(["malware", text]), 60000);
         const app = make(appRow, { width: 600, app: Sample.app(text, "1") });
-        tryVerify(() => textsIn(app).join("") === text + "v1", 60000);
+        tryVerify(() => joined(textsIn(app)) === joined([text, "v1"]), 60000);
+    }
+
+    function test_linesStandAsInOnePiece() {
+        const text = "0123456789abcde\n".repeat(1000) + "the end";
+        const inPieces = make(longLabel, { width: 600, size: 11, text: Sample.alert("", "", text).description });
+        const inOne = make(wrappedLabel, { width: 600, size: 11, text: text });
+        tryCompare(inPieces, "height", inOne.height);
     }
 
     function test_rowsAreLaidOutAsFarAsTheyCanBeSeen(data) {
         const text = data.text.slice(0, 40000);
         const list = make(alertList, { width: 600, height: 400, model: [Sample.alert("high", "malware", text)] });
-        const read = () => textsIn(list.itemAtIndex(0)).join("").slice("malware".length);
+        const read = () => joined(textsIn(list.itemAtIndex(0))).slice("malware".length);
         tryVerify(() => list.contentHeight > list.height);
         wait(200);
         verify(read().length < text.length / 2);
-        verify(text.startsWith(read()));
+        verify(joined([text]).startsWith(read()));
         // Who goes on to the end finds all of it.
         tryVerify(() => {
             list.positionViewAtEnd();
-            return read() === text;
+            return read() === joined([text]);
         }, 60000);
     }
 
@@ -81,6 +93,18 @@ ViewTest {
         const text = "0123456789ABCDEF".repeat(megabyte / 16);
         const view = make(header, { width: 900, status: Sample.status(text, 0, "yesterday") });
         verifyShortened(textsIn(view).find(one => one.startsWith("0123")), text);
+    }
+
+    Component {
+        id: longLabel
+
+        LongLabel {}
+    }
+
+    Component {
+        id: wrappedLabel
+
+        WrappedLabel {}
     }
 
     Component {
