@@ -31,15 +31,17 @@ function(quillmark_gtest target)
   # Only the code under test is worth optimising: it halves the build.
   target_compile_options(${target} PRIVATE -O0 -U_FORTIFY_SOURCE)
 
+  # Against hanging, and enough under a sanitizer.
+  set(patience 400)
   set(command $<TARGET_FILE:${target}>
               "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${target}.xml")
   if(arg_AS_USER)
-    quillmark_test(${target} 180 --as-user ${command})
+    quillmark_test(${target} ${patience} --as-user ${command})
   elseif(arg_SANDBOX)
-    quillmark_test(${target} 180 ${command})
+    quillmark_test(${target} ${patience} ${command})
   else()
     add_test(NAME ${target} COMMAND ${command})
-    set_tests_properties(${target} PROPERTIES TIMEOUT 180)
+    set_tests_properties(${target} PROPERTIES TIMEOUT ${patience})
   endif()
 endfunction()
 

@@ -59,14 +59,14 @@ class Sight:
 
     def showing(self, colour, place):
         def shown():
-            picture = Picture(SCREEN[0])
+            picture = Picture()
             return picture.count(colour, place) > place.width and picture
 
         return until(shown, f"{colour} to be drawn")
 
 
 def settled():
-    return Picture.settled(SCREEN[0])
+    return Picture.settled()
 
 
 def rows_of(picture, box):

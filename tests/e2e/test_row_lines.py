@@ -27,7 +27,7 @@ def test_are_equally_thick(launch, scale):
     window = panel.window.box
     # Right of all texts, below the tab bar.
     column = Box(window.centre[0], window.y + window.height // 3, 1, window.height // 2)
-    pixels = list(Picture.settled(SCREEN[0]).pixels(column))
+    pixels = list(Picture.settled().pixels(column))
     lines = [len(list(run)) for colour, run in groupby(pixels) if colour == colours.SEPARATOR]
     # The first and the last may be cut off.
     assert len(lines) >= 7 and len(set(lines[1:-1])) == 1, lines
@@ -42,8 +42,8 @@ def test_leave_no_trace_when_rows_shrink(launch, backend, scale):
     panel.show("Alerts")
     hands.park()
     panel.tree.wait_for("text", "Alert 0")
-    before = Picture.settled(SCREEN[0])
+    before = Picture.settled()
     for bodies_sent, told in (long, "many words "), (short, "Alert 0"):
         backend.reply(alerts=bodies_sent)
         panel.tree.wait_for_beginning("text", told)
-    assert Picture.settled(SCREEN[0]).whole() == before.whole()
+    assert Picture.settled().whole() == before.whole()

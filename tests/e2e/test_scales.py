@@ -51,7 +51,7 @@ def test_texts_of_double_size(launch, environment, resource):
 
 def bar(window, known):
     """Where a long line of solid blue begins that was not known yet."""
-    picture = Picture(SCREEN[0])
+    picture = Picture()
     length = 60
     for y in range(window.y + window.height // 8, window.y + window.height // 3):
         row = [picture.pixel(x, y) == colours.BLUE for x in range(window.x, window.right)]

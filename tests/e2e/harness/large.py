@@ -17,7 +17,7 @@ def drawn(box):
 
 
 def picture():
-    return Picture(SCREEN[0])
+    return Picture()
 
 
 def resize(window, width, height):

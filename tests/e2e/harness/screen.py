@@ -6,16 +6,10 @@ import os
 import subprocess
 from pathlib import Path
 
+from . import pixels
 from .waiting import until
 
 BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
-
-
-def _import(target):
-    return subprocess.run(
-        ["import", "-silent", "-window", "root", "-depth", "8", target],
-        check=True, capture_output=True,
-    ).stdout
 
 
 def save(path, box=None):
@@ -24,17 +18,16 @@ def save(path, box=None):
 
 
 class Picture:
-    def __init__(self, width=1600):
-        self._width = width
-        self._data = _import("rgb:-")
+    def __init__(self):
+        self._width, self._data = pixels.grab()
 
     @classmethod
-    def settled(cls, *width):
+    def settled(cls):
         """Once three are alike: nothing is being drawn any more."""
         taken = []
 
         def still():
-            taken.append(cls(*width))
+            taken.append(cls())
             return len(taken) > 2 and len({p.whole() for p in taken[-3:]}) == 1 and taken[-1]
 
         return until(still, "the screen to come to rest", step=0.15)
@@ -44,14 +37,15 @@ class Picture:
         return self._data
 
     def pixel(self, x, y):
-        at = 3 * (y * self._width + x)
-        return tuple(self._data[at:at + 3])
+        at = pixels.BYTES * (y * self._width + x)
+        blue, green, red = self._data[at:at + 3]
+        return red, green, blue
 
     def pixels(self, box):
         for y in range(box.y, box.bottom):
-            row = 3 * (y * self._width + box.x)
-            line = self._data[row:row + 3 * box.width]
-            yield from zip(line[::3], line[1::3], line[2::3])
+            row = pixels.BYTES * (y * self._width + box.x)
+            line = self._data[row:row + pixels.BYTES * box.width]
+            yield from zip(line[2::pixels.BYTES], line[1::pixels.BYTES], line[::pixels.BYTES])
 
     def count(self, colour, box):
         return sum(pixel == colour for pixel in self.pixels(box))
