@@ -38,8 +38,7 @@ class Picture:
 
     def pixel(self, x, y):
         at = pixels.BYTES * (y * self._width + x)
-        blue, green, red = self._data[at:at + 3]
-        return red, green, blue
+        return tuple(self._data[at:at + 3][::-1])
 
     def pixels(self, box):
         for y in range(box.y, box.bottom):
