@@ -30,6 +30,16 @@ ATTACK = (
 )
 TROUBLE = {
     "client_tests": "hostile and broken answers, the core alone",
+    "model_tests": "texts that are, or are not, JSON and a record",
+    "e2e_answers": "hostile and broken answers, the window",
+    "e2e_hostile_text": "texts that would be more than text",
+    "fault_errors": "a system call fails while a configuration is saved or imported",
+    "fault_kills": "the program killed at each of these calls",
+    "fault_reads": "the same while the token or the configuration is read",
+    "full_disk": "a disk that runs full",
+    "hardening": "the built programs' hardening",
+    "sample_agent_tests": "hostile requests to the sample agent, its core",
+    "sample_agent_program_tests": "the same to the program, killed and started again",
     "e2e_clock": "the process stopped, its clock set",
     "e2e_agent_trouble": "agents that do not start, do not stop, or are too many",
     "e2e_many_windows": "windows and launches in numbers",
