@@ -39,17 +39,19 @@ const SeverityLook& lookOf(const QString& severity) {
 AlertPresentation present(const Snapshot<ThreatAlert>& alert) {
   const auto severity = shortened(alert->severity);
   const auto& look = lookOf(severity);
-  const auto typeAloud = shortened(alert->alert_type);
 
   AlertPresentation row;
   row.severityIcon = look.icon;
   row.severityColor = look.color;
   row.alertType = LongText({alert, &alert->alert_type});
-  row.accessibleName = severity.isEmpty() ? typeAloud : severity + QStringLiteral(": ") + typeAloud;
+  row.accessibleName = row.alertType.shortened();
+  if (!severity.isEmpty()) {
+    row.accessibleName.prepend(severity + QStringLiteral(": "));
+  }
   if (alert->description) {
     row.hasDescription = true;
     row.description = LongText({alert, &*alert->description});
-    row.accessibleName += QStringLiteral(", ") + shortened(*alert->description);
+    row.accessibleName += QStringLiteral(", ") + row.description.shortened();
   }
   return row;
 }

@@ -8,11 +8,11 @@ namespace quillmark {
 AppPresentation present(const Snapshot<InstalledApp>& app) {
   AppPresentation row;
   row.name = LongText({app, &app->name});
-  row.accessibleName = shortened(app->name);
+  row.accessibleName = row.name.shortened();
   if (app->version) {
     row.hasVersion = true;
     row.version = LongText({app, &*app->version}, QStringLiteral("v"));
-    row.accessibleName += QStringLiteral(", v") + shortened(*app->version);
+    row.accessibleName += QStringLiteral(", ") + row.version.shortened();
   }
   return row;
 }

@@ -53,10 +53,16 @@ QString pieceOf(std::string_view text, std::size_t index) {
   return QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size()));
 }
 
+QString withEllipsisIf(bool isLong, const QString& beginning) {
+  return isLong ? beginning + QStringLiteral("…") : beginning;
+}
+
 }  // namespace
 
 LongText::LongText(const Snapshot<std::string>& text, const QString& before)
     : beginning_(before + pieceOf(*text, 0)), isLong_(quillmark::isLong(*text)), text_(text) {}
+
+QString LongText::shortened() const { return withEllipsisIf(isLong_, beginning_); }
 
 std::optional<QString> LongText::piece(std::size_t index) const {
   if (index == 0) {
@@ -69,8 +75,6 @@ std::optional<QString> LongText::piece(std::size_t index) const {
 
 bool isLong(std::string_view text) { return text.size() > pieceLength; }
 
-QString shortened(std::string_view text) {
-  return pieceOf(text, 0) + (isLong(text) ? QStringLiteral("…") : QString());
-}
+QString shortened(std::string_view text) { return withEllipsisIf(isLong(text), pieceOf(text, 0)); }
 
 }  // namespace quillmark

@@ -41,6 +41,8 @@ class LongText {
   [[nodiscard]] const QString& beginning() const { return beginning_; }
   /// Whether there is more of it than the first piece.
   [[nodiscard]] bool isLong() const { return isLong_; }
+  /// What `shortened()` makes of the text.
+  [[nodiscard]] QString shortened() const;
   /// The piece with this index, if there is one.
   [[nodiscard]] std::optional<QString> piece(std::size_t index) const;
 
