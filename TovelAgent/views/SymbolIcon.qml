@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// The icon of a symbolic name, as large as symbols stand beside text of
 /// `size`. Decoration: what it means is said by the text it goes with.
@@ -19,5 +20,5 @@ Image {
     height: side
     sourceSize.width: side
     sourceSize.height: side
-    source: name.length > 0 ? "image://icon/" + name + color : ""
+    source: IconAddress.of(name, color)
 }
