@@ -3,20 +3,36 @@
 
 include_guard(GLOBAL)
 
-# How tests are registered. Each writes what it ran to
-# test-results/<name>.xml, from which the closing count is made.
+# How tests are registered. ctest knows every case of a C++ program by its own
+# name, and every file of tests in Python and all views as one test each; these
+# write what they ran to test-results/<name>.xml, for the closing count.
+#
+# `test` gives ctest four places for each core. A test that computes takes all
+# four, one that waits for a panel most of the time takes one or two. The time a
+# test may take is one for all and stands in `test`: it ends what hangs.
 
 find_package(GTest REQUIRED)
+include(GoogleTest)
 
+set(QUILLMARK_PLACES_OF_A_CORE 4)
 set(QUILLMARK_SANDBOX "${PROJECT_SOURCE_DIR}/tests/support/sandbox")
 set(QUILLMARK_TEST_RESULTS "${CMAKE_BINARY_DIR}/test-results")
 file(MAKE_DIRECTORY "${QUILLMARK_TEST_RESULTS}")
 
-# quillmark_test(<name> <seconds> <command>...): a test inside the sandbox.
-function(quillmark_test name seconds)
-  add_test(NAME ${name} COMMAND "${QUILLMARK_SANDBOX}" ${ARGN})
-  set_tests_properties(
-    ${name} PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "QUILLMARK_BUILD_DIR=${CMAKE_BINARY_DIR}")
+# What every test is started with. A sanitizer tells of a crash itself.
+set(QUILLMARK_LAUNCHER env "QUILLMARK_BUILD_DIR=${CMAKE_BINARY_DIR}")
+set(QUILLMARK_DIRECT_LAUNCHER ${QUILLMARK_LAUNCHER})
+if(NOT QUILLMARK_SANITIZE)
+  # As the sandbox does for what runs in there.
+  list(APPEND QUILLMARK_DIRECT_LAUNCHER "QUILLMARK_CRASH_FOLDER=${QUILLMARK_TEST_RESULTS}"
+       "LD_PRELOAD=${CMAKE_BINARY_DIR}/tests/support/libcrash_reporter.so")
+endif()
+
+# quillmark_test(<name> <places> <command>...): a test inside the sandbox.
+function(quillmark_test name places)
+  set(name "${QUILLMARK_TEST_PREFIX}${name}")
+  add_test(NAME ${name} COMMAND ${QUILLMARK_LAUNCHER} "${QUILLMARK_SANDBOX}" ${ARGN})
+  set_tests_properties(${name} PROPERTIES PROCESSORS ${places})
 endfunction()
 
 # quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX | AS_USER])
@@ -31,26 +47,30 @@ function(quillmark_gtest target)
   # Only the code under test is worth optimising: it halves the build.
   target_compile_options(${target} PRIVATE -O0 -U_FORTIFY_SOURCE)
 
-  # Against hanging, and enough under a sanitizer.
-  set(patience 400)
-  set(command $<TARGET_FILE:${target}>
-              "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${target}.xml")
   if(arg_AS_USER)
-    quillmark_test(${target} ${patience} --as-user ${command})
+    set(launcher ${QUILLMARK_LAUNCHER} ${QUILLMARK_SANDBOX} --as-user)
   elseif(arg_SANDBOX)
-    quillmark_test(${target} ${patience} ${command})
+    set(launcher ${QUILLMARK_LAUNCHER} ${QUILLMARK_SANDBOX})
   else()
-    add_test(NAME ${target} COMMAND ${command})
-    set_tests_properties(${target} PROPERTIES TIMEOUT ${patience})
+    set(launcher ${QUILLMARK_DIRECT_LAUNCHER})
   endif()
+  # The first name is CMake's before 3.29, the second one's since.
+  set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher}"
+                                             TEST_LAUNCHER "${launcher}")
+  gtest_discover_tests(
+    ${target}
+    TEST_PREFIX "${QUILLMARK_TEST_PREFIX}"
+    DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 600
+    PROPERTIES PROCESSORS ${QUILLMARK_PLACES_OF_A_CORE})
 endfunction()
 
-# quillmark_pytest(<name> <file> [<word>...]): a file of tests in Python, behind
-# what words of the sandbox's command line are given.
-function(quillmark_pytest name file)
+# quillmark_pytest(<name> <places> <file> [<word>...]): a file of tests in Python,
+# behind what words of the sandbox's command line are given.
+function(quillmark_pytest name places file)
   quillmark_test(
     ${name}
-    300
+    ${places}
     ${ARGN}
     /usr/bin/python3
     -m
@@ -58,6 +78,6 @@ function(quillmark_pytest name file)
     --quiet
     -p
     no:cacheprovider
-    "--junitxml=${QUILLMARK_TEST_RESULTS}/${name}.xml"
+    "--junitxml=${QUILLMARK_TEST_RESULTS}/${QUILLMARK_TEST_PREFIX}${name}.xml"
     "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
 endfunction()

@@ -41,7 +41,7 @@ def under(attack, server, panel):
             ended = time.monotonic()
         # Values of before may still stand there; new ones need a whole poll.
         server.wait_for_poll()
-        until(lambda: Picture().whole() == good, "the good values again", timeout=120, step=0.1)
+        until(lambda: Picture().whole() == good, "the good values again", step=0.1)
         recovered = time.monotonic() - ended
     time.sleep(max(0.0, ended + SETTLING - time.monotonic()))
     return {

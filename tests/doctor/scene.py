@@ -13,6 +13,7 @@ from pathlib import Path
 
 from harness import tokens
 from harness.waiting import until
+from patience import PATIENCE
 
 HOME = Path(os.environ["HOME"])
 SYSTEM_TOKEN = tokens.SYSTEM
@@ -85,7 +86,7 @@ def line(mark, check, text):
 
 def run(*arguments, program=DOCTOR, **environment):
     """The finished process. Whatever it says, it tells no secret."""
-    done = subprocess.run([program, *arguments], capture_output=True, text=True, timeout=60,
+    done = subprocess.run([program, *arguments], capture_output=True, text=True, timeout=PATIENCE,
                           env=os.environ | environment, check=False)
     for secret in SECRETS:
         assert secret not in done.stdout + done.stderr

@@ -11,6 +11,7 @@ import pytest
 import scene
 from harness import bodies
 from harness.exchange import Answer, answer, silence
+from patience import PATIENCE
 from scene import line, look
 
 ONLINE = 'ONLINE: the panel shows the agent\'s status, "ok"'
@@ -162,7 +163,7 @@ def test_header_beyond_the_panels_limit(backend):
 def test_silence_ends_in_time_and_says_that_the_panel_waits(backend):
     backend.reply(status=silence(), alerts=silence(), network=silence(), inventory=silence())
     # Half of what the panel waits, and room enough for a busy machine.
-    done = subprocess.run([scene.DOCTOR], capture_output=True, text=True, timeout=30, check=False)
+    done = subprocess.run([scene.DOCTOR], capture_output=True, text=True, timeout=PATIENCE, check=False)
     assert done.returncode == 1
     assert line("wrong", "status",
                 "/api/status: no whole answer within 5 s; the panel would go on waiting until "

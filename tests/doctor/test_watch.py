@@ -11,6 +11,7 @@ import pytest
 
 import scene
 from harness.backend import Backend
+from patience import PATIENCE
 
 
 @contextlib.contextmanager
@@ -30,7 +31,7 @@ def test_fault_that_is_mended():
         # The round that is under way may still see the fault.
         rounds = [json.loads(doctor.stdout.readline()) for _ in range(2)]
         doctor.send_signal(signal.SIGTERM)
-        assert doctor.wait(timeout=60) == 0
+        assert doctor.wait(timeout=PATIENCE) == 0
         backend.stop()
     assert rounds[-1]["online"]
 
@@ -42,7 +43,7 @@ def test_exit_code_is_that_of_the_last_round(number):
             if line.startswith("Next step: "):
                 break
         doctor.send_signal(number)
-        assert doctor.wait(timeout=60) == 1
+        assert doctor.wait(timeout=PATIENCE) == 1
 
 
 def test_rounds_of_text_are_set_apart(backend):

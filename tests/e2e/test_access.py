@@ -153,7 +153,7 @@ def test_a_change_of_the_status_is_announced(panel, backend):
         panel.tree.read()
         return event in [(member, body[0], body[3]) for member, body in heard]
 
-    until(announced, "the new status", timeout=20)
+    until(announced, "the new status")
     assert panel.tree.description(panel.tree.wait_for("group", "Status: WARNING")) == "Needs attention"
     backend.reply(status=bodies.status(threat_count=1))
     panel.tree.wait_for(*BADGES[0])

@@ -22,7 +22,7 @@ def starts(backend, since):
 def polls_on(backend, count=3):
     """Waits for that many polls from now on; they come at their usual pace."""
     since = time.monotonic()
-    until(lambda: len(starts(backend, since)) >= count, f"{count} more polls", timeout=30)
+    until(lambda: len(starts(backend, since)) >= count, f"{count} more polls")
     seen = starts(backend, since)[:count]
     assert all(4.0 <= b - a <= 6.5 for a, b in zip(seen, seen[1:])), seen
 
@@ -35,7 +35,7 @@ def test_stopped_for_twenty_seconds(launch, backend):
     never(lambda: starts(backend, stopped + 1), "a stopped panel polled", seconds=20)
     os.kill(panel.pid, signal.SIGCONT)
     since = time.monotonic()
-    until(lambda: len(starts(backend, since)) >= 3, "polling to go on", timeout=30)
+    until(lambda: len(starts(backend, since)) >= 3, "polling to go on")
     # What was missed is not made up for: the poll that was due, and the next.
     assert len([t for t in starts(backend, since) if t < since + 4]) <= 2
     polls_on(backend)

@@ -11,6 +11,7 @@ import pytest
 from harness import processes
 from harness.panel import EXECUTABLE
 from harness.screen import BUILD
+from patience import PATIENCE
 
 PROGRAMS = {
     "quillmark-agent": EXECUTABLE,
@@ -23,7 +24,7 @@ def run(name, *arguments):
     hidden = ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM")
     environment = {k: v for k, v in os.environ.items() if k not in hidden}
     return subprocess.run(
-        [PROGRAMS[name], *arguments], capture_output=True, text=True, timeout=15, env=environment
+        [PROGRAMS[name], *arguments], capture_output=True, text=True, timeout=PATIENCE, env=environment
     )
 
 

@@ -65,7 +65,7 @@ def check(panel, beside=(), topped=None):
 
     # The first picture may be of before the last change was drawn.
     try:
-        until(readable, "all to be readable", timeout=5)
+        until(readable, "all to be readable")
     except AssertionError:
         pytest.fail(f"too weak: {seen[-1]}")
     return len(texts), len(icons)

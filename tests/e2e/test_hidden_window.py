@@ -38,7 +38,7 @@ def starts(backend):
 
 def assert_one_poller(starts):
     already = len(starts())
-    until(lambda: len(starts()) >= already + POLLS, f"{POLLS} polls", timeout=30)
+    until(lambda: len(starts()) >= already + POLLS, f"{POLLS} polls")
     gaps = [after - before for before, after in pairwise(starts())]
     assert all(4.5 <= gap <= 6 for gap in gaps), gaps
 

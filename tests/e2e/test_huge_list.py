@@ -28,7 +28,7 @@ def backend():
 
 
 def test_shown_scrolled_and_replaced(panel, backend):
-    panel.tree.wait_for("text", str(COUNT), timeout=30)
+    panel.tree.wait_for("text", str(COUNT))
     panel.show("Network")
     panel.tree.wait_for("list", LIST)
     assert names(panel, LIST)[0] == "127.0.0.1:0, → 10.0.0.5:443, FIRST"
@@ -36,7 +36,7 @@ def test_shown_scrolled_and_replaced(panel, backend):
     assert scroll(panel, LIST, "End")[-1].name == last + "FIRST"
 
     backend.reply(network=connections("SECOND"))
-    until(lambda: names(panel, LIST)[-1] == last + "SECOND", "the new list", timeout=30)
+    until(lambda: names(panel, LIST)[-1] == last + "SECOND", "the new list")
     hands.click(panel.tree.find("tab", "Alerts").box)
     panel.selected("Alerts")
     hands.click(panel.tree.find("tab", "Network").box)
@@ -57,4 +57,4 @@ def test_shrunk_while_scrolled_to_its_end(panel, backend):
             rows[-1].box.bottom <= view.box.bottom + 1 and rows[0].box.y <= view.box.y
         )
 
-    until(at_the_new_end, "the shorter list's end in view", timeout=30)
+    until(at_the_new_end, "the shorter list's end in view")

@@ -12,6 +12,7 @@ from harness.panel import EXECUTABLE
 from harness.screen import Picture
 from harness.waiting import never, until
 from harness.window import Box, tool
+from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token")
 
@@ -73,7 +74,7 @@ def test_closed_window_and_a_new_one(launch, backend):
     # The first window's polling was never stopped, so there are two now.
     seen = len(backend.seen("status"))
     starts = lambda: [r.time for r in backend.seen("status")[seen:]]  # noqa: E731
-    until(lambda: len(starts()) == 4, "four more polls", timeout=20)
+    until(lambda: len(starts()) == 4, "four more polls")
     first, second, third, fourth = starts()
     assert 4.5 <= third - first <= 6 and 4.5 <= fourth - second <= 6
 
@@ -100,7 +101,7 @@ def test_quit_ends_the_process(launch):
 
 
 def quit_by_command():
-    return subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True, timeout=15)
+    return subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True, timeout=PATIENCE)
 
 
 def test_quit_by_command_ends_the_open_panel(launch):

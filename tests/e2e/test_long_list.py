@@ -76,7 +76,7 @@ def test_place_is_kept_over_ten_polls(panel, backend):
     assert COUNT // 10 < index < COUNT * 9 // 10
 
     done = len(backend.seen("inventory"))
-    until(lambda: len(backend.seen("inventory")) >= done + 9, "nine polls", timeout=60)
+    until(lambda: len(backend.seen("inventory")) >= done + 9, "nine polls")
     assert listed(panel, LIST) == before
 
     # The tenth brings other values: they are shown, at the same place.

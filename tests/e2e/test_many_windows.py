@@ -12,6 +12,7 @@ import pytest
 from harness.panel import EXECUTABLE, spawn
 from harness.waiting import never, until
 from harness.window import visible
+from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token")
 
@@ -39,7 +40,7 @@ def test_twenty_windows_one_after_another(launch, backend):
     assert len(panel.windows()) == 1
     # No more is held than while a poll of theirs is under way.
     until(lambda: all(now <= was for now, was in zip(held(panel.pid), before)),
-          f"no more than {before} held", timeout=30, step=0.01)
+          f"no more than {before} held", step=0.01)
     panel.tree.wait_for("text", "OK")
     # Each window's timer goes on.
     seen = len(backend.seen("status"))
@@ -50,11 +51,11 @@ def test_twenty_windows_one_after_another(launch, backend):
 def test_two_launched_at_once(display, backend):
     with contextlib.ExitStack() as stack:
         both = [spawn(stack.enter_context(tempfile.TemporaryFile())) for _ in range(2)]
-        until(lambda: [p for p in both if p.poll() is not None], "one to hand over", timeout=30)
+        until(lambda: [p for p in both if p.poll() is not None], "one to hand over")
         (other,) = [p for p in both if p.poll() is not None]
         (first,) = [p for p in both if p.poll() is None]
         assert other.returncode == 0
         until(lambda: visible(first.pid), "the window")
         never(lambda: len(visible(first.pid)) != 1, "another window", seconds=2)
-        assert subprocess.run([EXECUTABLE, "--quit"], timeout=30).returncode == 0
-        assert first.wait(timeout=15) == 0
+        assert subprocess.run([EXECUTABLE, "--quit"], timeout=PATIENCE).returncode == 0
+        assert first.wait(timeout=PATIENCE) == 0

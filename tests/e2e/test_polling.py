@@ -25,7 +25,7 @@ def backend():
 
 @pytest.fixture(scope="module")
 def requests(panel, backend):
-    until(lambda: len(backend.seen("inventory")) >= POLLS, "three polls", timeout=25)
+    until(lambda: len(backend.seen("inventory")) >= POLLS, "three polls")
     return backend.seen()[: POLLS * len(ENDPOINTS)]
 
 

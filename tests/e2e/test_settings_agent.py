@@ -13,6 +13,7 @@ from harness.screen import Picture
 from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP, status
 from harness.waiting import never, until
 from harness.window import Box
+from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("fresh_home")
 
@@ -88,7 +89,7 @@ def test_whatever_bears_the_name_counts_and_is_stopped(panel):
     start(panel)
     until(lambda: len(processes.agents()) == 2, "two agents")
     settings.press(panel, STOP)
-    assert other.wait(timeout=15) == -signal.SIGTERM
+    assert other.wait(timeout=PATIENCE) == -signal.SIGTERM
     until(lambda: not processes.named(), "both to end")
     until(lambda: status(panel) == NOT_RUNNING, NOT_RUNNING)
 

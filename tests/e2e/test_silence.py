@@ -38,7 +38,7 @@ def backend(held):
 
 
 def test_polls_pile_up(panel, backend):
-    until(lambda: len(backend.seen()) == 3, "three polls", timeout=20)
+    until(lambda: len(backend.seen()) == 3, "three polls")
     requests = backend.seen()
     # None got beyond its first request, and none waits for an earlier poll.
     assert [r.endpoint for r in requests] == ["status"] * 3

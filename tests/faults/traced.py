@@ -11,6 +11,8 @@ from typing import NamedTuple
 
 import pytest
 
+from patience import PATIENCE
+
 # The driver frames the action by these.
 FRAME = "getppid"
 # For memory and threads; they touch no file, and to fail or kill the process
@@ -24,7 +26,6 @@ NOT_OF_FILES = {
 SOMETIMES = "GRND_NONBLOCK"
 # What a sanitizer cannot do while someone else traces the process.
 SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=0"}
-PATIENCE = 60
 
 
 class Call(NamedTuple):

@@ -6,13 +6,14 @@
 #include <chrono>
 #include <thread>
 
+#include "support/Patience.h"
+
 namespace quillmark::test {
 
-/// Looks until `condition` holds; false when it does not for very long: a
-/// loaded machine must not decide a result.
+/// Looks until `condition` holds; false when patience ends.
 template <class Condition>
 [[nodiscard]] bool waitUntil(Condition condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  const auto end = std::chrono::steady_clock::now() + patience();
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) {
       return false;

@@ -14,15 +14,12 @@
 #include <sys/time.h>
 #include <unistd.h>
 
+#include "support/Patience.h"
+
 namespace quillmark::sample::test {
-namespace {
-
-constexpr timeval patience{30, 0};
-
-}  // namespace
-
 RawClient::RawClient(std::uint16_t port)
     : descriptor_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+  const timeval patience{quillmark::test::patience().count(), 0};
   setsockopt(descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
   setsockopt(descriptor_, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
   sockaddr_in address{};

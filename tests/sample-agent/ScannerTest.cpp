@@ -16,6 +16,7 @@
 #include "model/Codec.h"
 #include "platform/Utf8.h"
 #include "sample-agent/FixtureTree.h"
+#include "support/Patience.h"
 
 namespace quillmark::sample {
 namespace {
@@ -201,7 +202,7 @@ class Counter {
   }
   [[nodiscard]] bool reached(int count) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, std::chrono::seconds(30), [&] { return count_ >= count; });
+    return changed_.wait_for(lock, quillmark::test::patience(), [&] { return count_ >= count; });
   }
   [[nodiscard]] std::shared_ptr<const Snapshot> last() {
     const std::lock_guard lock(mutex_);

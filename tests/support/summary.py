@@ -1,10 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""summary.py BUILD_FOLDER...
+"""summary.py CTEST_XML BUILD_FOLDER...
 
-Counts what ran in each folder's test-results/: ctest.xml lists the test
-programs, <program>.xml the cases of each. Names every case that failed, ends
-with the count, and exits with 1 unless something passed and nothing failed.
+Counts what ran: CTEST_XML lists the tests, and test-results/<test>.xml in a build
+folder the cases of those that have several. Names every case that failed and
+every crash, ends with the count, and exits with 1 unless something passed and
+nothing failed.
 """
 import collections
 import pathlib
@@ -19,38 +20,40 @@ def outcome(case):
     return "skipped" if skipped else "passed"
 
 
-def cases_of(program, results):
-    """The outcome of each case of a program, by name. A program that failed
-    without a failed case to show for it (a crash, a time-out) is a failure of
-    its own; one without a report counts as one case."""
-    name = program.get("name")
-    failed = program.get("status") == "fail"
-    report = results / f"{name}.xml"
+def cases_of(test, folders):
+    """The outcome of each case of a test, by name. A test that failed without a
+    failed case to show for it (a crash, a time-out) is a failure of its own; one
+    without a report is one case."""
+    name = test.get("name")
+    failed = test.get("status") == "fail"
     cases = []
-    if report.exists():
+    for report in (folder / f"{name}.xml" for folder in folders):
         try:
-            cases = [
+            cases += [
                 (f"{name}: {case.get('classname')}.{case.get('name')}", outcome(case))
                 for case in ElementTree.parse(report).iter("testcase")
             ]
+        except FileNotFoundError:
+            pass
         except ElementTree.ParseError:
             failed = True
     if failed and not any(result == "failed" for _, result in cases):
         cases.append((name, "failed"))
-    return cases or [(name, outcome(program))]
+    return cases or [(name, outcome(test))]
 
 
-def main(folders):
+def main(listing, *folders):
+    folders = [pathlib.Path(folder) / "test-results" for folder in folders]
     counts = collections.Counter()
-    for folder in folders:
-        results = pathlib.Path(folder) / "test-results"
-        for program in ElementTree.parse(results / "ctest.xml").iter("testcase"):
-            for case, result in cases_of(program, results):
-                counts[result] += 1
-                if result != "passed":
-                    print(f"{result}: {folder}: {case}")
+    for test in ElementTree.parse(listing).iter("testcase"):
+        for case, result in cases_of(test, folders):
+            counts[result] += 1
+            if result != "passed":
+                print(f"{result}: {case}")
+    for report in (file for folder in folders for file in sorted(folder.glob("crash-*.txt"))):
+        print(f"crashed: {report}")
     print(f"{counts['passed']} passed, {counts['failed']} failed, {counts['skipped']} skipped")
     return 0 if counts["passed"] and not counts["failed"] else 1
 
 
-sys.exit(main(sys.argv[1:]))
+sys.exit(main(*sys.argv[1:]))

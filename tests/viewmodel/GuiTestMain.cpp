@@ -9,15 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include "support/Patience.h"
 #include "viewmodel/GuiTest.h"
 
 namespace quillmark::test {
 namespace {
-
-using namespace std::chrono_literals;
-
-// Far more than anything waited for takes, also on a machine under load.
-constexpr std::chrono::milliseconds patience = 60s;
 
 std::mutex keeperMutex;
 KeptWarnings* keeper = nullptr;
@@ -50,7 +46,7 @@ KeptWarnings::~KeptWarnings() {
 }
 
 bool waitUntil(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition, static_cast<int>(patience.count()));
+  return QTest::qWaitFor(condition, static_cast<int>(std::chrono::milliseconds(patience()).count()));
 }
 
 }  // namespace quillmark::test

@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from gi.repository import GLib
 
 from . import atspi
-from .waiting import PATIENCE, until
+from .waiting import until
 from .window import Box
 
 # Numbers of the accessibility protocol.
@@ -67,30 +67,13 @@ def _states(low):
     return frozenset(word for bit, word in STATES.items() if low >> bit & 1)
 
 
-def _children(answers):
-    """What lies below something hidden is hidden too and need not be read."""
-    *_, ((low, _),), _, (children,) = answers
-    return children if "showing" in _states(low) else []
-
-
-def _item(address, answers, children):
-    (role,), (name,), ((low, _),), (extents,), _ = answers
+def _item(told):
+    """Children that are hidden are not there for anybody."""
+    children = (_item(child) for child in told["children"])
     shown = tuple(child for child in children if "showing" in child.states)
-    role = ROLES.get(role, f"role {role}")
-    return Item(role, name, Box(*extents), _states(low), shown, address)
-
-
-def _read(bus, root):
-    """Level by level, since each level can be asked about at once."""
-    levels = []
-    nodes = [root]
-    while nodes:
-        levels.append(list(zip(nodes, bus.describe(nodes))))
-        nodes = [child for _, answers in levels[-1] for child in _children(answers)]
-    below = iter(())
-    for level in reversed(levels):
-        below = iter([_item(n, a, [next(below) for _ in _children(a)]) for n, a in level])
-    return next(below)
+    role = ROLES.get(told["role"], f"role {told['role']}")
+    return Item(role, told["name"], Box(*told["box"]), _states(told["states"]), shown,
+                tuple(told["address"]))
 
 
 class Tree:
@@ -105,23 +88,24 @@ class Tree:
         def attempt():
             try:
                 self._root = self._root or self._bus.application(self._pid)
-                return self._root and _read(self._bus, self._root)
             except GLib.Error:
-                return None  # Something went away half-way; read again.
+                return None  # Some program went away half-way; look again.
+            told = self._root and self._bus.tree(self._root)
+            return told and _item(told)
 
         return until(attempt, "the panel in the accessibility tree")
 
     def find(self, role, name):
         return self.read().find(role, name)
 
-    def wait_for(self, role, name, timeout=PATIENCE):
-        return until(lambda: self.find(role, name), f"{role} {name!r}", timeout)
+    def wait_for(self, role, name):
+        return until(lambda: self.find(role, name), f"{role} {name!r}")
 
     def wait_for_beginning(self, role, beginning):
         """One whose name begins so."""
         return until(lambda: next((i for i in self.read().every(role)
                                    if i.name.startswith(beginning)), None),
-                     f"{role} {beginning[:80]!r}", timeout=40)
+                     f"{role} {beginning[:80]!r}")
 
     def wait_without(self, role, name):
         until(lambda: not self.find(role, name), f"{role} {name!r} to be gone")

@@ -53,7 +53,7 @@ class Backend:
         """Waits for a whole poll that begins after this call."""
         now = time.monotonic()
         until(
-            lambda: self._answered_since(now), "a whole poll", timeout=20.0, step=0.02
+            lambda: self._answered_since(now), "a whole poll", step=0.02
         )
 
     def _answered_since(self, start):

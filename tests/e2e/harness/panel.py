@@ -7,6 +7,8 @@ import re
 import subprocess
 import tempfile
 
+from patience import PATIENCE
+
 from . import hands, window
 from .accessible import Tree
 from .screen import BUILD
@@ -101,7 +103,7 @@ class Panel:
     def launch_again(self):
         """Another launch hands over to this one and is done, without a word."""
         with tempfile.TemporaryFile() as output:
-            assert spawn(output).wait(timeout=30) == 0
+            assert spawn(output).wait(timeout=PATIENCE) == 0
             output.seek(0)
             assert output.read() == b""
         until(self.windows, "a window")

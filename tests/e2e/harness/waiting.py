@@ -4,20 +4,22 @@
 
 import time
 
-# Generous: a loaded machine must not decide a result.
-PATIENCE = 15.0
+from patience import PATIENCE
 
 
-def until(condition, what, timeout=PATIENCE, step=0.03):
+def until(condition, what, step=0.03):
     """Returns the condition's first true value."""
-    end = time.monotonic() + timeout
+    end = time.monotonic() + PATIENCE
     while True:
+        asked = time.monotonic()
         value = condition()
         if value:
             return value
-        if time.monotonic() > end:
-            raise AssertionError(f"waited {timeout} s in vain for {what}")
-        time.sleep(step)
+        now = time.monotonic()
+        if now > end:
+            raise AssertionError(f"waited {PATIENCE} s in vain for {what}")
+        # At least as long as the look took, to leave the core to what is awaited.
+        time.sleep(max(step, now - asked))
 
 
 def never(condition, what, seconds):

@@ -15,13 +15,13 @@
 
 #include "procfs/SystemFile.h"
 #include "sample-agent/RawClient.h"
+#include "support/Patience.h"
 
 namespace quillmark::sample::test {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto longestWait = std::chrono::seconds(60);
 constexpr auto glance = std::chrono::milliseconds(5);
 constexpr uid_t ordinaryUser = 1000;
 
@@ -79,7 +79,7 @@ bool AgentProgram::hasEnded() {
 }
 
 bool AgentProgram::waitUntilReady() {
-  const auto end = Clock::now() + longestWait;
+  const auto end = Clock::now() + quillmark::test::patience();
   while (!hasEnded() && Clock::now() < end) {
     if (statusOf(ask(programPort, RequestText{}.text())) == 401) {
       return true;
@@ -90,7 +90,7 @@ bool AgentProgram::waitUntilReady() {
 }
 
 int AgentProgram::waitForEnd() {
-  const auto end = Clock::now() + longestWait;
+  const auto end = Clock::now() + quillmark::test::patience();
   while (!hasEnded()) {
     if (Clock::now() > end) {
       throw std::runtime_error("the program does not end");
