@@ -35,12 +35,13 @@ function(quillmark_test name places)
   set_tests_properties(${name} PROPERTIES PROCESSORS ${places})
 endfunction()
 
-# quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX | AS_USER])
+# quillmark_gtest(<target> <file>... LIBRARIES <library>... [SANDBOX | AS_USER]
+#                 [PLACES <number>])
 #
 # SANDBOX is for tests that need the real port, token paths or processes;
 # AS_USER runs there as an ordinary user: for root file modes do not count.
 function(quillmark_gtest target)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX;AS_USER" "" "LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX;AS_USER" "PLACES" "LIBRARIES")
   add_executable(${target} ${arg_UNPARSED_ARGUMENTS})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${target} PRIVATE quillmark_options ${arg_LIBRARIES} GTest::gtest_main)
@@ -54,6 +55,9 @@ function(quillmark_gtest target)
   else()
     set(launcher ${QUILLMARK_DIRECT_LAUNCHER})
   endif()
+  if(NOT arg_PLACES)
+    set(arg_PLACES ${QUILLMARK_PLACES_OF_A_CORE})
+  endif()
   # The first name is CMake's before 3.29, the second one's since.
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher}"
                                              TEST_LAUNCHER "${launcher}")
@@ -62,7 +66,7 @@ function(quillmark_gtest target)
     TEST_PREFIX "${QUILLMARK_TEST_PREFIX}"
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 600
-    PROPERTIES PROCESSORS ${QUILLMARK_PLACES_OF_A_CORE})
+    PROPERTIES PROCESSORS ${arg_PLACES})
 endfunction()
 
 # quillmark_pytest(<name> <places> <file> [<word>...]): a file of tests in Python,

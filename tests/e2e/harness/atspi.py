@@ -62,10 +62,13 @@ class Bus:
         return next((app for app, (owner,) in zip(known, owners) if owner == pid), None)
 
     def tree(self, node):
-        """The node with all that shows below it; nothing if it changed meanwhile."""
+        """The node with all that shows below it; nothing if it changed meanwhile.
+        What is announced until then has been heard."""
         self._reader.stdin.write(" ".join(node) + "\n")
         line = self._reader.stdout.readline()
         assert line, "the reader of accessible trees has ended"
+        while GLib.MainContext.default().pending():
+            GLib.MainContext.default().iteration(False)
         return json.loads(line)[0] if line.strip() else None
 
     def text(self, node):
