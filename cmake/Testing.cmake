@@ -3,9 +3,11 @@
 
 include_guard(GLOBAL)
 
-# How tests are registered. ctest knows every case of a C++ program by its own
-# name, and every file of tests in Python and all views as one test each; these
-# write what they ran to test-results/<name>.xml, for the closing count.
+# How tests are registered. ctest knows every program of tests and, by their own
+# names, all cases of the C++ ones. `test` runs the programs, because starting one
+# for each case costs a minute; these write what they ran to
+# test-results/<name>.xml, for the closing count. Whoever calls ctest with a
+# preset runs the cases.
 #
 # `test` gives ctest four places for each core. A test that computes takes all
 # four, one that waits for a panel most of the time takes one or two. The time a
@@ -48,6 +50,9 @@ function(quillmark_gtest target)
   # Only the code under test is worth optimising: it halves the build.
   target_compile_options(${target} PRIVATE -O0 -U_FORTIFY_SOURCE)
 
+  if(NOT arg_PLACES)
+    set(arg_PLACES ${QUILLMARK_PLACES_OF_A_CORE})
+  endif()
   if(arg_AS_USER)
     set(launcher ${QUILLMARK_LAUNCHER} ${QUILLMARK_SANDBOX} --as-user)
   elseif(arg_SANDBOX)
@@ -55,9 +60,12 @@ function(quillmark_gtest target)
   else()
     set(launcher ${QUILLMARK_DIRECT_LAUNCHER})
   endif()
-  if(NOT arg_PLACES)
-    set(arg_PLACES ${QUILLMARK_PLACES_OF_A_CORE})
-  endif()
+
+  set(name "${QUILLMARK_TEST_PREFIX}${target}")
+  add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${target}>
+                                "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${name}.xml")
+  set_tests_properties(${name} PROPERTIES PROCESSORS ${arg_PLACES} LABELS program)
+
   # The first name is CMake's before 3.29, the second one's since.
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher}"
                                              TEST_LAUNCHER "${launcher}")
@@ -66,7 +74,7 @@ function(quillmark_gtest target)
     TEST_PREFIX "${QUILLMARK_TEST_PREFIX}"
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 600
-    PROPERTIES PROCESSORS ${arg_PLACES})
+    PROPERTIES PROCESSORS ${arg_PLACES} LABELS case)
 endfunction()
 
 # quillmark_pytest(<name> <places> <file> [<word>...]): a file of tests in Python,

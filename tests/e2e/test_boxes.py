@@ -7,6 +7,7 @@ from itertools import takewhile
 import pytest
 
 from harness import cards, colours, hands, settings
+from harness.panel import Panel
 from harness.screen import Picture
 from harness.waiting import until
 from harness.window import Box
@@ -15,19 +16,17 @@ SCREEN = (2100, 1500)
 # By what curves may differ that are drawn in opposite directions.
 TOLERANCE = 8
 
-pytestmark = pytest.mark.usefixtures("token", "clean_home")
-
-
-@pytest.fixture(params=[
+@pytest.fixture(scope="module", params=[
     ("1", "software"), ("1.25", "software"), ("1.5", "software"), ("1.75", "software"),
     ("2", "software"), ("1.25", "opengl"), ("1.75", "opengl"),
 ], ids="-".join)
-def sight(request, launch):
+def sight(request, display, token, backend):
     scale, renderer = request.param
     environment = {} if renderer == "software" else {"QSG_RHI_BACKEND": renderer}
-    panel = launch(QT_SCALE_FACTOR=scale, **environment)
+    panel = Panel(QT_SCALE_FACTOR=scale, **environment).opened()
     panel.tree.wait_for("text", "OK")
-    return Sight(panel, float(scale))
+    yield Sight(panel, float(scale))
+    panel.finish()
 
 
 class Sight:
@@ -110,6 +109,7 @@ def test_settings(sight):
 
 def test_dashboard(sight):
     panel = sight.panel
+    panel.show("Dashboard")
     hands.park()
     (window,) = panel.tree.read().every("window")
     title, value = (text.box for text in cards.items(panel)[1])

@@ -7,20 +7,28 @@ from itertools import groupby
 import pytest
 
 from harness import bodies, colours, hands
+from harness.panel import Panel
 from harness.screen import Picture
 from harness.window import Box
 
 SCREEN = (3100, 2200)
 
-pytestmark = pytest.mark.usefixtures("token")
+APPS = bodies.inventory(*(
+    bodies.app(f"App {n}", **({"version": "1"} if n % 3 else {})) for n in range(30)))
+SHORT = bodies.alerts(*(bodies.alert(f"Alert {n}", description="a word") for n in range(3)))
+LONG = bodies.alerts(*(bodies.alert("many words " * 1000, description="and more " * 1000)
+                       for _ in range(20)))
 
-every_scale = pytest.mark.parametrize("scale", ["1", "1.25", "1.5", "1.75", "2"])
+
+@pytest.fixture(scope="module", params=["1", "1.25", "1.5", "1.75", "2"])
+def panel(request, display, token, backend):
+    backend.reply(inventory=APPS, alerts=SHORT)
+    panel = Panel(QT_SCALE_FACTOR=request.param).opened()
+    yield panel
+    panel.finish()
 
 
-@every_scale
-def test_are_equally_thick(launch, scale):
-    rows = [bodies.app(f"App {n}", **({"version": "1"} if n % 3 else {})) for n in range(30)]
-    panel = launch({"inventory": bodies.inventory(*rows)}, QT_SCALE_FACTOR=scale)
+def test_are_equally_thick(panel):
     panel.show("Inventory")
     panel.tree.wait_for("list", "Installed applications")
     hands.park()
@@ -33,17 +41,12 @@ def test_are_equally_thick(launch, scale):
     assert len(lines) >= 7 and len(set(lines[1:-1])) == 1, lines
 
 
-@every_scale
-def test_leave_no_trace_when_rows_shrink(launch, backend, scale):
-    short = bodies.alerts(*(bodies.alert(f"Alert {n}", description="a word") for n in range(3)))
-    long = bodies.alerts(*(bodies.alert("many words " * 1000, description="and more " * 1000)
-                           for _ in range(20)))
-    panel = launch({"alerts": short}, QT_SCALE_FACTOR=scale)
+def test_leave_no_trace_when_rows_shrink(panel, backend):
     panel.show("Alerts")
     hands.park()
     panel.tree.wait_for("text", "Alert 0")
     before = Picture.settled()
-    for bodies_sent, told in (long, "many words "), (short, "Alert 0"):
+    for bodies_sent, told in (LONG, "many words "), (SHORT, "Alert 0"):
         backend.reply(alerts=bodies_sent)
         panel.tree.wait_for_beginning("text", told)
     assert Picture.settled().whole() == before.whole()

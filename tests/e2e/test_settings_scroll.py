@@ -28,19 +28,20 @@ def page(panel):
     return panel.tree.find("group", "Settings")
 
 
-def in_view(panel, which):
-    found = page(panel).find(*which)
-    return found and page(panel).box.holds(found.box) and found
+def in_view(panel, which, seen=None):
+    seen = seen or page(panel)
+    found = seen.find(*which)
+    return found and seen.box.holds(found.box) and found
 
 
 def seen_on_the_way(panel, step, goal):
     """Steps until the goal is in view; the cards whose titles were seen."""
     seen = set()
     for _ in range(30):
-        seen |= {name for name in CARDS if in_view(panel, ("text", name))}
-        if in_view(panel, goal):
-            return seen
         before = page(panel)
+        seen |= {name for name in CARDS if in_view(panel, ("text", name), before)}
+        if in_view(panel, goal, before):
+            return seen
         step()
         until(lambda: page(panel) != before, "the page to move")
     raise AssertionError(f"{goal} was not reached")

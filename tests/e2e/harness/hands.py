@@ -2,13 +2,19 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Keys and pointer, through the X server's own test extension."""
 
+import time
+
 from .window import tool
+
+# Most looks that a test takes at once would be too early and have to be repeated.
+REACTION = 0.02
 
 
 def key(*names, times=1):
     """Waits between repeated keys, as held keys do."""
     repeat = ["--repeat", str(times), "--repeat-delay", "4"] if times > 1 else []
     tool("xdotool", "key", *repeat, *names)
+    time.sleep(REACTION)
 
 
 def write(text):
@@ -20,6 +26,7 @@ def click(box, times=1):
     x, y = box.centre
     repeat = ["--repeat", str(times), "--delay", "60"] if times > 1 else []
     tool("xdotool", "mousemove", str(x), str(y), "click", *repeat, "1")
+    time.sleep(REACTION)
 
 
 def drag(start, by, steps=8):
@@ -35,6 +42,7 @@ def wheel_down(box, notches, button=5):
     x, y = box.centre
     tool("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(notches),
          "--delay", "10", str(button))
+    time.sleep(REACTION)
 
 
 def wheel_up(box, notches):

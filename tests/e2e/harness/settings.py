@@ -56,10 +56,28 @@ def enter(panel):
     panel.tree.wait_for("group", "Quick Setup")
 
 
-def press(panel, button, key="space"):
-    """By keyboard alone."""
-    panel.press_until_focused(*button)
-    hands.key(key)
+def _in_view(panel, which):
+    """Where it can be clicked, if it can without scrolling."""
+    page = panel.tree.find("group", "Settings")
+    found = page and page.find(*which)
+    return found.box if found and page.box.holds(found.box) else None
+
+
+def reach(panel, which):
+    """Gives it the keyboard, by the quickest way that a user has."""
+    if box := _in_view(panel, which):
+        hands.click(box)
+    else:
+        panel.press_until_focused(*which)
+
+
+def press(panel, button):
+    """By pointer where the button is in view, else by keyboard."""
+    if box := _in_view(panel, button):
+        hands.click(box)
+    else:
+        panel.press_until_focused(*button)
+        hands.key("space")
 
 
 def field(panel, which):
@@ -67,8 +85,8 @@ def field(panel, which):
 
 
 def fill(panel, which, text):
-    """Replaces what a field holds, by keyboard alone."""
-    panel.press_until_focused(*which)
+    """Replaces what a field holds."""
+    reach(panel, which)
     hands.key("ctrl+a", "BackSpace")
     if text:
         hands.write(text)

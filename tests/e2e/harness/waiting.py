@@ -7,19 +7,19 @@ import time
 from patience import PATIENCE
 
 
+SELDOM = 0.3  # seconds between two looks at what takes long
+
+
 def until(condition, what, step=0.03):
     """Returns the condition's first true value."""
     end = time.monotonic() + PATIENCE
-    while True:
-        asked = time.monotonic()
-        value = condition()
-        if value:
-            return value
-        now = time.monotonic()
-        if now > end:
+    while not (value := condition()):
+        if time.monotonic() > end:
             raise AssertionError(f"waited {PATIENCE} s in vain for {what}")
-        # At least as long as the look took, to leave the core to what is awaited.
-        time.sleep(max(step, now - asked))
+        # Ever less often: looking costs what is awaited, too.
+        time.sleep(step)
+        step = max(step, min(1.3 * step, SELDOM))
+    return value
 
 
 def never(condition, what, seconds):
@@ -27,4 +27,4 @@ def never(condition, what, seconds):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         assert not condition(), what
-        time.sleep(0.05)
+        time.sleep(SELDOM)
