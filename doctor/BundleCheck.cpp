@@ -21,9 +21,8 @@ void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& 
   finding.facts["path"] = harmless(bundle);
   finding.text = harmless(bundle) + ": ";
   if (!staysQuoted(bundle)) {
-    finding.say(Mark::wrong,
-                "holds an apostrophe or a control character, so Start Agent does nothing",
-                "Move the application to a path without an apostrophe or control character.");
+    finding.say(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
+                "Move the application to a path without an apostrophe.");
   }
   if (bundle.find(agentFileName) != std::string::npos) {
     finding.say(Mark::wrong,

@@ -3,7 +3,6 @@
 
 #include "agentctl/AgentProcess.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/BundlePath.h"
@@ -17,12 +16,7 @@ constexpr auto shell = "/bin/bash";
 
 }  // namespace
 
-bool staysQuoted(std::string_view path) {
-  return std::none_of(path.begin(), path.end(), [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return c == '\'' || byte < 0x20 || byte == 0x7F;
-  });
-}
+bool staysQuoted(std::string_view path) { return path.find('\'') == std::string_view::npos; }
 
 Command startCommand(const std::string& bundle, const std::string& home) {
   std::string line = "cd '" + bundle;

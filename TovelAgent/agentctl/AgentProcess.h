@@ -20,8 +20,7 @@ inline constexpr std::string_view agentFileName = "tovel-agent";
 inline constexpr std::string_view programsInBundle = "/Contents/MacOS";
 inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log";
 
-/// Whether `path` stays one word within a shell's apostrophes: it holds neither
-/// an apostrophe nor a control character.
+/// Whether `path` stays one word within a shell's apostrophes: it holds none.
 [[nodiscard]] bool staysQuoted(std::string_view path);
 
 /// The command that starts the agent of the bundle at `bundle` in the

@@ -27,12 +27,12 @@ struct ImportResult {
   boost::system::error_code error;  ///< set when it failed
 };
 
-/// Copies the configuration at `source`, at most 1 MiB of UTF-8 text that has
+/// Copies the configuration at `source`, at most 64 MiB of UTF-8 text that has
 /// "[agent]" anywhere in it, unchanged in place of the one before. Otherwise
 /// that one is as it was. Any thread; waits for the disk.
 [[nodiscard]] ImportResult importConfigFile(const std::string& source);
 
 /// The largest configuration that is read.
-inline constexpr std::size_t maxConfigBytes = std::size_t{1} << 20;
+inline constexpr std::size_t maxConfigBytes = std::size_t{64} << 20;
 
 }  // namespace quillmark

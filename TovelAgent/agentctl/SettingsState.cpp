@@ -84,8 +84,9 @@ void SettingsState::checkAgentStatus() {
 }
 
 void SettingsState::checkAgentStatusLater(int milliseconds) {
-  // The tab may be gone by then; the probe runs all the same.
-  QTimer::singleShot(milliseconds, QCoreApplication::instance(),
+  // The tab may be gone by then; the probe runs all the same. A coarse timer
+  // may be early by a twentieth.
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(),
                      [state = QPointer<SettingsState>(this)] {
                        if (state) {
                          state->checkAgentStatus();

@@ -8,6 +8,7 @@ import Quillmark.Views
 Window {
     id: window
 
+    objectName: "main"
     title: "Quillmark Agent"
     width: 1000
     height: 700

@@ -56,6 +56,8 @@ void WindowGroup::open() {
   }
   // Not in QML, whose engine would first have to learn all of Qt's enumerations.
   window->setFlags(Qt::Window | Qt::FramelessWindowHint);
+  // Qt's X11 platform reads the window's role from here; other platforms have none.
+  window->setProperty("_q_xcb_wm_window_role", window->objectName());
   windows_.append(window);
   isUnfinished_ = true;
   connect(window, &QQuickWindow::sceneGraphError, this, &restartInSoftware);

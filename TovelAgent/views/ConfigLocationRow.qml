@@ -27,6 +27,8 @@ Box {
             spacing: Theme.spacing
 
             SymbolIcon {
+                id: symbol
+
                 name: "document.text"
                 size: 12
                 color: Theme.blue
@@ -35,6 +37,7 @@ Box {
 
             ElidedLabel {
                 text: row.path
+                maximumWidth: row.width - 2 * 8 - symbol.width - Theme.spacing
                 size: 12
                 font.weight: Font.DemiBold
                 color: Theme.black

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Views
 
 /// What can be pressed, by pointer, keyboard or assistive technology.
 Item {
@@ -32,8 +33,9 @@ Item {
     // Assistive technology presses what is disabled, too.
     Accessible.onPressAction: if (enabled) pressed()
 
-    TapHandler {
-        onTapped: {
+    ClickArea {
+        anchors.fill: parent
+        onClicked: {
             if (pressable.takesFocus)
                 pressable.forceActiveFocus(Qt.MouseFocusReason);
             pressable.pressed();

@@ -16,11 +16,9 @@ class BundlePaths : public WithAgents {
 };
 
 TEST_F(BundlePaths, ThatBreakOutOfTheQuotesStartNothing) {
-  for (const std::string name : {"Ann's.app", "'; touch injected; '.app", "'", "two\nlines.app",
-                                 "tab\t.app", "\x01.app", "\x1F.app", "\x7F.app"}) {
+  for (const std::string name : {"Ann's.app", "'; touch injected; '.app", "'", "two\n'lines.app"}) {
     const Bundle bundle(name);
-    EXPECT_EQ(bundle.tells("start"),
-              "Error: The application's path holds an apostrophe or a control character")
+    EXPECT_EQ(bundle.tells("start"), "Error: The application's path holds an apostrophe")
         << testing::PrintToString(name);
     EXPECT_TRUE(waitUntil(isAlone));
     EXPECT_EQ(namesIn(std::filesystem::path(bundle.path()).parent_path()),
@@ -33,7 +31,8 @@ TEST_F(BundlePaths, ThatBreakOutOfTheQuotesStartNothing) {
 TEST_F(BundlePaths, ThatStayQuotedStartTheirAgent) {
   for (const std::string name :
        {"My App.app", "\"quoted\".app", "$HOME.app", "`id`.app", "a;b&c|d.app", "back\\slash.app",
-        "*.app", "caf\u00E9 \U0001F600.app", "-n.app", "\xFF.app"}) {
+        "*.app", "caf\u00E9 \U0001F600.app", "-n.app", "\xFF.app", "two\nlines.app", "tab\t.app",
+        "\x01.app", "\x1F.app", "\x7F.app"}) {
     const Bundle bundle(name);
     startAgent(bundle);
     EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); })) << testing::PrintToString(name);

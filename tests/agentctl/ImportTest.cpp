@@ -83,9 +83,9 @@ TEST_F(Import, ReplacesTheWholeFile) {
   EXPECT_EQ(namesIn(configFolder()), std::set<std::string>{"config.toml"});
 }
 
-TEST_F(Import, TakesOneMebibyteAndNoByteMore) {
+TEST_F(Import, TakesSixtyFourMebibytesAndNoByteMore) {
   std::string text = "[agent]\n";
-  text.resize(1048576, '#');
+  text.resize(67108864, '#');
   expectImported(text);
   fs::remove_all(home() + "/.config");
   writeFile(source, text + "#");

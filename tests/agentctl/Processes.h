@@ -34,6 +34,10 @@ struct Process {
 /// which the probe's tool takes for the command line.
 [[nodiscard]] std::vector<Process> bearersOfTheName();
 
+/// Starts a process that is no agent but has the name amidst its command line; it
+/// lasts until it is ended. Whether that worked.
+[[nodiscard]] bool startBearerOfTheName();
+
 /// Whether nobody is there but this process and those above it. Looks twice: a
 /// shell that forks and ends in the midst of a look is missed with all it leaves.
 [[nodiscard]] bool isAlone();

@@ -57,8 +57,12 @@ TEST_F(ReadCurrent, PassesOverAFirstFileThatIsNotUtf8) {
   expectSecond();
 }
 
-TEST_F(ReadCurrent, PassesOverAFirstFileThatIsTooLarge) {
-  writeFile(configFile(), "api_key = first\n" + std::string(maxConfigBytes, '#'));
+TEST_F(ReadCurrent, TakesSixtyFourMebibytesAndPassesOverAByteMore) {
+  std::string text = "api_key = first\n";
+  text.resize(67108864, '#');
+  writeFile(configFile(), text);
+  EXPECT_EQ(readCurrentConfig().apiKey, "first");
+  writeFile(configFile(), text + "#");
   expectSecond();
 }
 

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "agentctl/Children.h"
 #include "agentctl/WithAgents.h"
 #include "platform/ChildProcess.h"
+#include "support/TokenFiles.h"
 
 namespace quillmark::test {
 namespace {
@@ -32,8 +34,7 @@ TEST_F(Stop, IsFineWithNothingToStop) {
 }
 
 TEST_F(Stop, EndsWhateverHasTheNameInItsCommandLine) {
-  ASSERT_FALSE(
-      startDetached({"/bin/bash", {"-c", "while :; do sleep 0.1; done", "notes/tovel-agent.txt"}}));
+  ASSERT_TRUE(startBearerOfTheName());
   EXPECT_TRUE(waitUntil([] { return isRunning(); }));
   EXPECT_FALSE(stopAgentProcess());
   EXPECT_TRUE(waitUntil(isAlone));
@@ -56,6 +57,17 @@ TEST_F(Stop, AsksAgentsToEndAndDoesNotForceThem) {
   EXPECT_FALSE(stopAgentProcess());
   EXPECT_TRUE(waitUntil(isAlone));
   EXPECT_TRUE(std::filesystem::exists(home() + "/tovel-agent.asked"));
+}
+
+// One that takes a second leaves its trace before stop returns.
+TEST_F(Stop, WaitsUntilItsCommandHasEnded) {
+  const auto slow = home() + "/slow";
+  writeFile(slow, "#!/bin/sh\nsleep 1\ntouch '" + home() + "/over'\n");
+  std::filesystem::permissions(slow, std::filesystem::perms::owner_all);
+  EXPECT_EQ(elsewhere({"--bind", slow, "/usr/bin/pgrep"}, {"stop"}), "ok")
+      << "the other one is a link to this";
+  EXPECT_TRUE(std::filesystem::exists(home() + "/over"));
+  EXPECT_TRUE(waitUntil(isAlone));
 }
 
 TEST_F(Stop, LeavesNoZombie) {

@@ -57,7 +57,7 @@ def test_no_text_is_passed_over():
 
 
 def test_too_large():
-    write(CONFIG, scene.config() + "#" * (1 << 20))
+    write(CONFIG, scene.config() + "#" * (64 << 20))
     assert look().of("config") == [
         line("wrong", "config", f"{CONFIG}: cannot be read (The file is too large), "
                                 "the panel passes it over")]

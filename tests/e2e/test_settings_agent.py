@@ -4,7 +4,6 @@
 
 import signal
 import subprocess
-import time
 
 import pytest
 
@@ -24,9 +23,7 @@ def panel(agent_panel):
 
 
 def start(panel):
-    """Presses the button; gives the moment after which the status changes."""
     settings.press(panel, START)
-    return time.monotonic()
 
 
 def running(panel, count=1):
@@ -34,14 +31,9 @@ def running(panel, count=1):
     assert len(processes.agents()) == count
 
 
-def test_start_says_running_two_seconds_later(panel):
-    pressed = start(panel)
-    until(processes.agents, "the agent")
-    # Running, but nobody has looked again.
-    if time.monotonic() < pressed + 1.5:
-        assert status(panel) == NOT_RUNNING
+def test_start_says_running(panel):
+    start(panel)
     running(panel)
-    assert time.monotonic() - pressed > 1.7
     (agent,) = processes.agents()
     # Detached: not of the panel's own.
     assert agent.pid not in [p.pid for p in processes.below(panel.pid)]
@@ -71,14 +63,12 @@ def test_without_the_log_folder_nothing_starts(panel):
     assert settings.message(panel) == ""
 
 
-def test_stop_says_not_running_one_second_later(panel):
+def test_stop_says_not_running(panel):
     start(panel)
     running(panel)
     settings.press(panel, STOP)
-    pressed = time.monotonic()
     until(lambda: not processes.named(), "the agent to end")
     until(lambda: status(panel) == NOT_RUNNING, NOT_RUNNING)
-    assert 0.7 < time.monotonic() - pressed
     assert settings.message(panel) == ""
 
 

@@ -83,7 +83,7 @@ def failing(tmp_path, name):
     if name == "binary":
         path.write_bytes(b"[agent]\n\xff\xfe")
     elif name == "huge":
-        path.write_bytes(b"[agent]\n" + b"#" * (1 << 20))
+        path.write_bytes(b"[agent]\n" + b"#" * (64 << 20))
     else:
         path.write_text("[AGENT]\n[ agent ]\n")
     return path

@@ -34,8 +34,12 @@ def test_no_title_bar(panel, usual_size):
     # The header band begins at the top edge, but for a border of 1.
     window = usual_size.box
     strip = Box(window.x + 100, window.y + 1, 400, 18)
-    assert Picture().colours(strip) == {colours.WHITE}
+    until(lambda: Picture().colours(strip) == {colours.WHITE}, "the header band at the top")
     assert panel.tree.find("text", "Quillmark Agent").box.y - window.y in (20, 21)
+
+
+def test_identifier_is_the_role(usual_size):
+    assert usual_size.property("WM_WINDOW_ROLE") == '"main"'
 
 
 def test_ground_at_launch(panel, usual_size):

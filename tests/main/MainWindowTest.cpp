@@ -22,6 +22,8 @@ TEST_F(MainWindowTest, HasTheTitleAndNoTitleBar) {
   EXPECT_TRUE(window->flags() & Qt::FramelessWindowHint);
 }
 
+TEST_F(MainWindowTest, IsIdentifiedAsMain) { EXPECT_EQ(presented()->objectName(), "main"); }
+
 TEST_F(MainWindowTest, IsNeverSmallerThanItsContentNeeds) {
   const auto* const window = presented();
   EXPECT_EQ(window->minimumSize(), QSize(1000, 700));
@@ -84,6 +86,17 @@ TEST_F(MainWindowTest, MaximizesAtADoubleClickOnTheHeader) {
   EXPECT_FALSE(window->windowStates() & Qt::WindowMaximized);
   QTest::mouseDClick(window, Qt::LeftButton, Qt::NoModifier, inHeader);
   EXPECT_TRUE(window->windowStates() & Qt::WindowMaximized);
+}
+
+TEST_F(MainWindowTest, LeavesTheFocusWhereItWasAtAClickOnAGlyph) {
+  auto* const window = presented();
+  auto* const tab = glyph(*window, "Alerts");
+  ASSERT_NE(tab, nullptr);
+  tab->forceActiveFocus(Qt::TabFocusReason);
+  for (const auto* const label : {"Maximize", "Restore", "Minimize"}) {
+    click(glyph(*window, label));
+    EXPECT_EQ(window->activeFocusItem(), tab) << label;
+  }
 }
 
 // The glyphs have no room of their own in the header's layout.

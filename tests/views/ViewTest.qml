@@ -31,6 +31,14 @@ TestCase {
         return view;
     }
 
+    /// One of the views that otherwise are as wide as what they lie in.
+    function makeWide(width, component, properties) {
+        const view = make(component, properties);
+        view.width = width;
+        settle(view);
+        return view;
+    }
+
     /// Waits until rows and columns have placed what is in them.
     function settle(view) {
         const isUnsettled = () => itemsIn(view).concat([view]).some(isPolishScheduled);
@@ -92,6 +100,13 @@ TestCase {
         compareColor(label.color, color, "colour of " + label.text);
         verify(!label.font.italic && !label.font.underline);
         compare(label.textFormat, Text.PlainText);
+    }
+
+    /// Which icon this is, how large and in which colour.
+    function compareIcon(icon, name, size, color) {
+        compare(icon.name, name);
+        compare(icon.size, size, "size of " + name);
+        compareColor(icon.color, color, "colour of " + name);
     }
 
     /// Where `item` lies in `root`.

@@ -30,6 +30,138 @@ ViewTest {
         compare(pressed.count, 0);
     }
 
+    // From the middle of the button's left half; each move is relative to that.
+    function test_pointer_data() {
+        return [
+            { tag: "drifts inside", moves: [[10, 5], [25, 12], [40, -10]], count: 1 },
+            { tag: "leaves", moves: [[0, 60]], count: 0 },
+            { tag: "leaves by little", moves: [[0, 21]], count: 0 },
+            { tag: "leaves and comes back", moves: [[0, 60], [5, 60], [5, 5]], count: 1 }
+        ];
+    }
+
+    function test_pointer(data) {
+        const view = pressable();
+        mousePress(view, 25, 20);
+        for (const [x, y] of data.moves)
+            mouseMove(view, 25 + x, 20 + y);
+        compare(pressed.count, 0, "not before its release");
+        const [x, y] = data.moves[data.moves.length - 1];
+        mouseRelease(view, 25 + x, 20 + y);
+        compare(pressed.count, data.count);
+    }
+
+    function test_finger(data) {
+        const view = pressable();
+        const finger = touchEvent(view);
+        finger.press(0, view, 25, 20).commit();
+        for (const [x, y] of data.moves)
+            finger.move(0, view, 25 + x, 20 + y).commit();
+        compare(pressed.count, 0, "not before its release");
+        const [x, y] = data.moves[data.moves.length - 1];
+        finger.release(0, view, 25 + x, 20 + y).commit();
+        compare(pressed.count, data.count);
+    }
+
+    function test_finger_data() {
+        return test_pointer_data().concat([{ tag: "taps", moves: [[0, 0]], count: 1 }]);
+    }
+
+    // Only a lapse of time makes a press a long one.
+    function holdOn() {
+        wait(Qt.styleHints.mousePressAndHoldInterval + 200);
+    }
+
+    function test_held() {
+        const view = pressable();
+        mousePress(view);
+        holdOn();
+        mouseRelease(view);
+        compare(pressed.count, 1);
+    }
+
+    function test_heldByAFinger() {
+        const view = pressable();
+        const finger = touchEvent(view);
+        finger.press(0, view, 25, 20).commit();
+        holdOn();
+        finger.release(0, view, 25, 20).commit();
+        compare(pressed.count, 1);
+    }
+
+    function test_quickTapsAreAsManyClicks() {
+        const view = pressable();
+        const finger = touchEvent(view);
+        for (let i = 0; i < 5; ++i) {
+            finger.press(0, view, 25, 20).commit();
+            finger.release(0, view, 25, 20).commit();
+        }
+        compare(pressed.count, 5);
+    }
+
+    function test_doubleClickIsTwoClicks() {
+        mouseDoubleClickSequence(pressable());
+        compare(pressed.count, 2);
+    }
+
+    function test_otherButtons_data() {
+        return [{ tag: "right", button: Qt.RightButton }, { tag: "middle", button: Qt.MiddleButton }];
+    }
+
+    function test_otherButtons(data) {
+        mouseClick(pressable(), 25, 20, data.button);
+        compare(pressed.count, 0);
+    }
+
+    function page() {
+        const view = make(pageComponent, { width: 300, height: 200, label: "page" });
+        pressed.target = itemOfType(view, "Pressable");
+        pressed.clear();
+        return view;
+    }
+
+    // Far enough for a drag to scroll the page.
+    function test_driftInAPage_data() {
+        return [
+            { tag: "on the button", y: 90, scrolls: false, count: 1 },
+            { tag: "below the button", y: 180, scrolls: true, count: 0 }
+        ];
+    }
+
+    function test_driftInAPage(data) {
+        const view = page();
+        mousePress(view, 100, data.y);
+        for (let step = 1; step <= 6; ++step)
+            mouseMove(view, 100, data.y - 10 * step);
+        mouseRelease(view, 100, data.y - 60);
+        compare(view.contentY > 0, data.scrolls);
+        compare(pressed.count, data.count);
+    }
+
+    function test_driftOfAFingerInAPage_data() {
+        return test_driftInAPage_data();
+    }
+
+    function test_driftOfAFingerInAPage(data) {
+        const view = page();
+        const finger = touchEvent(view);
+        finger.press(0, view, 100, data.y).commit();
+        for (let step = 1; step <= 6; ++step) {
+            finger.move(0, view, 100, data.y - 10 * step).commit();
+            // Moves between two frames are taken for one.
+            verify(waitForRendering(view, 60000));
+        }
+        finger.release(0, view, 100, data.y - 60).commit();
+        compare(view.contentY > 0, data.scrolls);
+        compare(pressed.count, data.count);
+    }
+
+    function test_wheelOnAPressableScrollsThePage() {
+        const view = page();
+        mouseWheel(view, 100, 60, 0, -120);
+        tryVerify(() => view.contentY > 0);
+    }
+
     function test_keys_data() {
         return [
             { tag: "Space", key: Qt.Key_Space, count: 1 },
@@ -124,6 +256,23 @@ ViewTest {
         id: component
 
         Pressable {}
+    }
+
+    Component {
+        id: pageComponent
+
+        ScrollPage {
+            Pressable {
+                width: 200
+                height: 100
+                label: "press"
+            }
+
+            Item {
+                width: 200
+                height: 600
+            }
+        }
     }
 
     SignalSpy {

@@ -29,6 +29,13 @@ def click(box, times=1):
     time.sleep(REACTION)
 
 
+def hold(box, seconds, by=(0, 0)):
+    """Presses in the middle, stays, moves by so much and lets go."""
+    x, y = box.centre
+    tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "sleep", str(seconds),
+         "mousemove", str(x + by[0]), str(y + by[1]), "mouseup", "1")
+
+
 def drag(start, by, steps=8):
     """In steps: a drag is told from a click by its movement."""
     moves = []

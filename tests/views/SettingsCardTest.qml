@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Settings
+import Quillmark.Tests
+import Quillmark.Views
+
+/// A test of one card of the Settings tab, on real settings in a home of its own.
+ViewTest {
+    id: testCase
+
+    property alias home: testHome
+    property SettingsState settings: null
+
+    function setUp() {
+        // They outlive the card that shows them.
+        settings?.destroy();
+        settings = settingsComponent.createObject(testCase);
+    }
+
+    function makeCard(component) {
+        return makeWide(600, component, { settings: settings });
+    }
+
+    /// The one button with this text.
+    function buttonOf(card, text) {
+        const found = itemsOfType(card, "ActionButton").filter(button => button.text === text);
+        compare(found.length, 1, "buttons with the text " + text);
+        return found[0];
+    }
+
+    /// What else a button looks like is the same for all of them.
+    function compareButton(button, icon, padding, ground) {
+        compare(button.icon, icon);
+        compare(button.padding, padding, "padding of " + button.text);
+        compareColor(button.ground, ground, "ground of " + button.text);
+    }
+
+    /// What else a card looks like is the same for all of them.
+    function compareCard(card, icon, title, spacing) {
+        compare(card.icon, icon);
+        compare(card.title, title);
+        compare(card.spacing, spacing);
+    }
+
+    /// The room between a card's rows, from its header on.
+    function gapsIn(card) {
+        const rows = Array.from(card.children[0].children).filter(row => row.visible);
+        return rows.slice(1).map((row, index) => roomBelow(rows[index], row));
+    }
+
+    TestHome {
+        id: testHome
+    }
+
+    Component {
+        id: settingsComponent
+
+        SettingsState {}
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <cstdlib>
+#include <string>
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+
+#include "agentctl/Processes.h"
+#include "platform/TemporaryFolder.h"
+#include "support/TokenFiles.h"
+
+namespace quillmark::test {
+
+/// A home directory of its own, as long as one lives, and what the Settings tab
+/// takes for an agent. For tests in QML; inside the sandbox alone.
+class TestHome : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+
+ public:
+  explicit TestHome(QObject* parent = nullptr) : QObject(parent), before_(std::getenv("HOME")) {
+    setenv("HOME", folder_.path().c_str(), 1);
+  }
+  ~TestHome() override { setenv("HOME", before_.c_str(), 1); }
+
+  /// A file of this name and text, as a file dialog tells it.
+  Q_INVOKABLE [[nodiscard]] QUrl write(const QString& name, const QString& text) const {
+    const auto path = folder_ / name.toStdString();
+    writeFile(path, text.toStdString());
+    return QUrl::fromLocalFile(QString::fromStdString(path));
+  }
+
+  Q_INVOKABLE [[nodiscard]] static bool startAgent() { return startBearerOfTheName(); }
+  Q_INVOKABLE static void endAgents() { endBearersOfTheName(); }
+
+ private:
+  TemporaryFolder folder_;
+  std::string before_;
+};
+
+}  // namespace quillmark::test
