@@ -39,6 +39,8 @@ class Panel:
         self._output = tempfile.TemporaryFile()
         # What a shell that the panel starts has to say, as a pattern.
         self.expected_output = ""
+        # Assistive technology is told of boxes in units that this magnifies.
+        self.scale = float(changes.get("QT_SCALE_FACTOR", "1"))
         hands.park()
         self.process = spawn(self._output, *prefix, **changes)
         self.pid = self.process.pid

@@ -1,7 +1,5 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
-# SPDX-License-Identifier: GPL-3.0-or-later
 """The open dialog, used without a pointer."""
 
 import contextlib
@@ -17,7 +15,8 @@ def shown(panel):
 
 
 def bring_up(panel, key="space"):
-    settings.press(panel, settings.BROWSE, key)
+    panel.press_until_focused(*settings.BROWSE)
+    hands.key(key)
     until(lambda: shown(panel), "the dialog")
     until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the keyboard")
     return shown(panel)

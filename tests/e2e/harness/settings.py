@@ -58,6 +58,8 @@ def enter(panel):
 
 def _in_view(panel, which):
     """Where it can be clicked, if it can without scrolling."""
+    if panel.scale != 1:
+        return None
     page = panel.tree.find("group", "Settings")
     found = page and page.find(*which)
     return found.box if found and page.box.holds(found.box) else None
