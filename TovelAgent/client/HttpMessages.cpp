@@ -3,11 +3,8 @@
 
 #include "client/HttpMessages.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
-
-#include <boost/beast/core/buffers_prefix.hpp>
 
 namespace quillmark {
 namespace {
@@ -17,7 +14,6 @@ namespace http = beast::http;
 
 using ErrorCode = boost::system::error_code;
 
-constexpr std::size_t readSize = std::size_t{64} * 1024;
 constexpr int maxInterimAnswers = 16;
 
 // A chunked body always ends with as many bytes that only make sense together.
@@ -42,93 +38,80 @@ http::request<http::empty_body> requestMessage(const HttpRequest& request) {
   return result;
 }
 
-AnswerReader::AnswerReader(const HttpLimits& limits, BodySink sink)
-    : limits_(limits), sink_(std::move(sink)) {
-  startAnswer();
+AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
+
+// One byte more than may stand there unparsed shows that it is too much.
+boost::asio::mutable_buffer AnswerReader::space() {
+  return buffer_.prepare(limits_.headerBytes + std::size_t{1} - buffer_.size());
 }
 
-boost::asio::mutable_buffer AnswerReader::space() { return buffer_.prepare(readSize); }
-
-AnswerReader::State AnswerReader::received(std::size_t count) {
+void AnswerReader::received(std::size_t count) {
   buffer_.commit(count);
-  for (;;) {
-    // The parser's own limit holds for what it is given at once, not for a
-    // header that comes line by line; so the header is parsed alone.
+  while (!isOver() && hasEnoughToParse()) {
     const bool inHeader = !parser_->is_header_done();
-    if (!inHeader && parser_->chunked() && buffer_.size() < shortestChunkedEnd) {
-      return State::wantsMore;
-    }
-    parser_->eager(!inHeader);
-    // A chunk's line or a trailer is as short as a header, even if it came at once.
-    const auto all = buffer_.size();
-    const auto shown = inHeader ? all : std::min<std::size_t>(all, limits_.headerBytes);
     ErrorCode error;
-    const std::size_t used = parser_->put(beast::buffers_prefix(shown, buffer_.data()), error);
+    const std::size_t used = parser_->put(buffer_.data(), error);
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
-    if (needsMore && used > 0 && shown < all) {
-      continue;
+    // What is left then is a piece of the header, or of a chunk's or trailer's line.
+    const std::size_t unparsed = needsMore ? buffer_.size() : 0;
+    if (headerSize_ + unparsed > limits_.headerBytes || exceedsLimit(error)) {
+      failure_ = HttpFailure::tooLarge;
+    } else if (needsMore) {
+      return;
+    } else if (error) {
+      failure_ = HttpFailure::malformed;
+    } else if (parser_->is_done()) {
+      endAnswer();
     }
-    // What it then leaves is a piece of the header, a chunk's or trailer's line.
-    if (headerSize_ + (needsMore ? buffer_.size() : 0) > limits_.headerBytes) {
-      return fail(HttpFailure::tooLarge);
-    }
-    if (needsMore) {
-      return State::wantsMore;
-    }
-    if (error) {
-      return fail(exceedsLimit(error) ? HttpFailure::tooLarge : HttpFailure::malformed);
-    }
-    if (!parser_->is_done()) {
-      if (buffer_.size() == 0) {
-        return State::wantsMore;
-      }
-      continue;
-    }
-    if (!isInterim()) {
-      return State::done;
-    }
-    if (++interimAnswers_ > maxInterimAnswers) {
-      return fail(HttpFailure::malformed);
-    }
-    startAnswer();
   }
 }
 
-AnswerReader::State AnswerReader::ended() {
-  if (!parser_->got_some()) {
-    return fail(HttpFailure::brokenOff);
+void AnswerReader::ended() {
+  ErrorCode error = http::error::partial_message;
+  if (parser_->got_some()) {
+    parser_->put_eof(error);
   }
-  ErrorCode error;
-  parser_->put_eof(error);
-  return error ? fail(HttpFailure::brokenOff) : State::done;
+  if (error) {
+    failure_ = HttpFailure::brokenOff;
+  } else {
+    isDone_ = true;
+  }
 }
 
-HttpOutcome AnswerReader::outcome() const {
+HttpResult AnswerReader::takeResult() {
   if (failure_) {
     return *failure_;
   }
-  return parser_->get().result_int();
-}
-
-AnswerReader::State AnswerReader::fail(HttpFailure failure) {
-  failure_ = failure;
-  return State::failed;
+  auto message = parser_->release();
+  return HttpAnswer{message.result_int(), std::move(message.body())};
 }
 
 void AnswerReader::startAnswer() {
   headerSize_ = 0;
   parser_.emplace();
-  parser_->get().body() = &sink_;
   parser_->header_limit(limits_.headerBytes);
   parser_->body_limit(limits_.bodyBytes);
 }
 
-bool AnswerReader::isInterim() const {
+void AnswerReader::endAnswer() {
   const auto& answer = parser_->get();
-  return http::to_status_class(answer.result_int()) == http::status_class::informational &&
-         answer.result() != http::status::switching_protocols;
+  const bool isInterim =
+      http::to_status_class(answer.result_int()) == http::status_class::informational &&
+      answer.result() != http::status::switching_protocols;
+  if (!isInterim) {
+    isDone_ = true;
+  } else if (++interimAnswers_ > maxInterimAnswers) {
+    failure_ = HttpFailure::malformed;
+  } else {
+    startAnswer();
+  }
+}
+
+bool AnswerReader::hasEnoughToParse() const {
+  const bool inChunks = parser_->is_header_done() && parser_->chunked();
+  return buffer_.size() >= (inChunks ? shortestChunkedEnd : 1);
 }
 
 }  // namespace quillmark

@@ -10,9 +10,9 @@
 #include <boost/beast/http/empty_body.hpp>
 #include <boost/beast/http/message.hpp>
 #include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/string_body.hpp>
 
 #include "client/HttpExchange.h"
-#include "client/PassingBody.h"
 
 namespace quillmark {
 
@@ -22,38 +22,40 @@ namespace quillmark {
     const HttpRequest& request);
 
 /// Reads the final answer from the bytes of one connection, however they are cut
-/// into pieces, and passes its body on; interim answers are passed over. Knows
-/// no socket.
+/// into pieces; interim answers are passed over. Knows no socket.
+///
+/// Beast's own reading would do all of this but for three things: its limit of a
+/// header does not hold for lines that come one by one, it asserts that the end
+/// of a chunked body comes in one piece, and what a growing body throws for want
+/// of memory would end the process instead of the awaiting coroutine.
 class AnswerReader final {
  public:
-  AnswerReader(const HttpLimits& limits, BodySink sink);
-  AnswerReader(const AnswerReader&) = delete;
-  AnswerReader& operator=(const AnswerReader&) = delete;
-
-  enum class State { wantsMore, done, failed };
+  explicit AnswerReader(const HttpLimits& limits);
 
   /// Where the next bytes of the connection go.
   [[nodiscard]] boost::asio::mutable_buffer space();
-  /// Takes `count` bytes that were written to `space()`.
-  [[nodiscard]] State received(std::size_t count);
+  /// Takes `count` bytes that were written to `space()`. Throws `std::bad_alloc`.
+  void received(std::size_t count);
   /// The server will send nothing more.
-  [[nodiscard]] State ended();
+  void ended();
 
-  /// The answer's status, or what kept it from coming, when the reading is over.
-  [[nodiscard]] HttpOutcome outcome() const;
+  /// Whether the answer has come, or cannot come any more.
+  [[nodiscard]] bool isOver() const { return isDone_ || failure_; }
+  /// The answer, or what kept it from coming, when the reading is over; once.
+  [[nodiscard]] HttpResult takeResult();
 
  private:
-  using Parser = boost::beast::http::response_parser<PassingBody>;
+  using Parser = boost::beast::http::response_parser<boost::beast::http::string_body>;
 
-  [[nodiscard]] State fail(HttpFailure failure);
   void startAnswer();
-  [[nodiscard]] bool isInterim() const;
+  void endAnswer();
+  [[nodiscard]] bool hasEnoughToParse() const;
 
   HttpLimits limits_;
-  BodySink sink_;
   boost::beast::flat_buffer buffer_;
   std::optional<Parser> parser_;
   std::optional<HttpFailure> failure_;
+  bool isDone_ = false;
   std::size_t headerSize_ = 0;
   int interimAnswers_ = 0;
 };
