@@ -97,6 +97,7 @@ Answers answersInEveryEncoding(const std::string& body) {
        nothing},
       {"two bodies", okAnswer(body + body), nothing},
       {"endlessly deep", okAnswer(repeated(100'000, R"({"a":)")), nothing},
+      {"past 64 MiB", okAnswer(body + std::string(std::size_t{64} << 20, ' ')), nothing},
       {"blanks alone", okAnswer(std::string(1'000'000, ' ')), nothing},
       {"many keys", okAnswer('{' + repeated(200'000, R"("k":0,)") + body.substr(1)), theRecord},
   };
