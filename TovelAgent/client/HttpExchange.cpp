@@ -11,17 +11,16 @@
 #include <boost/asio/strand.hpp>
 #include <boost/asio/this_coro.hpp>
 #include <boost/asio/use_awaitable.hpp>
+#include <boost/asio/write.hpp>
 #include <boost/beast/core/tcp_stream.hpp>
-#include <boost/beast/http/write.hpp>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 
 namespace quillmark {
 namespace {
 
 namespace asio = boost::asio;
 namespace beast = boost::beast;
-namespace http = beast::http;
 
 using ErrorCode = boost::system::error_code;
 
@@ -44,8 +43,9 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
     co_return failureOf(error, HttpFailure::notConnected);
   }
 
-  const auto outgoing = requestMessage(request);
-  co_await http::async_write(stream, outgoing, completion);
+  const auto text = requestText(request);
+  const auto outgoing = asio::buffer(text);
+  co_await asio::async_write(stream, outgoing, completion);
   if (error) {
     co_return failureOf(error, HttpFailure::brokenOff);
   }
@@ -66,6 +66,12 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
 }
 
 }  // namespace
+
+std::string requestText(const HttpRequest& request) {
+  // A client that keeps no connection owes the server the last field.
+  return request.method + ' ' + request.target + " HTTP/1.1\r\nHost: " + request.host +
+         "\r\nX-Agent-Token: " + request.token + "\r\nConnection: close\r\n\r\n";
+}
 
 asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   const auto executor = co_await asio::this_coro::executor;

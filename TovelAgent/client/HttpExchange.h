@@ -46,12 +46,14 @@ enum class HttpFailure {
 
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 
+/// What `request` looks like on the wire. Any thread.
+[[nodiscard]] std::string requestText(const HttpRequest& request);
+
 /// Sends `request` over a connection of its own and completes with the answer,
 /// whatever its status is, or with what kept it from coming whole. Follows no
 /// redirect, asks for no compression, keeps nothing. Runs on the awaiting
 /// coroutine's executor, which may have several threads, and blocks none of them.
-/// Throws `std::bad_alloc`, and `std::length_error` for a token that is longer
-/// than a header field may be.
+/// Throws `std::bad_alloc` only.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

@@ -73,7 +73,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Out of memory, or a token longer than any header field may be.
+    // Above all, memory that ran out.
     co_return std::nullopt;
   }
 }

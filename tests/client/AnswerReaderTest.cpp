@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 
 namespace quillmark::test {
 namespace {

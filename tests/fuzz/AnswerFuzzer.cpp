@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 #include "fuzz/Fuzzer.h"
 
 namespace {

@@ -7,19 +7,12 @@
 #include <optional>
 
 #include <boost/beast/core/flat_buffer.hpp>
-#include <boost/beast/http/empty_body.hpp>
-#include <boost/beast/http/message.hpp>
 #include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/string_body.hpp>
 
 #include "client/HttpExchange.h"
 
 namespace quillmark {
-
-/// What `request` looks like on the wire. Throws when a text is longer than a
-/// message can hold.
-[[nodiscard]] boost::beast::http::request<boost::beast::http::empty_body> requestMessage(
-    const HttpRequest& request);
 
 /// Reads the final answer from the bytes of one connection, however they are cut
 /// into pieces; interim answers are passed over. Knows no socket.

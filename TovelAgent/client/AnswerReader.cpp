@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 
 #include <string_view>
 #include <utility>
@@ -9,8 +9,7 @@
 namespace quillmark {
 namespace {
 
-namespace beast = boost::beast;
-namespace http = beast::http;
+namespace http = boost::beast::http;
 
 using ErrorCode = boost::system::error_code;
 
@@ -26,17 +25,6 @@ bool exceedsLimit(const ErrorCode& error) {
 }
 
 }  // namespace
-
-http::request<http::empty_body> requestMessage(const HttpRequest& request) {
-  http::request<http::empty_body> result;
-  result.method_string(request.method);
-  result.target(request.target);
-  result.set(http::field::host, request.host);
-  result.set("X-Agent-Token", request.token);
-  // Owed to the server by a client that keeps no connection.
-  result.set(http::field::connection, "close");
-  return result;
-}
 
 AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
 
