@@ -70,6 +70,7 @@ Answers answersInEveryFraming(const std::string& body) {
       framed(chunked, chunk + "0\r\nno colon\r\n\r\n", nothing),
       framed(chunked, body, nothing),
       framed(chunked, end + chunk, nothing),
+      framed(chunked, "x\r\n" + body + "\r\n" + end, nothing),
       framed(chunked, "-" + chunk + end, nothing),
       framed(chunked, "+" + chunk + end, nothing),
       framed(chunked, "0x" + chunk + end, nothing),
