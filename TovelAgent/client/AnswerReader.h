@@ -17,10 +17,10 @@ namespace quillmark {
 /// Reads the final answer from the bytes of one connection, however they are cut
 /// into pieces; interim answers are passed over. Knows no socket.
 ///
-/// Beast's own reading would do all of this but for three things: its limit of a
-/// header does not hold for lines that come one by one, it asserts that the end
-/// of a chunked body comes in one piece, and what a growing body throws for want
-/// of memory would end the process instead of the awaiting coroutine.
+/// Beast's own `async_read` is not enough (1.81): its limit of a header does not
+/// hold for lines that come one by one, it asserts that the end of a chunked body
+/// comes in one piece, and what a growing body throws for want of memory ends the
+/// process, since it reaches the executor and not the awaiting coroutine.
 class AnswerReader final {
  public:
   explicit AnswerReader(const HttpLimits& limits);

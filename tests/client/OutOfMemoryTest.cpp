@@ -35,7 +35,8 @@ void limitMemory(std::size_t extra) {
 [[noreturn]] void pollWithLittleMemory(std::size_t extra) {
   writeFile(systemTokenPath(), "token");
   const Backend backend([](const ReceivedRequest&, Connection& connection) {
-    static const auto large = okAnswer(statusBody + std::string(40 * mebibyte, ' '));
+    static const auto large =
+        okAnswer(statusBody + std::string(64 * mebibyte - statusBody.size(), ' '));
     connection.send(large);
   });
   const TaskExecutor executor;
