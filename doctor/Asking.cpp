@@ -4,7 +4,6 @@
 #include "Asking.h"
 
 #include <exception>
-#include <stdexcept>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -28,14 +27,10 @@ std::vector<Asked> askAll(const std::string& token, const std::vector<std::strin
     auto keep = [&asked = all.emplace_back(), start](const std::exception_ptr& failure,
                                                      HttpResult result) {
       asked.took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
-      try {
-        if (failure) {
-          std::rethrow_exception(failure);
-        }
-        asked.result = std::move(result);
-      } catch (const std::length_error& error) {
-        asked.unsent = error.what();
+      if (failure) {
+        std::rethrow_exception(failure);
       }
+      asked.result = std::move(result);
     };
     boost::asio::co_spawn(context, exchange(std::move(request), {}), std::move(keep));
   }

@@ -15,8 +15,7 @@ namespace quillmark::doctor {
 
 /// What became of one question.
 struct Asked {
-  std::optional<HttpResult> result;  ///< none when the time ran out, or it was not sent
-  std::string unsent;                ///< why the token is too long to be sent
+  std::optional<HttpResult> result;  ///< none when the time ran out
   std::chrono::milliseconds took{};  ///< from the beginning to the end of the exchange
 };
 

@@ -46,7 +46,7 @@ void describe(Contents& contents, const InventoryData& body, const Harmless&) {
 template <Record R>
 Contents read(std::string_view body, const Harmless& harmless) {
   Contents contents;
-  const auto decoded = decode<R>(body);
+  const auto decoded = decode<R>(std::string(body));
   if (decoded) {
     describe(contents, *decoded, harmless);
   } else {

@@ -26,7 +26,7 @@ Explained explained(HttpFailure failure) {
   switch (failure) {
     case HttpFailure::notConnected:
       return {"not connected", "no connection"};
-    case HttpFailure::silent:
+    case HttpFailure::timedOut:
       return {"silent", "no answer"};
     case HttpFailure::brokenOff:
       return {"broken off", "the connection ended before the answer did"};
@@ -60,16 +60,12 @@ class EndpointJudge final {
 
   [[nodiscard]] Verdict operator()(const Asked& asked) {
     verdict_.finding.facts["milliseconds"] = asked.took.count();
-    if (!asked.unsent.empty()) {
-      fail("cannot be sent", "the token is too long to be sent: " + harmless_(asked.unsent),
-           "Remove the token file and start the agent again, which makes a new token.");
-    } else if (!asked.result) {
-      const auto patience = std::chrono::duration_cast<std::chrono::seconds>(HttpLimits().silence);
+    if (!asked.result) {
+      const auto patience = std::chrono::duration_cast<std::chrono::seconds>(HttpLimits().time);
       verdict_.finding.facts["milliseconds"] = nullptr;
       fail("silent",
            "no whole answer within " + std::to_string(askingTime.count()) +
-               " s; the panel would go on waiting until nothing comes for " +
-               std::to_string(patience.count()) + " s",
+               " s; the panel would wait for " + std::to_string(patience.count()) + " s",
            otherwise(port_, "Look into the agent's log (" +
                                 harmless_(homeDirectory() + std::string(agentLogInHome)) +
                                 ") and start the agent again."));

@@ -4,8 +4,6 @@
 #include "client/HttpExchange.h"
 
 #include <cstddef>
-#include <string>
-#include <string_view>
 #include <utility>
 
 #include <boost/asio/co_spawn.hpp>
@@ -13,80 +11,74 @@
 #include <boost/asio/strand.hpp>
 #include <boost/asio/this_coro.hpp>
 #include <boost/asio/use_awaitable.hpp>
+#include <boost/asio/write.hpp>
 #include <boost/beast/core/tcp_stream.hpp>
-#include <boost/beast/http/write.hpp>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 
 namespace quillmark {
 namespace {
 
 namespace asio = boost::asio;
 namespace beast = boost::beast;
-namespace http = beast::http;
 
 using ErrorCode = boost::system::error_code;
 
 HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
-  return error == beast::error::timeout ? HttpFailure::silent : otherwise;
+  return error == beast::error::timeout ? HttpFailure::timedOut : otherwise;
 }
 
 /// `exchange`, on an executor that runs one handler at a time: a stream whose
 /// time runs out closes itself, wherever the coroutine is at that moment.
-asio::awaitable<HttpOutcome> exchangeSerially(HttpRequest request, HttpLimits limits,
-                                              BodySink sink) {
+asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits limits) {
   ErrorCode error;
   // A named token: GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   const auto executor = co_await asio::this_coro::executor;
   beast::tcp_stream stream(executor);
+  stream.expires_after(limits.time);
 
-  stream.expires_after(limits.silence);
   co_await stream.async_connect(request.server, completion);
   if (error) {
     co_return failureOf(error, HttpFailure::notConnected);
   }
 
-  const auto outgoing = requestMessage(request);
-  stream.expires_after(limits.silence);
-  co_await http::async_write(stream, outgoing, completion);
+  const auto text = requestText(request);
+  const auto outgoing = asio::buffer(text);
+  co_await asio::async_write(stream, outgoing, completion);
   if (error) {
     co_return failureOf(error, HttpFailure::brokenOff);
   }
 
-  AnswerReader answer(limits, std::move(sink));
-  auto state = AnswerReader::State::wantsMore;
-  while (state == AnswerReader::State::wantsMore) {
+  AnswerReader answer(limits);
+  while (!answer.isOver()) {
     const auto space = answer.space();
-    stream.expires_after(limits.silence);
     const std::size_t count = co_await stream.async_read_some(space, completion);
-    if (error && error != asio::error::eof) {
+    if (!error) {
+      answer.received(count);
+    } else if (error == asio::error::eof) {
+      answer.ended();
+    } else {
       co_return failureOf(error, HttpFailure::brokenOff);
     }
-    state = error ? answer.ended() : answer.received(count);
   }
-  co_return answer.outcome();
+  co_return answer.takeResult();
 }
 
 }  // namespace
 
-asio::awaitable<HttpOutcome> exchange(HttpRequest request, HttpLimits limits, BodySink sink) {
-  const auto executor = co_await asio::this_coro::executor;
-  auto serial = exchangeSerially(std::move(request), limits, std::move(sink));
-  auto completion =
-      asio::co_spawn(asio::make_strand(executor), std::move(serial), asio::use_awaitable);
-  co_return co_await std::move(completion);
+std::string requestText(const HttpRequest& request) {
+  // A client that keeps no connection owes the server the last field.
+  return request.method + ' ' + request.target + " HTTP/1.1\r\nHost: " + request.host +
+         "\r\nX-Agent-Token: " + request.token + "\r\nConnection: close\r\n\r\n";
 }
 
 asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
-  std::string body;
-  BodySink keep = [&body](std::string_view piece, auto /*left*/) { body += piece; };
-  auto exchanged = exchange(std::move(request), limits, std::move(keep));
-  const auto outcome = co_await std::move(exchanged);
-  if (!outcome) {
-    co_return outcome.error();
-  }
-  co_return HttpAnswer{*outcome, std::move(body)};
+  const auto executor = co_await asio::this_coro::executor;
+  auto serial = exchangeSerially(std::move(request), limits);
+  auto completion =
+      asio::co_spawn(asio::make_strand(executor), std::move(serial), asio::use_awaitable);
+  co_return co_await std::move(completion);
 }
 
 }  // namespace quillmark

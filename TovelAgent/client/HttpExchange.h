@@ -4,12 +4,8 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <optional>
 #include <string>
-#include <string_view>
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/ip/tcp.hpp>
@@ -26,11 +22,12 @@ struct HttpRequest {
   std::string token;   ///< the X-Agent-Token field, sent also when empty
 };
 
-/// What an answer may cost. Beyond any of these there is none.
+/// What an exchange may cost. Beyond any of these there is no answer.
 struct HttpLimits {
-  std::chrono::steady_clock::duration silence = std::chrono::seconds(60);  ///< between two bytes
+  /// From connecting to the answer's last byte.
+  std::chrono::steady_clock::duration time = std::chrono::seconds(60);
   std::uint32_t headerBytes = 64 * 1024;
-  std::uint64_t bodyBytes = std::uint64_t{256} * 1024 * 1024;
+  std::uint64_t bodyBytes = std::uint64_t{64} * 1024 * 1024;
 };
 
 struct HttpAnswer {
@@ -41,30 +38,22 @@ struct HttpAnswer {
 /// Why there is no answer.
 enum class HttpFailure {
   notConnected,  ///< nobody takes connections at the address
-  silent,        ///< not a byte came for as long as `HttpLimits` allows
+  timedOut,      ///< the answer was not whole within `HttpLimits::time`
   brokenOff,     ///< the connection ended before the answer did
   malformed,     ///< what came is no HTTP answer
   tooLarge,      ///< more came than `HttpLimits` allows
 };
 
-/// The answer's status.
-using HttpOutcome = boost::system::result<unsigned, HttpFailure>;
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 
-/// Takes a body as it comes, piece by piece. `left` more bytes are announced, or
-/// nobody knows how many. What it throws ends the exchange.
-using BodySink = std::function<void(std::string_view piece, std::optional<std::size_t> left)>;
+/// What `request` looks like on the wire. Any thread.
+[[nodiscard]] std::string requestText(const HttpRequest& request);
 
-/// Sends `request` over a connection of its own and completes with the answer's
-/// status, whatever it is, or with what kept the answer from coming whole: then
-/// what `sink` took is of no use. Follows no redirect, asks for no compression,
-/// keeps nothing. Runs on the awaiting coroutine's executor, which may have
-/// several threads, and blocks none of them. Throws `std::bad_alloc`, and
-/// `std::length_error` for a token that is longer than a header field may be.
-[[nodiscard]] boost::asio::awaitable<HttpOutcome> exchange(HttpRequest request, HttpLimits limits,
-                                                           BodySink sink);
-
-/// The same, for who wants the body whole.
+/// Sends `request` over a connection of its own and completes with the answer,
+/// whatever its status is, or with what kept it from coming whole. Follows no
+/// redirect, asks for no compression, keeps nothing. Runs on the awaiting
+/// coroutine's executor, which may have several threads, and blocks none of them.
+/// Throws `std::bad_alloc` only.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

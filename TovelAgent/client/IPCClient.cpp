@@ -9,9 +9,7 @@
 #include "client/AccessToken.h"
 #include "client/AgentRequest.h"
 #include "client/HttpExchange.h"
-#include "model/AlertsResponse.h"
-#include "model/Decoder.h"
-#include "model/NetworkResponse.h"
+#include "model/Codec.h"
 
 namespace quillmark {
 namespace {
@@ -64,23 +62,18 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     request->method = method;
     request->token = *authToken;
 
-    Decoder<R> decoder;
-    BodySink sink = [&decoder](std::string_view piece, std::optional<std::size_t> left) {
-      decoder.take(piece, left);
-    };
-    const HttpLimits limits;
-    auto exchanged = exchange(std::move(*request), limits, std::move(sink));
-    const auto outcome = co_await std::move(exchanged);
-    if (!outcome) {
+    auto exchanged = exchange(std::move(*request), {});
+    auto answer = co_await std::move(exchanged);
+    if (!answer) {
       co_return std::nullopt;
     }
-    auto decoded = decoder.finish();
+    auto decoded = decode<R>(std::move(answer->body));
     if (!decoded) {
       co_return std::nullopt;
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Out of memory, or a token longer than any header field may be.
+    // Above all, memory that ran out.
     co_return std::nullopt;
   }
 }

@@ -19,6 +19,7 @@
 namespace quillmark {
 
 /// The one connection to the agent: four reads over its loopback interface.
+/// Shared by whoever asks the same agent with the same token; never copied.
 ///
 /// Every operation completes exactly once, with a value or with no value; the
 /// reason for no value (no token, no agent, silence, a body that does not

@@ -3,39 +3,151 @@
 
 #pragma once
 
+#include <array>
+#include <cmath>
 #include <cstddef>
-#include <memory>
+#include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include <simdjson.h>
 
 #include "model/DecodeError.h"
-#include "model/JsonShape.h"
+#include "model/Field.h"
 
 namespace quillmark {
 
-/// Fills the value at `place`, which has this shape, from a JSON text that comes
-/// in pieces, cut wherever. Values go from the parser straight to their places,
-/// without the text or a document in between: a body of any size costs its
-/// records and little more. After a failure what the place holds is of no use.
-/// Throws `std::bad_alloc` only. Any thread, one at a time.
+/// Fills a value from parsed JSON by the value's type; records by their field
+/// table. Every `read` returns false at the first failure, which `failure()`
+/// then tells.
 class JsonReader final {
  public:
-  JsonReader(const JsonShape& shape, void* place);
-  ~JsonReader();
-  JsonReader(const JsonReader&) = delete;
-  JsonReader& operator=(const JsonReader&) = delete;
+  using Element = simdjson::dom::element;
 
-  /// Takes the next piece, which `left` more bytes will follow, or nobody knows
-  /// how many. A help alone: it may be wrong.
-  void take(std::string_view piece, std::optional<std::size_t> left);
+  template <Record R>
+  [[nodiscard]] bool read(Element json, R& record) {
+    simdjson::dom::object object;
+    if (json.get(object) != simdjson::SUCCESS) {
+      return fail(DecodeFailure::typeMismatch, expected("object", json));
+    }
+    const auto values = valuesOf<R>(object);
+    std::size_t index = 0;
+    return std::apply(
+        [&](const auto&... field) { return (readField(values[index++], field, record) && ...); },
+        R::fields);
+  }
 
-  /// The text is over: what kept the value from being filled.
-  [[nodiscard]] std::optional<DecodeError> finish();
+  template <class T>
+  [[nodiscard]] bool read(Element json, std::vector<T>& elements) {
+    simdjson::dom::array array;
+    if (json.get(array) != simdjson::SUCCESS) {
+      return mismatch("array", json);
+    }
+    elements.reserve(array.size());
+    for (const Element element : array) {
+      if (!read(element, elements.emplace_back())) {
+        return failWithin('[' + std::to_string(elements.size() - 1) + ']');
+      }
+    }
+    return true;
+  }
+
+  [[nodiscard]] bool read(Element json, std::string& text) {
+    std::string_view value;
+    if (json.get(value) != simdjson::SUCCESS) {
+      return mismatch("string", json);
+    }
+    text = value;
+    return true;
+  }
+
+  [[nodiscard]] bool read(Element json, bool& flag) {
+    return json.get(flag) == simdjson::SUCCESS || mismatch("boolean", json);
+  }
+
+  [[nodiscard]] bool read(Element json, std::int64_t& number) {
+    if (!json.is_number()) {
+      return mismatch("integer", json);
+    }
+    if (json.get(number) == simdjson::SUCCESS) {
+      return true;
+    }
+    // 2.0 and 1e3 are integers as well. Between -2^63 and 2^63 the conversion is
+    // exact; -2^63 itself may be a rounded number below it.
+    constexpr double limit = 9223372036854775808.0;
+    double value = 0;
+    if (json.get(value) == simdjson::SUCCESS && value > -limit && value < limit &&
+        std::trunc(value) == value) {
+      number = static_cast<std::int64_t>(value);
+      return true;
+    }
+    return fail(DecodeFailure::dataCorrupted, "a whole number of 64 bits expected");
+  }
+
+  /// The first failure; once.
+  [[nodiscard]] DecodeError takeFailure() { return std::move(failure_); }
 
  private:
-  class Parser;
+  /// The values of a record's keys, in the order of its table. Of a key that is
+  /// there twice the last value counts.
+  template <Record R>
+  static auto valuesOf(simdjson::dom::object object) {
+    static constexpr auto keys =
+        std::apply([](const auto&... field) { return std::array{field.key...}; }, R::fields);
+    std::array<std::optional<Element>, keys.size()> values;
+    std::size_t next = 0;  // Most agents keep to the table's order.
+    for (const auto [key, value] : object) {
+      for (std::size_t i = 0; i < keys.size(); ++i) {
+        const std::size_t index = (next + i) % keys.size();
+        if (keys[index] == key) {
+          values[index] = value;
+          next = index + 1;
+          break;
+        }
+      }
+    }
+    return values;
+  }
 
-  const std::unique_ptr<Parser> parser_;
+  template <class Owner, class Value>
+  bool readField(const std::optional<Element>& json, const Field<Owner, Value>& field,
+                 Owner& record) {
+    const bool isRead = json ? read(*json, record.*field.member)
+                             : fail(DecodeFailure::keyNotFound, "required key missing");
+    return isRead || failWithin(field.key);
+  }
+
+  template <class Owner, class Value>
+  bool readField(const std::optional<Element>& json,
+                 const Field<Owner, std::optional<Value>>& field, Owner& record) {
+    return !json || json->is_null() || read(*json, (record.*field.member).emplace()) ||
+           failWithin(field.key);
+  }
+
+  bool mismatch(std::string_view type, Element json) {
+    return fail(json.is_null() ? DecodeFailure::valueNotFound : DecodeFailure::typeMismatch,
+                expected(type, json));
+  }
+
+  bool fail(DecodeFailure kind, std::string detail) {
+    failure_ = {kind, {}, std::move(detail)};
+    return false;
+  }
+
+  /// The failure's path, seen from one step further out.
+  bool failWithin(std::string_view step) {
+    const bool separate = !failure_.path.empty() && failure_.path.front() != '[';
+    failure_.path.insert(0, std::string(step) + (separate ? "." : ""));
+    return false;
+  }
+
+  static std::string expected(std::string_view type, Element found);
+
+  DecodeError failure_;
 };
 
 }  // namespace quillmark

@@ -73,12 +73,12 @@ void DashboardViewModel::updateData() {
 
 boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardViewModel> self) {
   PollResult result;
-  result.status = co_await self->client_.getStatus();
-  auto alerts = co_await self->client_.getAlerts();
+  result.status = co_await self->client_->getStatus();
+  auto alerts = co_await self->client_->getAlerts();
   result.alerts = listOf(std::move(alerts));
-  auto connections = co_await self->client_.getNetwork();
+  auto connections = co_await self->client_->getNetwork();
   result.networkConnections = listOf(std::move(connections));
-  auto inventory = co_await self->client_.getInventory();
+  auto inventory = co_await self->client_->getInventory();
   if (inventory) {
     result.inventory = std::make_shared<const InventoryData>(std::move(*inventory));
   }

@@ -103,7 +103,7 @@ class DashboardViewModel final : public QObject,
   Snapshot<std::vector<ThreatAlert>> alerts_;
   Snapshot<std::vector<NetworkConnection>> networkConnections_;
   Snapshot<InventoryData> inventory_;
-  const IPCClient client_;
+  const std::shared_ptr<const IPCClient> client_ = std::make_shared<const IPCClient>();
   QPointer<QTimer> timer_;
 
   SnapshotListModel<ThreatAlert> alertRows_;

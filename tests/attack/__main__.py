@@ -35,7 +35,7 @@ def under(attack, server, panel):
     time.sleep(SETTLING)
     idle = resident(panel.pid)
     since = time.monotonic()
-    with Peak(panel.pid, idle, server.value_bytes) as peak:
+    with Peak(panel.pid, idle) as peak:
         with server.attacking(attack):
             time.sleep(SECONDS)
             ended = time.monotonic()
@@ -47,7 +47,6 @@ def under(attack, server, panel):
     return {
         "idle_mib": idle / MIB,
         "peak_above_idle_mib": peak.above_idle / MIB,
-        "peak_beyond_body_mib": peak.beyond / MIB,
         "kept_mib": (resident(panel.pid) - idle) / MIB,
         "longest_gap_ms": 1000 * max((span for _, span in panel.busy(since)), default=0),
         "seconds_to_good": recovered,

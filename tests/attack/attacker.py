@@ -15,27 +15,16 @@ class Attacker(Backend):
         super().__init__(**contents)
         self._attack = None
         self._over = threading.Event()
-        self._victims = []
 
     @contextlib.contextmanager
     def attacking(self, attack):
         self._over.clear()
-        self._victims.clear()
         self._attack = attack
         try:
             yield
         finally:
             self._attack = None
             self._over.set()
-
-    def value_bytes(self):
-        """What a client must hold that shows a value while the next one comes: what
-        was sent so far of the last two of each endpoint, of which up to a socket
-        buffer may not have been read yet."""
-        kept = {}
-        for victim in self._victims:
-            kept[victim.endpoint] = [*kept.get(victim.endpoint, [])[-1:], victim.value_bytes]
-        return sum(map(sum, kept.values()))
 
     def _serve(self, connection, number):
         if not (attack := self._attack):
@@ -45,7 +34,6 @@ class Attacker(Backend):
         with connection, contextlib.suppress(OSError):
             if request := self._read(connection, number):
                 victim.endpoint = request.endpoint
-                self._victims.append(victim)
                 attack(victim)
             self._await_end(connection)
 

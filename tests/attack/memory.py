@@ -16,13 +16,12 @@ def resident(pid):
 
 
 class Peak:
-    """The most that a process held beyond `idle` and what it had to hold."""
+    """The most that a process held beyond `idle`."""
 
-    def __init__(self, pid, idle, owed):
-        self._pid, self._idle, self._owed = pid, idle, owed
+    def __init__(self, pid, idle):
+        self._pid, self._idle = pid, idle
         self._stopped = threading.Event()
         self._thread = threading.Thread(target=self._sample, daemon=True)
-        self.beyond = 0
         self.above_idle = 0
 
     def __enter__(self):
@@ -35,9 +34,5 @@ class Peak:
 
     def _sample(self):
         while not self._stopped.is_set():
-            # Asked for first, the debt is rather too small than too great.
-            owed = self._owed()
-            above = resident(self._pid) - self._idle
-            self.above_idle = max(self.above_idle, above)
-            self.beyond = max(self.beyond, above - owed)
+            self.above_idle = max(self.above_idle, resident(self._pid) - self._idle)
             time.sleep(0.005)

@@ -1,39 +1,38 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include <gtest/gtest.h>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 
 namespace quillmark::test {
 namespace {
-
-using State = AnswerReader::State;
 
 // Just enough for what is read here, so that a little more than that is too much.
 constexpr HttpLimits limits{.headerBytes = 64};
 
 /// The body of an answer that comes in pieces of this size.
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
-  std::string body;
-  AnswerReader reader(limits, [&](std::string_view part, auto /*left*/) { body += part; });
-  auto state = State::wantsMore;
-  while (state == State::wantsMore && !answer.empty()) {
-    const auto piece = answer.substr(0, pieceSize);
-    std::memcpy(reader.space().data(), piece.data(), piece.size());
+  AnswerReader reader(limits);
+  while (!reader.isOver() && !answer.empty()) {
+    const auto space = reader.space();
+    const auto piece = answer.substr(0, std::min(pieceSize, space.size()));
+    std::memcpy(space.data(), piece.data(), piece.size());
     answer.remove_prefix(piece.size());
-    state = reader.received(piece.size());
+    reader.received(piece.size());
   }
-  if (state == State::wantsMore) {
-    state = reader.ended();
+  if (!reader.isOver()) {
+    reader.ended();
   }
-  return reader.outcome() ? std::optional(body) : std::nullopt;
+  auto result = reader.takeResult();
+  return result ? std::optional(std::move(result->body)) : std::nullopt;
 }
 
 testing::AssertionResult isSameInPieces(const std::string& answer,
@@ -61,25 +60,6 @@ TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
   const auto longBody = std::string(100, 'x');
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "64\r\n" + longBody + "\r\n0\r\n\r\n", longBody));
-}
-
-/// What the body's takers are told to be left after each piece of it.
-std::vector<std::optional<std::size_t>> leftOf(const std::string& answer) {
-  std::vector<std::optional<std::size_t>> told;
-  AnswerReader reader(limits, [&](auto /*piece*/, auto left) { told.push_back(left); });
-  auto state = State::wantsMore;
-  for (auto byte = answer.begin(); byte != answer.end() && state == State::wantsMore; ++byte) {
-    *static_cast<char*>(reader.space().data()) = *byte;
-    state = reader.received(1);
-  }
-  return told;
-}
-
-TEST(AnswerReader, TellsWhatIsLeftOfABodyWhoseLengthIsKnown) {
-  using Left = std::vector<std::optional<std::size_t>>;
-  EXPECT_EQ(leftOf(ok + "Content-Length: 3\r\n\r\nabc"), (Left{2, 1, 0}));
-  EXPECT_EQ(leftOf(ok + "\r\nab"), (Left{std::nullopt, std::nullopt}));
-  EXPECT_EQ(leftOf(chunkedHeader + "2\r\nab\r\n0\r\n\r\n"), Left{std::nullopt});
 }
 
 TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {

@@ -65,14 +65,15 @@ Body exchangeForKept(std::string answer, HttpLimits limits) {
       limits);
 }
 
-std::vector<Body> exchangesCutAtEveryByte(const std::string& answer, const Rest& rest) {
+std::vector<Body> exchangesCutAtEveryByte(const std::string& answer,
+                                          const std::function<void(Connection&)>& end) {
   const Backend backend(
       [&](const ReceivedRequest& request, Connection& connection) {
         const auto cut = std::stoul(request.target().substr(1));
         connection.send(std::string_view(answer).substr(0, cut));
-        // So that the client most likely takes the first part alone.
+        // So that the client most likely takes it before the end comes.
         connection.pause(50ms);
-        rest(connection, std::string_view(answer).substr(cut));
+        end(connection);
       },
       0);
   std::vector<std::future<Body>> exchanges;

@@ -51,10 +51,9 @@ class WithExecutor : public testing::Test {
 [[nodiscard]] Body exchangeForKept(std::string answer, HttpLimits limits = {});
 
 /// As many exchanges at once as `answer` has places to be cut at: in the n-th,
-/// n bytes of the answer arrive first, and then it goes on with `rest`.
-using Rest = std::function<void(Connection&, std::string_view rest)>;
-[[nodiscard]] std::vector<Body> exchangesCutAtEveryByte(const std::string& answer,
-                                                        const Rest& rest);
+/// n bytes of the answer arrive, and then the connection comes to this end.
+[[nodiscard]] std::vector<Body> exchangesCutAtEveryByte(
+    const std::string& answer, const std::function<void(Connection&)>& end);
 
 /// How many connections reached `backend` so far. It must answer: one more
 /// connection, which is sure to come after all others, is counted off.

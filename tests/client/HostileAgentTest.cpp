@@ -153,17 +153,5 @@ TEST_F(HostileAgent, ResetsTheConnectionAfterAnyByte) {
   expectNoHarm(answer.size());
 }
 
-TEST_F(HostileAgent, LeavesAfterAnyByte) {
-  const std::string answer = okAnswer(statusBody);
-  for (std::size_t size = 0; size < answer.size(); ++size) {
-    EXPECT_EQ(
-        statusFrom([begin = answer.substr(0, size)](
-                       const ReceivedRequest&, Connection& connection) { connection.send(begin); }),
-        std::nullopt)
-        << size;
-  }
-  expectNoHarm(answer.size());
-}
-
 }  // namespace
 }  // namespace quillmark::test

@@ -31,7 +31,7 @@ std::vector<HostileAnswer> answersWithDemands(const std::string& body,
                                               const std::string& elsewhere);
 /// Every way to tell where the body ends, and every lie about it.
 std::vector<HostileAnswer> answersInEveryFraming(const std::string& body);
-/// Bodies in other encodings, and JSON at its edges.
+/// Bodies in other encodings, and far too much of one.
 std::vector<HostileAnswer> answersInEveryEncoding(const std::string& body);
 /// What is no answer at all.
 std::vector<HostileAnswer> answersOfOtherProtocols(const std::string& body);

@@ -21,10 +21,10 @@ HostileAnswer framed(const std::string& fields, const std::string& rest,
   return {fields + " " + rest.substr(0, 20), statusLine + fields + "\r\n\r\n" + rest, yields};
 }
 
-std::string wide(const std::string& text, bool bigEnd) {
+std::string wide(const std::string& text) {
   std::string result;
   for (const char c : text) {
-    result += bigEnd ? std::string{'\0', c} : std::string{c, '\0'};
+    result += {c, '\0'};
   }
   return result;
 }
@@ -70,6 +70,7 @@ Answers answersInEveryFraming(const std::string& body) {
       framed(chunked, chunk + "0\r\nno colon\r\n\r\n", nothing),
       framed(chunked, body, nothing),
       framed(chunked, end + chunk, nothing),
+      framed(chunked, "x\r\n" + body + "\r\n" + end, nothing),
       framed(chunked, "-" + chunk + end, nothing),
       framed(chunked, "+" + chunk + end, nothing),
       framed(chunked, "0x" + chunk + end, nothing),
@@ -89,36 +90,17 @@ Answers answersInEveryFraming(const std::string& body) {
 }
 
 Answers answersInEveryEncoding(const std::string& body) {
-  const std::string members = body.substr(1, body.size() - 2);
-  const std::string lastBad =
-      ","
-      R"("status":null})";
   return {
-      {"BOM", okAnswer("\uFEFF" + body), nothing},
-      {"UTF-16", okAnswer(wide(body, false)), nothing},
-      {"UTF-16 with a mark", okAnswer("\xFE\xFF" + wide(body, true)), nothing},
-      {"Latin-1", okAnswer("{\"x\":\"caf\xE9\"," + members + '}'), nothing},
+      {"UTF-16 with a mark", okAnswer("\xFF\xFE" + wide(body)), nothing},
       {"Windows line ends", okAnswer("\r\n" + body + "\r\n"), theRecord},
       {"gzip",
        answer("200 OK", "\x1F\x8B\x08\0\0\0\0\0\0\x03\x4B\x04\0"s, "Content-Encoding: gzip\r\n"),
        nothing},
-      {"twice the keys", okAnswer("{\"status\":1,\"status\":null," + members + '}'), theRecord},
-      {"twice the keys, then bad", okAnswer('{' + members + lastBad), nothing},
       {"two bodies", okAnswer(body + body), nothing},
-      {"a list of it", okAnswer('[' + body + ']'), nothing},
-      {"it as a text", okAnswer('"' + std::string(body.size(), 'x') + '"'), nothing},
-      {"deep",
-       okAnswer("{\"x\":" + std::string(400, '[') + std::string(400, ']') + ',' + members + '}'),
-       theRecord},
-      {"very deep",
-       okAnswer("{\"x\":" + std::string(100'000, '[') + std::string(100'000, ']') + ',' + members +
-                '}'),
-       nothing},
       {"endlessly deep", okAnswer(repeated(100'000, R"({"a":)")), nothing},
+      {"past 64 MiB", okAnswer(body + std::string(std::size_t{64} << 20, ' ')), nothing},
       {"blanks alone", okAnswer(std::string(1'000'000, ' ')), nothing},
-      {"a long number", okAnswer("{\"x\":" + std::string(1'000'000, '9') + ',' + members + '}'),
-       theRecord},
-      {"many keys", okAnswer('{' + repeated(200'000, R"("k":0,)") + members + '}'), theRecord},
+      {"many keys", okAnswer('{' + repeated(200'000, R"("k":0,)") + body.substr(1)), theRecord},
   };
 }
 

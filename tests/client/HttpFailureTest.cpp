@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <chrono>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -13,7 +12,6 @@
 namespace quillmark::test {
 namespace {
 
-using namespace std::chrono_literals;
 namespace asio = boost::asio;
 
 class Failure : public WithExecutor {};
@@ -28,13 +26,6 @@ TEST_F(Failure, IsTheServersAbsence) {
   const auto port = acceptor.local_endpoint().port();
   acceptor.close();
   EXPECT_EQ(completed(exchange(requestTo(port), {})).error(), HttpFailure::notConnected);
-}
-
-TEST_F(Failure, IsItsSilence) {
-  HttpLimits limits;
-  limits.silence = 50ms;
-  EXPECT_EQ(resultWith([](Connection& connection) { connection.staySilent(); }, limits).error(),
-            HttpFailure::silent);
 }
 
 TEST_F(Failure, IsAnAnswerThatBreaksOff) {

@@ -37,30 +37,6 @@ TEST_F(HttpFraming, IsTheEndOfTheConnection) {
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\n"), "");
 }
 
-TEST_F(HttpFraming, HoldsWhereverTheAnswerIsCut) {
-  const Rest goOn = [](Connection& connection, std::string_view rest) { connection.send(rest); };
-  for (const auto& body : exchangesCutAtEveryByte(okAnswer("{\"a\":1}"), goOn)) {
-    EXPECT_EQ(body, "{\"a\":1}");
-  }
-  for (const auto& body : exchangesCutAtEveryByte(chunkedAnswer, goOn)) {
-    EXPECT_EQ(body, chunkedBody);
-  }
-  for (const auto& body : exchangesCutAtEveryByte("HTTP/1.1 200 OK\r\n\r\n{\"a\":1}", goOn)) {
-    EXPECT_EQ(body, "{\"a\":1}");
-  }
-}
-
-TEST_F(HttpFraming, HoldsByteByByte) {
-  for (const auto& answer : {okAnswer(chunkedBody), chunkedAnswer}) {
-    EXPECT_EQ(exchangeWith([&](Connection& connection) {
-                for (const char byte : answer) {
-                  connection.send({&byte, 1});
-                }
-              }),
-              chunkedBody);
-  }
-}
-
 // Waiting for such a server to close would take until the silence is too long.
 TEST_F(HttpFraming, EndsAnAnswerOnAConnectionThatIsKept) {
   EXPECT_EQ(exchangeForKept(okAnswer("body")), "body");

@@ -12,26 +12,6 @@ namespace {
 
 class HttpStatus : public WithExecutor {};
 
-TEST_F(HttpStatus, DoesNotMatterToTheBody) {
-  for (const std::string status :
-       {"200 OK", "201 Created", "400 Bad Request", "401 Unauthorized", "404 Not Found",
-        "500 Internal Server Error", "503 Service Unavailable", "599 ", "999 Unheard of"}) {
-    EXPECT_EQ(exchangeFor(answer(status, "{}")), "{}") << status;
-  }
-}
-
-TEST_F(HttpStatus, OfARedirectSendsTheTokenNowhereElse) {
-  const Backend elsewhere(
-      [](const ReceivedRequest&, Connection& connection) { connection.send(okAnswer("{}")); }, 0);
-  const std::string place = "http://127.0.0.1:" + std::to_string(elsewhere.port()) + "/api/status";
-  for (const std::string status :
-       {"300 Multiple Choices", "301 Moved Permanently", "302 Found", "303 See Other",
-        "307 Temporary Redirect", "308 Permanent Redirect"}) {
-    EXPECT_EQ(exchangeFor(answer(status, "moved", "Location: " + place + "\r\n")), "moved");
-  }
-  EXPECT_EQ(connectionsSoFar(elsewhere), 0);
-}
-
 TEST_F(HttpStatus, OfAnInterimAnswerIsNotTheLast) {
   const std::string interim =
       "HTTP/1.1 100 Continue\r\n\r\n"
@@ -39,15 +19,6 @@ TEST_F(HttpStatus, OfAnInterimAnswerIsNotTheLast) {
       "HTTP/1.1 103 Early Hints\r\nLink: </>\r\n\r\n";
   EXPECT_EQ(exchangeFor(interim + okAnswer("body")), "body");
   EXPECT_EQ(exchangeForKept(interim + okAnswer("body")), "body");
-}
-
-TEST_F(HttpStatus, OfAnInterimAnswerIsNotTheLastWhereverItIsCut) {
-  const auto bodies = exchangesCutAtEveryByte(
-      "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 103 Early Hints\r\nA: b\r\n\r\n" + okAnswer("body"),
-      [](Connection& connection, std::string_view rest) { connection.send(rest); });
-  for (const auto& body : bodies) {
-    EXPECT_EQ(body, "body");
-  }
 }
 
 TEST_F(HttpStatus, OfAnInterimAnswerAloneIsNoAnswer) {

@@ -97,13 +97,6 @@ TEST_F(IPCClientGets, YieldNothingForAnErrorBody) {
   }
 }
 
-// The body alone counts.
-TEST_F(IPCClientGets, YieldTheRecordWhateverTheStatus) {
-  for (const std::string status : {"401 Unauthorized", "404 Not Found", "500 Oops", "302 Found"}) {
-    EXPECT_NE(getAllFor(answer(status, statusBody)).status, noRecord) << status;
-  }
-}
-
 TEST_F(IPCClientGets, YieldNothingForAStatusWithoutTheLastScan) {
   auto answers = goodAnswers();
   answers["/api/status"] =

@@ -4,8 +4,8 @@
 #include "client/TaskExecutor.h"
 
 #include <atomic>
+#include <chrono>
 #include <future>
-#include <set>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -29,13 +29,22 @@ TEST(TaskExecutor, RunsTasksOnThreadsOfItsOwn) {
 TEST(TaskExecutor, RunsTwoTasksAtOnce) {
   const TaskExecutor executor;
   std::promise<void> second;
-  std::promise<void> first;
+  std::promise<bool> sawSecond;
   asio::post(TaskExecutor::current(), [&] {
-    second.get_future().wait();
-    first.set_value();
+    const auto state = second.get_future().wait_for(std::chrono::seconds(30));
+    sawSecond.set_value(state == std::future_status::ready);
   });
   asio::post(TaskExecutor::current(), [&] { second.set_value(); });
-  first.get_future().wait();
+  EXPECT_TRUE(sawSecond.get_future().get());
+}
+
+TEST(TaskExecutor, ExistsUntilItIsDestroyed) {
+  EXPECT_FALSE(TaskExecutor::exists());
+  {
+    const TaskExecutor executor;
+    EXPECT_TRUE(TaskExecutor::exists());
+  }
+  EXPECT_FALSE(TaskExecutor::exists());
 }
 
 TEST(TaskExecutor, WaitsAtItsEndForWhatIsRunning) {

@@ -166,8 +166,7 @@ def test_silence_ends_in_time_and_says_that_the_panel_waits(backend):
     done = subprocess.run([scene.DOCTOR], capture_output=True, text=True, timeout=PATIENCE, check=False)
     assert done.returncode == 1
     assert line("wrong", "status",
-                "/api/status: no whole answer within 5 s; the panel would go on waiting until "
-                "nothing comes for 60 s") in done.stdout
+                "/api/status: no whole answer within 5 s; the panel would wait for 60 s") in done.stdout
     assert "OFFLINE because /api/status brings nothing to show (no whole answer" in done.stdout
 
 

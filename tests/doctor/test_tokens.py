@@ -115,15 +115,6 @@ def test_others_may_read_the_system_wide_one(backend):
     assert found.code == 0
 
 
-def test_longer_than_a_header_field(backend):
-    write(HOME_TOKEN, TOKEN * 4000)
-    found = look()
-    assert found.of("status")[0].startswith(
-        line("wrong", "status", "/api/status: the token is too long to be sent: "))
-    assert found.step == f"Remove the token file and {NEW_TOKEN}"
-    assert backend.seen() == []
-
-
 def test_written_after_the_panel_was_started(backend, tmp_path):
     panel = tmp_path / "quillmark-agent"
     panel.write_bytes(open("/bin/sleep", "rb").read())

@@ -5,41 +5,40 @@
 #include <cstring>
 #include <optional>
 #include <string>
+#include <utility>
 
-#include "client/HttpMessages.h"
+#include "client/AnswerReader.h"
 #include "fuzz/Fuzzer.h"
 
 namespace {
 
 using namespace quillmark;
 using namespace quillmark::fuzz;
-using State = AnswerReader::State;
 
 // Small, so that short inputs reach them.
 constexpr HttpLimits limits{.headerBytes = 512, .bodyBytes = 1024};
 
 /// The body of the answer that comes in pieces of `pieceSize` bytes.
 std::optional<std::string> bodyOf(std::string_view bytes, std::size_t pieceSize) {
-  std::string body;
-  AnswerReader reader(limits, [&](std::string_view piece, std::optional<std::size_t> left) {
-    body += piece;
-    require(body.size() + left.value_or(0) <= limits.bodyBytes, "a body keeps to its limit");
-  });
-  auto state = State::wantsMore;
-  while (state == State::wantsMore && !bytes.empty()) {
+  AnswerReader reader(limits);
+  while (!reader.isOver() && !bytes.empty()) {
     const auto space = reader.space();
     const auto piece = bytes.substr(0, std::min(pieceSize, space.size()));
+    require(!piece.empty(), "there is space until the answer is over");
     std::memcpy(space.data(), piece.data(), piece.size());
     bytes.remove_prefix(piece.size());
-    state = reader.received(piece.size());
+    reader.received(piece.size());
   }
-  if (state == State::wantsMore) {
-    state = reader.ended();
-    require(state != State::wantsMore, "the end of the connection ends the answer");
+  if (!reader.isOver()) {
+    reader.ended();
+    require(reader.isOver(), "the end of the connection ends the answer");
   }
-  const auto outcome = reader.outcome();
-  require(outcome.has_value() == (state == State::done), "a failure is told");
-  return outcome ? std::optional(body) : std::nullopt;
+  auto result = reader.takeResult();
+  if (!result) {
+    return std::nullopt;
+  }
+  require(result->body.size() <= limits.bodyBytes, "a body keeps to its limit");
+  return std::move(result->body);
 }
 
 }  // namespace

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
-#include <sstream>
+#include <string>
 
 #include <boost/asio/buffer.hpp>
+#include <boost/beast/http/empty_body.hpp>
 #include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/write.hpp>
 
 #include "client/AccessToken.h"
-#include "client/HttpMessages.h"
+#include "client/HttpExchange.h"
 #include "fuzz/Fuzzer.h"
 #include "platform/Utf8.h"
 
@@ -18,12 +18,6 @@ namespace {
 using namespace quillmark;
 using namespace quillmark::fuzz;
 namespace http = boost::beast::http;
-
-std::string onTheWire(const std::string& token) {
-  std::ostringstream wire;
-  wire << requestMessage({{}, "127.0.0.1:7823", "GET", "/api/status", token});
-  return wire.str();
-}
 
 /// Whether a server reads just this request out of the bytes, with this token.
 void requireOneRequest(const std::string& wire, const std::string& token) {
@@ -48,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(trimmed(token) == token, "white space is gone at once");
   require(file.find(token) != std::string_view::npos, "a token is a part of its file");
   if (fitsHeaderField(token)) {
-    requireOneRequest(onTheWire(token), token);
+    requireOneRequest(requestText({{}, "127.0.0.1:7823", "GET", "/api/status", token}), token);
   }
   return 0;
 }

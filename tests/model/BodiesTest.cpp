@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "model/Outcome.h"
+#include "model/Repeated.h"
 #include "model/Samples.h"
 
 namespace quillmark::test {
@@ -93,13 +94,24 @@ TEST(ListBodies, KeepTheAgentsOrderAndItsDuplicates) {
   EXPECT_EQ(inventory->services, (std::vector<std::string>{"b", "a", "b"}));
 }
 
+// However short the records are, and however many of them fit into a body.
 TEST(ListBodies, MayBeLong) {
-  NetworkResponse response;
-  for (int i = 0; i < 20000; ++i) {
-    auto& connection = response.connections.emplace_back(sample<NetworkConnection>());
-    connection.local_port = std::to_string(i);
-  }
-  EXPECT_TRUE(decodesTo(encode(response), response));
+  const auto list = [](const std::string& key, int count, const std::string& element) {
+    return quoted(key) + ":[" + repeated(count - 1, element + ',') + element + ']';
+  };
+  const auto alerts = decode<AlertsResponse>(
+      '{' + list("alerts", 400'000, R"({"alert_type":"a","severity":"b"})") + '}');
+  ASSERT_TRUE(alerts);
+  EXPECT_EQ(alerts->alerts.size(), 400'000U);
+  EXPECT_EQ(alerts->alerts.back().severity, "b");
+
+  const auto inventory = decode<InventoryData>('{' + list("apps", 500'000, R"({"name":"a"})") +
+                                               ',' + list("services", 2'000'000, R"("")") +
+                                               R"(,"network_interfaces":[],"permissions":[]})");
+  ASSERT_TRUE(inventory);
+  EXPECT_EQ(inventory->apps.size(), 500'000U);
+  EXPECT_EQ(inventory->apps.back().name, "a");
+  EXPECT_EQ(inventory->services.size(), 2'000'000U);
 }
 
 TEST(TextsOfTheAgent, AreKeptVerbatim) {

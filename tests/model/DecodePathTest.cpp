@@ -75,5 +75,28 @@ TEST(DecodePath, IsEmptyWhereNoJsonIsRead) {
   EXPECT_TRUE(failsWith<NetworkResponse>(R"({"connections":[)", DecodeFailure::dataCorrupted, ""));
 }
 
+TEST(DecodePath, IsThatOfTheEarlierElementBeforeTheEarlierKey) {
+  EXPECT_TRUE(failsAs<NetworkResponse>(
+      objectOf({{"connections", arrayOf({sampleWith<NetworkConnection>("risk_level", "1"),
+                                         sampleWith<NetworkConnection>("protocol", "1")})}}),
+      {DecodeFailure::typeMismatch, "connections[0].risk_level", "string expected, number found"}));
+  EXPECT_TRUE(failsAs<AlertsResponse>(
+      R"({"alerts":[{"title":1,"severity":null,"alert_type":"t"},{}]})",
+      {DecodeFailure::valueNotFound, "alerts[0].severity", "string expected, null found"}));
+}
+
+// Nothing that stands inside a value of the wrong type is looked at.
+TEST(DecodePath, IsThatOfTheOutermostOfNestedFaults) {
+  EXPECT_TRUE(failsAs<AlertsResponse>(
+      R"({"alerts":{"alerts":[{"alert_type":1}]}})",
+      {DecodeFailure::typeMismatch, "alerts", "array expected, object found"}));
+  EXPECT_TRUE(failsAs<AlertsResponse>(
+      R"({"alerts":[[{"alert_type":"t","severity":"s"}]]})",
+      {DecodeFailure::typeMismatch, "alerts[0]", "object expected, array found"}));
+  EXPECT_TRUE(failsAs<AlertsResponse>(
+      R"({"alerts":[{"alert_type":{"alert_type":"t","severity":"s"},"severity":"s"}]})",
+      {DecodeFailure::typeMismatch, "alerts[0].alert_type", "string expected, object found"}));
+}
+
 }  // namespace
 }  // namespace quillmark::test

@@ -99,12 +99,6 @@ TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeAll) {
   EXPECT_TRUE(failsWith<TypeParam>(objectOf(members), DecodeFailure::dataCorrupted, ""));
 }
 
-TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeABodyOfAnotherType) {
-  for (const std::string body : {"[1,2", "[1,]", "\"text", "1 2", "true]", "null{"}) {
-    EXPECT_TRUE(failsWith<TypeParam>(body, DecodeFailure::dataCorrupted, "")) << body;
-  }
-}
-
 // Of several values under one key the last one counts, as if it were alone.
 TYPED_TEST(FailureOrder, LooksAtTheLastOfDuplicateKeys) {
   for (const auto& [key, good] : sampleMembers<TypeParam>()) {
@@ -145,19 +139,6 @@ TYPED_TEST(FailureOrder, KnowsDuplicateKeysHoweverTheyAreWritten) {
     EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << escaped;
     EXPECT_TRUE(failsWith<TypeParam>(sampleAnd<TypeParam>(escaped, "{}"),
                                      DecodeFailure::typeMismatch, key));
-  }
-}
-
-// A second fault in the table decides nothing by standing first in the body,
-// not even when its key comes twice.
-TYPED_TEST(FailureOrder, IsNotChangedByDuplicates) {
-  const auto keys = keysOf<TypeParam>();
-  for (std::size_t i = 1; i < keys.size(); ++i) {
-    auto members = sampleMembers<TypeParam>();
-    members.insert(members.begin(), {keys[i], "{}"});
-    members.emplace_back(keys[0], "{}");
-    members.emplace_back(keys[i], "{}");
-    EXPECT_TRUE(tells<TypeParam>(members, faults[2], keys[0])) << keys[i];
   }
 }
 

@@ -20,7 +20,7 @@ inline std::string toText(const DecodeError& error) {
 /// Whether `json` decodes, and to what.
 template <Record R>
 testing::AssertionResult decodesTo(std::string_view json, const R& expected) {
-  const auto decoded = decode<R>(json);
+  const auto decoded = decode<R>(std::string(json));
   if (!decoded) {
     return testing::AssertionFailure() << toText(decoded.error());
   }
@@ -34,7 +34,7 @@ testing::AssertionResult decodesTo(std::string_view json, const R& expected) {
 /// any, but for some.
 template <Record R>
 testing::AssertionResult failsAs(std::string_view json, const DecodeError& expected) {
-  const auto decoded = decode<R>(json);
+  const auto decoded = decode<R>(std::string(json));
   if (decoded) {
     return testing::AssertionFailure() << "decoded: " << encode(*decoded);
   }

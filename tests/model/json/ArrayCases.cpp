@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "model/Repeated.h"
 #include "model/json/JsonCase.h"
 
 namespace quillmark::test {
@@ -8,12 +9,8 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string manyOnes(std::size_t count) {
-  std::string text = "[1";
-  for (std::size_t i = 1; i < count; ++i) {
-    text += ",1";
-  }
-  return text += ']';
+std::string many(const std::string& element, int count) {
+  return '[' + repeated(count - 1, element + ',') + element + ']';
 }
 
 std::vector<JsonCase> goodArrayCases() {
@@ -40,7 +37,8 @@ std::vector<JsonCase> goodArrayCases() {
       {"[{}]", List{Object{}}},
       {"[{},{}]", List{Object{}, Object{}}},
       {R"([{"a":1},{"b":[]}])", List{Object{}, Object{}}},
-      {manyOnes(1000), List(1000, 1)},
+      {many("1", 1000), List(1000, 1)},
+      {many("[[]]", 1000), List(1000, List{List{}})},
   };
 }
 

@@ -15,7 +15,7 @@ struct NotJson {};
 
 struct Null {};
 
-/// A number that is no whole number of 64 bits, or cannot be told to be one.
+/// A number of 64 bits, whole or not, that is no whole number with a sign.
 struct OtherNumber {};
 
 /// An object, of which no key is in any record's table.
@@ -31,8 +31,8 @@ struct Verdict : std::variant<NotJson, Null, bool, std::int64_t, OtherNumber, st
 using List = std::vector<Verdict>;
 
 /// A small text and its verdict. Where the JSON grammar's readers differ (twice
-/// the same key, numbers beyond 64 bits, lone surrogates, depth), the verdict is
-/// this system's.
+/// the same key, lone surrogates, depth, numbers that neither a double nor an
+/// integer of 64 bits holds), the verdict is this system's.
 ///
 /// No text has a comma outside brackets: two of them in a list would be good.
 struct JsonCase {

@@ -38,7 +38,6 @@ std::vector<JsonCase> goodObjectCases() {
       {R"({"\ud83d\ude00":1,"😀":2})", Object{}},
       {R"({"__proto__":{}})", Object{}},
       {R"({"a":[{"b":[{}]}]})", Object{}},
-      {R"({"a":1e400})", Object{}},
       {'{' + ('"' + std::string(100000, 'k') + '"') + ":1}", Object{}},
       {manyMembers(1000), Object{}},
   };
@@ -93,6 +92,7 @@ std::vector<JsonCase> badObjectCases() {
       {R"({"\x":1})", NotJson{}},
       {"{\"a\"\0:1}"s, NotJson{}},
       {"{}\0"s, NotJson{}},
+      {R"({"a":1e400})", NotJson{}},
       {"{}x", NotJson{}},
       {"{};", NotJson{}},
       {"{}{}", NotJson{}},

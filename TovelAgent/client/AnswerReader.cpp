@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "client/AnswerReader.h"
+
+#include <string_view>
+#include <utility>
+
+namespace quillmark {
+namespace {
+
+namespace http = boost::beast::http;
+
+using ErrorCode = boost::system::error_code;
+
+constexpr int maxInterimAnswers = 16;
+
+// A chunked body always ends with as many bytes that only make sense together.
+// The parser must not see fewer: it counts on them once it has met the last
+// chunk's size.
+constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
+
+bool exceedsLimit(const ErrorCode& error) {
+  return error == http::error::header_limit || error == http::error::body_limit;
+}
+
+}  // namespace
+
+AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
+
+// One byte more than may stand there unparsed shows that it is too much.
+boost::asio::mutable_buffer AnswerReader::space() {
+  return buffer_.prepare(limits_.headerBytes + std::size_t{1} - buffer_.size());
+}
+
+void AnswerReader::received(std::size_t count) {
+  buffer_.commit(count);
+  while (!isOver() && hasEnoughToParse()) {
+    const bool inHeader = !parser_->is_header_done();
+    ErrorCode error;
+    const std::size_t used = parser_->put(buffer_.data(), error);
+    buffer_.consume(used);
+    headerSize_ = inHeader ? headerSize_ + used : 0;
+    const bool needsMore = error == http::error::need_more;
+    // What is left then is a piece of the header, or of a chunk's or trailer's line.
+    const std::size_t unparsed = needsMore ? buffer_.size() : 0;
+    if (headerSize_ + unparsed > limits_.headerBytes || exceedsLimit(error)) {
+      failure_ = HttpFailure::tooLarge;
+    } else if (needsMore) {
+      return;
+    } else if (error) {
+      failure_ = HttpFailure::malformed;
+    } else if (parser_->is_done()) {
+      endAnswer();
+    }
+  }
+}
+
+void AnswerReader::ended() {
+  ErrorCode error = http::error::partial_message;
+  if (parser_->got_some()) {
+    parser_->put_eof(error);
+  }
+  if (error) {
+    failure_ = HttpFailure::brokenOff;
+  } else {
+    isDone_ = true;
+  }
+}
+
+HttpResult AnswerReader::takeResult() {
+  if (failure_) {
+    return *failure_;
+  }
+  auto message = parser_->release();
+  return HttpAnswer{message.result_int(), std::move(message.body())};
+}
+
+void AnswerReader::startAnswer() {
+  headerSize_ = 0;
+  parser_.emplace();
+  parser_->header_limit(limits_.headerBytes);
+  parser_->body_limit(limits_.bodyBytes);
+}
+
+void AnswerReader::endAnswer() {
+  const auto& answer = parser_->get();
+  const bool isInterim =
+      http::to_status_class(answer.result_int()) == http::status_class::informational &&
+      answer.result() != http::status::switching_protocols;
+  if (!isInterim) {
+    isDone_ = true;
+  } else if (++interimAnswers_ > maxInterimAnswers) {
+    failure_ = HttpFailure::malformed;
+  } else {
+    startAnswer();
+  }
+}
+
+bool AnswerReader::hasEnoughToParse() const {
+  const bool inChunks = parser_->is_header_done() && parser_->chunked();
+  return buffer_.size() >= (inChunks ? shortestChunkedEnd : 1);
+}
+
+}  // namespace quillmark
