@@ -87,7 +87,7 @@ class SnapshotListModel final : public ListModel {
                        index(static_cast<int>(last - old.begin())));
   }
 
-  Rows rows_ = std::make_shared<const std::vector<Row>>();
+  Rows rows_ = emptyList<Row>();
   const std::size_t maxRows_;
 };
 

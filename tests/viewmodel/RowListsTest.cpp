@@ -96,6 +96,27 @@ TEST_F(RowListsTest, HoldTwoCardsOnlyWithoutAnInventory) {
             QStringLiteral("Active Network Connections"));
 }
 
+// Views redraw what is announced: nothing of two polls at once, and nothing twice.
+TEST_F(RowListsTest, TakeAllValuesOfAPollBeforeAnyIsAnnounced) {
+  const auto model = makeModel();
+  auto* const cards = model->cardRows();
+  QStringList announced;
+  const auto note = [&] { announced.append(cardValues(*model)); };
+  QObject::connect(cards, &ListModel::dataChanged, cards, note);
+  QObject::connect(cards, &ListModel::rowsInserted, cards, note);
+  QObject::connect(cards, &ListModel::rowsRemoved, cards, note);
+  {
+    const Backend backend(goodAnswers());
+    poll(*model);
+  }
+  const auto good = QStringLiteral("1 2 1 1 1");
+  EXPECT_EQ(announced, (QStringList{good, good}));
+  announced.clear();
+  poll(*model);
+  const auto none = QStringLiteral("0 0");
+  EXPECT_EQ(announced, (QStringList{none, none}));
+}
+
 TEST_F(RowListsTest, TellAnEmptyInventoryFromNone) {
   const Backend backend(goodAnswersBut(
       "/api/inventory",
