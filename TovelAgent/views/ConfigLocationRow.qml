@@ -33,9 +33,12 @@ Box {
                 anchors.verticalCenter: parent.verticalCenter
             }
 
-            ElidedLabel {
+            Label {
+                width: row.width - 2 * 8 - x
                 text: row.path
                 size: 12
+                maximumLineCount: 1
+                elide: Text.ElideRight
                 font.weight: Font.DemiBold
                 color: Theme.black
                 anchors.verticalCenter: parent.verticalCenter

@@ -49,7 +49,7 @@ TEST_F(RowListsTest, ShowTheFirstHundredAlertsInOrder) {
   poll(*model);
   ASSERT_EQ(model->alertRows()->count(), 100);
   for (int i = 0; i < 100; ++i) {
-    EXPECT_EQ(row<AlertPresentation>(*model->alertRows(), i).alertType.beginning(),
+    EXPECT_EQ(row<AlertPresentation>(*model->alertRows(), i).alertType,
               QStringLiteral("type %1").arg(i));
   }
   EXPECT_EQ(model->alerts().size(), 150U);
@@ -65,8 +65,7 @@ TEST_F(RowListsTest, ShowTheFirstFiftyApplicationsInOrder) {
   poll(*model);
   ASSERT_EQ(model->appRows()->count(), 50);
   for (int i = 0; i < 50; ++i) {
-    EXPECT_EQ(row<AppPresentation>(*model->appRows(), i).name.beginning(),
-              QStringLiteral("app %1").arg(i));
+    EXPECT_EQ(row<AppPresentation>(*model->appRows(), i).name, QStringLiteral("app %1").arg(i));
   }
   EXPECT_EQ(cardValues(*model), QStringLiteral("80 0 0 1 1"));
 }
