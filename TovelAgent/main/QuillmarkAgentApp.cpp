@@ -11,6 +11,7 @@
 
 #include "main/SingleInstance.h"
 #include "main/WindowGroup.h"
+#include "viewmodel/FormatDate.h"
 #include "views/ViewEngine.h"
 
 namespace quillmark {
@@ -21,9 +22,13 @@ int QuillmarkAgentApp::run() {
     return 0;
   }
 
-  // Reading what fonts there are takes a fifth of the start. It is done beside
-  // the reading of the views, which need it at their first text.
-  const std::jthread fonts([] { static_cast<void>(QFontDatabase::families()); });
+  // Reading what fonts there are takes a fifth of the start, and the first date is
+  // slow too. Both are done beside the reading of the views, which need the fonts at
+  // their first text and a date after the first poll.
+  const std::jthread reading([] {
+    static_cast<void>(QFontDatabase::families());
+    static_cast<void>(formatDate(QStringLiteral("2000-01-01T00:00:00Z")));
+  });
 
   QGuiApplication::setDesktopFileName(SingleInstance::applicationId);
   // Without a window the panel goes on, and a second launch opens one.

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "viewmodel/DisplayText.h"
+
 namespace quillmark {
 namespace {
 
@@ -36,22 +38,22 @@ const SeverityLook& lookOf(const QString& severity) {
 
 }  // namespace
 
-AlertPresentation present(const Snapshot<ThreatAlert>& alert) {
-  const auto severity = shortened(alert->severity);
+AlertPresentation present(const ThreatAlert& alert) {
+  const auto severity = displayText(alert.severity);
   const auto& look = lookOf(severity);
 
   AlertPresentation row;
   row.severityIcon = look.icon;
   row.severityColor = look.color;
-  row.alertType = LongText({alert, &alert->alert_type});
-  row.accessibleName = row.alertType.shortened();
+  row.alertType = displayText(alert.alert_type);
+  row.accessibleName = row.alertType;
   if (!severity.isEmpty()) {
     row.accessibleName.prepend(severity + QStringLiteral(": "));
   }
-  if (alert->description) {
+  if (alert.description) {
     row.hasDescription = true;
-    row.description = LongText({alert, &*alert->description});
-    row.accessibleName += QStringLiteral(", ") + row.description.shortened();
+    row.description = displayText(*alert.description);
+    row.accessibleName += QStringLiteral(", ") + row.description;
   }
   return row;
 }

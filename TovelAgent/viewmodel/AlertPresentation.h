@@ -7,8 +7,6 @@
 #include <QString>
 
 #include "model/ThreatAlert.h"
-#include "viewmodel/LongText.h"
-#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -18,22 +16,22 @@ struct AlertPresentation {
   QML_VALUE_TYPE(alertPresentation)
   Q_PROPERTY(QString severityIcon MEMBER severityIcon CONSTANT)
   Q_PROPERTY(QString severityColor MEMBER severityColor CONSTANT)
-  Q_PROPERTY(quillmark::LongText alertType MEMBER alertType CONSTANT)
+  Q_PROPERTY(QString alertType MEMBER alertType CONSTANT)
   Q_PROPERTY(bool hasDescription MEMBER hasDescription CONSTANT)
-  Q_PROPERTY(quillmark::LongText description MEMBER description CONSTANT)
+  Q_PROPERTY(QString description MEMBER description CONSTANT)
   Q_PROPERTY(QString accessibleName MEMBER accessibleName CONSTANT)
 
  public:
   QString severityIcon;   ///< symbolic icon name
   QString severityColor;  ///< the theme's name of the icon's colour
-  LongText alertType;
+  QString alertType;
   bool hasDescription = false;  ///< an empty description is one too
-  LongText description;
+  QString description;
   QString accessibleName;  ///< the row read aloud, the severity first: the icon is its only sign
 };
 
 /// The severity is compared without regard to case, and not trimmed; whatever
 /// is not "critical", "high" or "medium" counts as information.
-[[nodiscard]] AlertPresentation present(const Snapshot<ThreatAlert>& alert);
+[[nodiscard]] AlertPresentation present(const ThreatAlert& alert);
 
 }  // namespace quillmark

@@ -3,16 +3,18 @@
 
 #include "viewmodel/AppPresentation.h"
 
+#include "viewmodel/DisplayText.h"
+
 namespace quillmark {
 
-AppPresentation present(const Snapshot<InstalledApp>& app) {
+AppPresentation present(const InstalledApp& app) {
   AppPresentation row;
-  row.name = LongText({app, &app->name});
-  row.accessibleName = row.name.shortened();
-  if (app->version) {
+  row.name = displayText(app.name);
+  row.accessibleName = row.name;
+  if (app.version) {
     row.hasVersion = true;
-    row.version = LongText({app, &*app->version}, QStringLiteral("v"));
-    row.accessibleName += QStringLiteral(", ") + row.version.shortened();
+    row.version = QLatin1Char('v') + displayText(*app.version);
+    row.accessibleName += QStringLiteral(", ") + row.version;
   }
   return row;
 }

@@ -7,8 +7,6 @@
 #include <QString>
 
 #include "model/InstalledApp.h"
-#include "viewmodel/LongText.h"
-#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -16,18 +14,18 @@ namespace quillmark {
 struct AppPresentation {
   Q_GADGET
   QML_VALUE_TYPE(appPresentation)
-  Q_PROPERTY(quillmark::LongText name MEMBER name CONSTANT)
+  Q_PROPERTY(QString name MEMBER name CONSTANT)
   Q_PROPERTY(bool hasVersion MEMBER hasVersion CONSTANT)
-  Q_PROPERTY(quillmark::LongText version MEMBER version CONSTANT)
+  Q_PROPERTY(QString version MEMBER version CONSTANT)
   Q_PROPERTY(QString accessibleName MEMBER accessibleName CONSTANT)
 
  public:
-  LongText name;
+  QString name;
   bool hasVersion = false;  ///< an empty version is one too
-  LongText version;         ///< with a "v" in front
+  QString version;          ///< with a "v" in front
   QString accessibleName;   ///< the row read aloud
 };
 
-[[nodiscard]] AppPresentation present(const Snapshot<InstalledApp>& app);
+[[nodiscard]] AppPresentation present(const InstalledApp& app);
 
 }  // namespace quillmark

@@ -5,24 +5,23 @@
 
 #include <string_view>
 
-#include "viewmodel/LongText.h"
+#include "viewmodel/DisplayText.h"
 
 namespace quillmark {
-
 namespace {
 
 QString endpoint(std::string_view address, std::string_view port) {
-  return shortened(address) + QLatin1Char(':') + shortened(port);
+  return displayText(address) + QLatin1Char(':') + displayText(port);
 }
 
 }  // namespace
 
-ConnectionPresentation present(const Snapshot<NetworkConnection>& connection) {
+ConnectionPresentation present(const NetworkConnection& connection) {
   ConnectionPresentation row;
-  row.localEndpoint = endpoint(connection->local_address, connection->local_port);
+  row.localEndpoint = endpoint(connection.local_address, connection.local_port);
   row.remoteEndpoint =
-      QStringLiteral("→ ") + endpoint(connection->remote_address, connection->remote_port);
-  row.state = shortened(connection->state);
+      QStringLiteral("→ ") + endpoint(connection.remote_address, connection.remote_port);
+  row.state = displayText(connection.state);
   row.accessibleName =
       QStringList{row.localEndpoint, row.remoteEndpoint, row.state}.join(QStringLiteral(", "));
   return row;

@@ -7,7 +7,6 @@
 #include <QString>
 
 #include "model/NetworkConnection.h"
-#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -28,6 +27,6 @@ struct ConnectionPresentation {
 };
 
 /// Joins the texts as they are; brackets round an IPv6 address are not added.
-[[nodiscard]] ConnectionPresentation present(const Snapshot<NetworkConnection>& connection);
+[[nodiscard]] ConnectionPresentation present(const NetworkConnection& connection);
 
 }  // namespace quillmark

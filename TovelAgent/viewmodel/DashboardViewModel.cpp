@@ -4,6 +4,7 @@
 #include "viewmodel/DashboardViewModel.h"
 
 #include <chrono>
+#include <new>
 #include <utility>
 
 #include <QCoreApplication>
@@ -23,10 +24,12 @@ constexpr auto pollInterval = 5s;
 constexpr std::size_t maxAlertRows = 100;
 constexpr std::size_t maxAppRows = 50;
 
-/// The elements of an answer, or an empty list where there was none.
+/// Leaves `snapshot` as it is where there was no answer.
 template <class T>
-Snapshot<std::vector<T>> listOf(std::optional<std::vector<T>> answer) {
-  return std::make_shared<const std::vector<T>>(std::move(answer).value_or(std::vector<T>()));
+void take(std::optional<T> answer, Snapshot<T>& snapshot) {
+  if (answer) {
+    snapshot = std::make_shared<const T>(std::move(*answer));
+  }
 }
 
 }  // namespace
@@ -36,25 +39,11 @@ std::shared_ptr<DashboardViewModel> DashboardViewModel::create() {
 }
 
 DashboardViewModel::DashboardViewModel()
-    : alerts_(listOf<ThreatAlert>({})),
-      networkConnections_(listOf<NetworkConnection>({})),
-      alertRows_("alert", maxAlertRows),
+    : alertRows_("alert", maxAlertRows),
       connectionRows_("connection"),
       appRows_("app", maxAppRows),
       cardRows_("card") {
-  connect(this, &DashboardViewModel::alertsChanged, this, [this] { alertRows_.show(alerts_); });
-  connect(this, &DashboardViewModel::networkConnectionsChanged, this,
-          [this] { connectionRows_.show(networkConnections_); });
-  connect(this, &DashboardViewModel::inventoryChanged, this, [this] {
-    appRows_.show(inventory_ ? Snapshot<std::vector<InstalledApp>>(inventory_, &inventory_->apps)
-                             : listOf<InstalledApp>({}));
-  });
-  for (const auto changed :
-       {&DashboardViewModel::alertsChanged, &DashboardViewModel::networkConnectionsChanged,
-        &DashboardViewModel::inventoryChanged}) {
-    connect(this, changed, this, &DashboardViewModel::showCards);
-  }
-  showCards();
+  showLists();
 }
 
 void DashboardViewModel::startPolling() {
@@ -73,14 +62,16 @@ void DashboardViewModel::updateData() {
 
 boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardViewModel> self) {
   PollResult result;
-  result.status = co_await self->client_->getStatus();
-  auto alerts = co_await self->client_->getAlerts();
-  result.alerts = listOf(std::move(alerts));
-  auto connections = co_await self->client_->getNetwork();
-  result.networkConnections = listOf(std::move(connections));
-  auto inventory = co_await self->client_->getInventory();
-  if (inventory) {
-    result.inventory = std::make_shared<const InventoryData>(std::move(*inventory));
+  try {
+    result.status = co_await self->client_->getStatus();
+    auto alerts = co_await self->client_->getAlerts();
+    take(std::move(alerts), result.alerts);
+    auto connections = co_await self->client_->getNetwork();
+    take(std::move(connections), result.networkConnections);
+    auto inventory = co_await self->client_->getInventory();
+    take(std::move(inventory), result.inventory);
+  } catch (const std::bad_alloc&) {
+    result = {};
   }
 
   auto* const receiver = self.get();
@@ -96,15 +87,15 @@ void DashboardViewModel::assign(PollResult result) {
   publish(networkConnections_, result.networkConnections,
           &DashboardViewModel::networkConnectionsChanged);
   publish(inventory_, result.inventory, &DashboardViewModel::inventoryChanged);
-  // There lies now what was shown before, which takes longer to free than a window
-  // may take to answer.
-  // At the very end a poll may arrive after the executor has gone.
+  showLists();
+  // `result` now holds the old values. Long lists take longer to free than the window
+  // may take to answer. At the very end a poll may arrive after the executor has gone.
   if (TaskExecutor::exists()) {
     boost::asio::post(TaskExecutor::current(), [before = std::move(result)] {});
   }
 }
 
-/// Leaves the field's value of before in `value`.
+/// Leaves the field's old value in `value`.
 template <class Value>
 void DashboardViewModel::publish(Value& field, Value& value,
                                  void (DashboardViewModel::*changed)()) {
@@ -113,7 +104,11 @@ void DashboardViewModel::publish(Value& field, Value& value,
   Q_EMIT(this->*changed)();
 }
 
-void DashboardViewModel::showCards() {
+void DashboardViewModel::showLists() {
+  alertRows_.show(alerts_);
+  connectionRows_.show(networkConnections_);
+  appRows_.show(inventory_ ? Snapshot<std::vector<InstalledApp>>(inventory_, &inventory_->apps)
+                           : emptyList<InstalledApp>());
   cardRows_.show(std::make_shared<const std::vector<StatsCard>>(
       statsCards(inventory(), networkConnections(), alerts())));
 }

@@ -30,8 +30,8 @@ namespace quillmark {
 /// Four published fields (`status`, `alerts`, `networkConnections`,
 /// `inventory`) are assigned together after every poll, changed or not. Each
 /// assignment first emits `objectWillChange`, while the old value can still be
-/// read, then stores, then emits the field's own signal. The list models and
-/// presentations hold the same values in the shape views read.
+/// read, then stores, then emits the field's own signal. After the fourth the list
+/// models take the same values, in the shape views read.
 ///
 /// Everything here is called on the UI thread; only the polls' network work
 /// runs on the task executor, which must exist.
@@ -81,11 +81,11 @@ class DashboardViewModel final : public QObject,
   void inventoryChanged();
 
  private:
-  /// What one poll brought. Lists are never null, the inventory may be.
+  /// What one poll brought: no values at first.
   struct PollResult {
     std::optional<AgentStatus> status;
-    Snapshot<std::vector<ThreatAlert>> alerts;
-    Snapshot<std::vector<NetworkConnection>> networkConnections;
+    Snapshot<std::vector<ThreatAlert>> alerts = emptyList<ThreatAlert>();
+    Snapshot<std::vector<NetworkConnection>> networkConnections = emptyList<NetworkConnection>();
     Snapshot<InventoryData> inventory;
   };
 
@@ -94,16 +94,17 @@ class DashboardViewModel final : public QObject,
   void updateData();
   [[nodiscard]] static boost::asio::awaitable<void> poll(std::shared_ptr<DashboardViewModel> self);
   void assign(PollResult result);
-  void showCards();
+  void showLists();
 
   template <class Value>
   void publish(Value& field, Value& value, void (DashboardViewModel::*changed)());
 
   std::optional<AgentStatus> status_;
-  Snapshot<std::vector<ThreatAlert>> alerts_;
-  Snapshot<std::vector<NetworkConnection>> networkConnections_;
+  Snapshot<std::vector<ThreatAlert>> alerts_ = emptyList<ThreatAlert>();
+  Snapshot<std::vector<NetworkConnection>> networkConnections_ = emptyList<NetworkConnection>();
   Snapshot<InventoryData> inventory_;
   const std::shared_ptr<const IPCClient> client_ = std::make_shared<const IPCClient>();
+  /// The timer of the latest `startPolling`. Nothing reads it: no timer is ever stopped.
   QPointer<QTimer> timer_;
 
   SnapshotListModel<ThreatAlert> alertRows_;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 namespace quillmark {
 
@@ -11,5 +12,12 @@ namespace quillmark {
 /// show it, and never changed after it was made.
 template <class T>
 using Snapshot = std::shared_ptr<const T>;
+
+/// A list without elements, the same one each time. Any thread.
+template <class T>
+[[nodiscard]] Snapshot<std::vector<T>> emptyList() {
+  static const auto list = std::make_shared<const std::vector<T>>();
+  return list;
+}
 
 }  // namespace quillmark

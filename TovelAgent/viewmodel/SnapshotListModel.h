@@ -11,14 +11,13 @@
 #include <vector>
 
 #include "viewmodel/ListModel.h"
-#include "viewmodel/LongText.h"
 #include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
-/// A list that takes each poll's rows whole. `present(const Snapshot<Row>&)`,
-/// found beside the presentation's type, makes of a row what the view shows; it
-/// runs for the rows on screen only. UI thread only.
+/// A list that takes each poll's rows whole. `present(const Row&)`, found beside
+/// the presentation's type, makes of a row what the view shows; it runs for the
+/// rows on screen only. UI thread only.
 template <class Row>
 class SnapshotListModel final : public ListModel {
  public:
@@ -43,8 +42,7 @@ class SnapshotListModel final : public ListModel {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != presentationRole) {
       return {};
     }
-    const auto& row = (*rows_)[static_cast<std::size_t>(index.row())];
-    return QVariant::fromValue(present(Snapshot<Row>(rows_, &row)));
+    return QVariant::fromValue(present((*rows_)[static_cast<std::size_t>(index.row())]));
   }
 
  private:
@@ -54,18 +52,6 @@ class SnapshotListModel final : public ListModel {
   // Comparing more rows than this takes longer than showing anew those in view.
   static constexpr int mostCompared = 2'000;
 
-  /// Whether a view may go on showing `before` for `after`. Of a long text it has
-  /// only the beginning and must learn where the rest is now; nor are long texts
-  /// compared any sooner than shown.
-  static bool isSame(const Row& before, const Row& after) {
-    if constexpr (Record<Row>) {
-      if (hasLongText(after)) {
-        return false;
-      }
-    }
-    return before == after;
-  }
-
   /// Names the span from the first to the last of the leading `common` rows
   /// that differ: looking from both ends costs next to nothing when all do.
   void announceChanges(const std::vector<Row>& old, int common) {
@@ -74,20 +60,20 @@ class SnapshotListModel final : public ListModel {
       return;
     }
     const auto oldEnd = old.begin() + common;
-    const auto first = std::mismatch(old.begin(), oldEnd, rows_->begin(), isSame).first;
+    const auto first = std::mismatch(old.begin(), oldEnd, rows_->begin()).first;
     if (first == oldEnd) {
       return;
     }
     const auto unchangedAtEnd =
         std::mismatch(std::make_reverse_iterator(oldEnd), std::make_reverse_iterator(first),
-                      std::make_reverse_iterator(rows_->begin() + common), isSame)
+                      std::make_reverse_iterator(rows_->begin() + common))
             .first;
     const auto last = unchangedAtEnd.base() - 1;
     Q_EMIT dataChanged(index(static_cast<int>(first - old.begin())),
                        index(static_cast<int>(last - old.begin())));
   }
 
-  Rows rows_ = std::make_shared<const std::vector<Row>>();
+  Rows rows_ = emptyList<Row>();
   const std::size_t maxRows_;
 };
 

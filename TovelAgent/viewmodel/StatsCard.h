@@ -11,7 +11,6 @@
 #include "model/InventoryData.h"
 #include "model/NetworkConnection.h"
 #include "model/ThreatAlert.h"
-#include "viewmodel/Snapshot.h"
 
 namespace quillmark {
 
@@ -30,7 +29,7 @@ struct StatsCard {
 };
 
 /// A card is shown as it is.
-[[nodiscard]] inline const StatsCard& present(const Snapshot<StatsCard>& card) { return *card; }
+[[nodiscard]] inline const StatsCard& present(const StatsCard& card) { return card; }
 
 /// The dashboard's cards, top to bottom. Those that count the inventory are
 /// left out while there is none (`inventory` is null).

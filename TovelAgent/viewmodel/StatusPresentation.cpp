@@ -3,8 +3,8 @@
 
 #include "viewmodel/StatusPresentation.h"
 
+#include "viewmodel/DisplayText.h"
 #include "viewmodel/FormatDate.h"
-#include "viewmodel/LongText.h"
 
 namespace quillmark {
 
@@ -12,12 +12,12 @@ StatusPresentation present(const std::optional<AgentStatus>& status) {
   const auto threatCount = status ? status->threat_count : 0;
 
   StatusPresentation header;
-  header.status = status ? shortened(status->status).toUpper() : QStringLiteral("OFFLINE");
+  header.status = status ? displayText(status->status).toUpper() : QStringLiteral("OFFLINE");
   header.statusIsHealthy = status && status->status == "ok";
   header.threats = QString::number(threatCount);
   header.threatsAreHealthy = threatCount == 0;
   header.hasLastScan = status.has_value();
-  header.lastScan = status ? formatDate(shortened(status->last_scan)) : QString();
+  header.lastScan = status ? formatDate(displayText(status->last_scan)) : QString();
   return header;
 }
 

@@ -29,14 +29,14 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.spacing
 
-        LongLabel {
+        Label {
             width: parent.width
             text: row.alert.alertType
             size: 13
-            weight: Font.DemiBold
+            font.weight: Font.DemiBold
         }
 
-        LongLabel {
+        Label {
             visible: row.alert.hasDescription
             width: parent.width
             text: row.alert.description

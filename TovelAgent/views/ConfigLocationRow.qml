@@ -27,18 +27,18 @@ Box {
             spacing: Theme.spacing
 
             SymbolIcon {
-                id: symbol
-
                 name: "document.text"
                 size: 12
                 color: Theme.blue
                 anchors.verticalCenter: parent.verticalCenter
             }
 
-            ElidedLabel {
+            Label {
+                width: row.width - 2 * 8 - x
                 text: row.path
-                maximumWidth: row.width - 2 * 8 - symbol.width - Theme.spacing
                 size: 12
+                maximumLineCount: 1
+                elide: Text.ElideRight
                 font.weight: Font.DemiBold
                 color: Theme.black
                 anchors.verticalCenter: parent.verticalCenter

@@ -10,17 +10,23 @@ Item {
 
     required property statusPresentation status
 
-    implicitWidth: left.width + Theme.spacing + right.width
+    readonly property real room: width - 2 * Theme.spacing
+
     implicitHeight: Math.max(left.height, right.height)
 
     Column {
         id: left
 
+        readonly property real naturalWidth: Math.max(titles.width, badges.naturalWidth)
+
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
+        width: header.room - (header.status.hasLastScan ? Math.max(lastScanTitle.width, lastScan.width) : 0)
         spacing: 8
 
         Row {
+            id: titles
+
             spacing: 12
 
             SymbolIcon {
@@ -49,15 +55,24 @@ Item {
         }
 
         Row {
+            id: badges
+
+            readonly property real naturalWidth: statusBadge.implicitWidth + spacing + threatsBadge.implicitWidth
+
             spacing: 20
 
             StatusBadge {
+                id: statusBadge
+
+                maximumWidth: left.width - badges.spacing - threatsBadge.width
                 title: "Status"
                 value: header.status.status
                 isHealthy: header.status.statusIsHealthy
             }
 
             StatusBadge {
+                id: threatsBadge
+
                 title: "Threats"
                 value: header.status.threats
                 isHealthy: header.status.threatsAreHealthy
@@ -74,19 +89,23 @@ Item {
         visible: header.status.hasLastScan
 
         Label {
+            id: lastScanTitle
+
             anchors.right: parent.right
             text: "Last Scan"
             size: 11
             color: Theme.gray
         }
 
-        ElidedLabel {
+        HeaderValue {
+            id: lastScan
+
             anchors.right: parent.right
+            // Where there is too little room for both blocks, each has half of it or more.
+            width: Math.min(naturalWidth, Math.max(header.room / 2, header.room - left.naturalWidth))
             text: header.status.lastScan
             size: 13
-            font.weight: Font.DemiBold
-            color: Theme.black
-            maximumWidth: Theme.headerTextWidth
+            horizontalAlignment: Text.AlignRight
         }
     }
 }

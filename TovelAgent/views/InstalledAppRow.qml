@@ -12,14 +12,14 @@ Column {
 
     spacing: 4
 
-    LongLabel {
+    Label {
         width: parent.width
         text: row.app.name
         size: 13
-        weight: Font.DemiBold
+        font.weight: Font.DemiBold
     }
 
-    LongLabel {
+    Label {
         visible: row.app.hasVersion
         width: parent.width
         text: row.app.version

@@ -39,7 +39,7 @@ Item {
         anchors.right: parent.right
         spacing: 2
 
-        WrappedLabel {
+        Label {
             width: parent.width
             text: step.title
             size: 12
@@ -47,7 +47,7 @@ Item {
             color: Theme.black
         }
 
-        WrappedLabel {
+        Label {
             width: parent.width
             text: step.description
             size: 11

@@ -4,44 +4,47 @@
 import QtQuick
 import Quillmark.ViewModel
 
-/// Both ends of a connection, and its state at the right.
+/// Both ends of a connection, and at the right its state, in half of the row at most.
 Item {
     id: row
 
     required property connectionPresentation connection
+
+    readonly property real room: width - 2 * Theme.spacing
 
     implicitHeight: Math.max(endpoints.height, state.height) + 2 * 8
 
     Column {
         id: endpoints
 
-        y: 8
-        width: state.x - Theme.spacing
+        anchors.verticalCenter: parent.verticalCenter
+        width: row.room - state.width
         spacing: 4
 
-        ElidedLabel {
-            maximumWidth: endpoints.width
+        Label {
+            width: parent.width
             text: row.connection.localEndpoint
             size: 13
             font.weight: Font.DemiBold
         }
 
-        ElidedLabel {
-            maximumWidth: endpoints.width
+        Label {
+            width: parent.width
             text: row.connection.remoteEndpoint
             size: 12
             color: Theme.gray
         }
     }
 
-    ElidedLabel {
+    MeasuredLabel {
         id: state
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        maximumWidth: row.width / 2
+        width: Math.min(naturalWidth, row.room / 2)
         text: row.connection.state
         size: 11
+        horizontalAlignment: Text.AlignRight
         color: Theme.blue
     }
 }

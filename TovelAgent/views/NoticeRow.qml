@@ -32,7 +32,7 @@ Box {
         color: notice.ink
     }
 
-    WrappedLabel {
+    Label {
         id: label
 
         anchors.left: symbol.right

@@ -44,7 +44,7 @@ SectionCard {
         onPressed: card.settings.saveApiKey()
     }
 
-    WrappedLabel {
+    Label {
         width: parent.width
         text: card.settings.keyHelp
         size: 10

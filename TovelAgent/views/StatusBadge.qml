@@ -4,17 +4,19 @@
 import QtQuick
 import Quillmark.Views
 
-/// A small titled value with a dot that says whether it is as it should be.
-/// The keyboard reaches it, so that who cannot see it can stay at it and is
-/// told of every change.
+/// A small titled value with a dot that says whether it is as it should be. Its
+/// value wraps where the badge would be wider than `maximumWidth`. The keyboard
+/// reaches it, so that who cannot see it can stay at it and is told of every change.
 Item {
     id: badge
 
     required property string title
     required property string value
     required property bool isHealthy
+    property real maximumWidth: Infinity
 
-    implicitWidth: column.width
+    width: Math.min(implicitWidth, maximumWidth)
+    implicitWidth: Math.max(titleLabel.width, line.spacing + dot.width + valueLabel.naturalWidth)
     implicitHeight: column.height
 
     // Here, for Qt takes the property `value` of an accessible item for a
@@ -37,15 +39,21 @@ Item {
             spacing: 4
 
             Label {
+                id: titleLabel
+
                 text: badge.title
                 size: 11
                 color: Theme.gray
             }
 
             Row {
+                id: line
+
                 spacing: 6
 
                 Box {
+                    id: dot
+
                     width: 8
                     height: 8
                     radius: 4
@@ -53,12 +61,12 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                 }
 
-                ElidedLabel {
+                HeaderValue {
+                    id: valueLabel
+
+                    width: Math.min(naturalWidth, badge.maximumWidth - dot.width - line.spacing)
                     text: badge.value
                     size: 14
-                    font.weight: Font.DemiBold
-                    color: Theme.black
-                    maximumWidth: Theme.headerTextWidth
                 }
             }
         }

@@ -42,6 +42,5 @@ QtObject {
     readonly property int focusRadius: 6
     readonly property int underlineRadius: 2
     readonly property int listInset: 20
-    readonly property int headerTextWidth: 360
     readonly property int listRowInset: 6
 }

@@ -7,7 +7,7 @@ import pytest
 from harness.lists import names
 
 HEADER = ["Quillmark Agent", "Endpoint Detection & Response", "Status", "OK", "Threats", "1",
-          "Last Scan", "15 Jan 2024 10:30:00"]
+          "Last Scan", "1/15/24, 10:30 AM"]
 TABS = ["Dashboard", "Network", "Inventory", "Alerts", "Settings"]
 ADDRESSES = ["127.0.0.1:7823", "127.0.0.1:22", "127.0.0.1:80"]
 

@@ -2,8 +2,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The header: the two badges with their dots, and the time of the last scan."""
 
-import re
-
 import pytest
 
 from harness import bodies, colours
@@ -79,10 +77,10 @@ def test_other_texts_are_shown_as_received(launch, scan):
 
 
 @pytest.mark.parametrize("scan, zone, locale, expected", [
-    ("2024-01-15T10:30:00Z", "UTC", "en_US.UTF-8", r"1/15/24,? 10:30\sAM"),
-    ("2024-01-15T23:30:00+02:00", "Asia/Kolkata", "de_DE.UTF-8", r"16\.01\.24,? 03:00"),
-    ("2024-07-01T00:00:00Z", "America/New_York", "en_GB.UTF-8", r"30/06/2024,? 20:00"),
+    ("2024-01-15T10:30:00Z", "UTC", "en_US.UTF-8", "1/15/24, 10:30 AM"),
+    ("2024-01-15T23:30:00+02:00", "Asia/Kolkata", "de_DE.UTF-8", "16.01.24, 03:00"),
+    ("2024-07-01T00:00:00Z", "America/New_York", "en_GB.UTF-8", "30/06/2024, 20:00"),
 ])
 def test_last_scan_in_the_users_locale_and_zone(launch, scan, zone, locale, expected):
     panel = launch({"status": bodies.status(last_scan=scan)}, TZ=zone, LC_ALL=locale)
-    assert re.fullmatch(expected, scan_shown(panel))
+    assert scan_shown(panel) == expected

@@ -57,5 +57,5 @@ def test_last_scan_in_arabic_keeps_its_place(launch):
     title = panel.tree.wait_for("text", "Last Scan")
     window = panel.window.box
     assert window.right - title.box.right in (20, 21)
-    assert not panel.tree.find("text", "15 Jan 2024 10:30:00"), "it is in the locale's own form"
+    assert not panel.tree.find("text", "1/15/24, 10:30 AM"), "it is in the locale's own form"
     assert_uncut(panel.tree.read())

@@ -6,10 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "viewmodel/AlertPresentation.h"
-#include "viewmodel/Presented.h"
 #include "viewmodel/PrintQString.h"
 
-namespace quillmark::test {
+namespace quillmark {
 namespace {
 
 ThreatAlert alertOf(const std::string& severity) { return {"malware", severity, {}, {}, {}, {}}; }
@@ -23,7 +22,7 @@ struct Severity {
 class SeverityTest : public testing::TestWithParam<Severity> {};
 
 TEST_P(SeverityTest, ChoosesIconAndColour) {
-  const auto row = presented(alertOf(GetParam().text));
+  const auto row = present(alertOf(GetParam().text));
   EXPECT_EQ(row.severityIcon, QLatin1String(GetParam().icon));
   EXPECT_EQ(row.severityColor, QLatin1String(GetParam().color));
 }
@@ -49,35 +48,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Severity{"crit", infoCircle, "blue"}));
 
 TEST(AlertPresentation, HasTypeAndDescription) {
-  const auto row = presented(ThreatAlert{"malware", "high", {}, "found", {}, {}});
-  EXPECT_EQ(row.alertType.beginning(), QStringLiteral("malware"));
+  const auto row = present(ThreatAlert{"malware", "high", {}, "found", {}, {}});
+  EXPECT_EQ(row.alertType, QStringLiteral("malware"));
   EXPECT_TRUE(row.hasDescription);
-  EXPECT_EQ(row.description.beginning(), QStringLiteral("found"));
+  EXPECT_EQ(row.description, QStringLiteral("found"));
 }
 
 TEST(AlertPresentation, HasNoDescriptionWhereThereIsNone) {
-  EXPECT_FALSE(presented(alertOf("high")).hasDescription);
+  EXPECT_FALSE(present(alertOf("high")).hasDescription);
 }
 
 TEST(AlertPresentation, TakesAnEmptyDescriptionForOne) {
-  const auto row = presented(ThreatAlert{"malware", "high", {}, "", {}, {}});
+  const auto row = present(ThreatAlert{"malware", "high", {}, "", {}, {}});
   EXPECT_TRUE(row.hasDescription);
-  EXPECT_TRUE(row.description.beginning().isEmpty());
+  EXPECT_TRUE(row.description.isEmpty());
 }
 
 TEST(AlertPresentation, ShowsNeitherTitleNorFileNorTime) {
-  const auto row =
-      presented(ThreatAlert{"malware", "high", "title", "found", "/tmp/file", "today"});
-  EXPECT_EQ(row.alertType.beginning(), QStringLiteral("malware"));
-  EXPECT_EQ(row.description.beginning(), QStringLiteral("found"));
+  const auto row = present(ThreatAlert{"malware", "high", "title", "found", "/tmp/file", "today"});
+  EXPECT_EQ(row.alertType, QStringLiteral("malware"));
+  EXPECT_EQ(row.description, QStringLiteral("found"));
   EXPECT_EQ(row.accessibleName, QStringLiteral("high: malware, found"));
 }
 
 // The icon is the only sign of the severity, and cannot be heard.
 TEST(AlertPresentation, SaysTheSeverityAloud) {
-  EXPECT_EQ(presented(alertOf("HIGH")).accessibleName, QStringLiteral("HIGH: malware"));
-  EXPECT_EQ(presented(alertOf("")).accessibleName, QStringLiteral("malware"));
+  EXPECT_EQ(present(alertOf("HIGH")).accessibleName, QStringLiteral("HIGH: malware"));
+  EXPECT_EQ(present(alertOf("")).accessibleName, QStringLiteral("malware"));
 }
 
 }  // namespace
-}  // namespace quillmark::test
+}  // namespace quillmark

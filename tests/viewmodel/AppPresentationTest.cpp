@@ -4,43 +4,41 @@
 #include <gtest/gtest.h>
 
 #include "viewmodel/AppPresentation.h"
-#include "viewmodel/Presented.h"
 #include "viewmodel/PrintQString.h"
 
-namespace quillmark::test {
+namespace quillmark {
 namespace {
 
 TEST(AppPresentation, PutsAVInFrontOfTheVersion) {
-  const auto row = presented(InstalledApp{"editor", "2.4.1", {}, {}});
-  EXPECT_EQ(row.name.beginning(), QStringLiteral("editor"));
+  const auto row = present(InstalledApp{"editor", "2.4.1", {}, {}});
+  EXPECT_EQ(row.name, QStringLiteral("editor"));
   EXPECT_TRUE(row.hasVersion);
-  EXPECT_EQ(row.version.beginning(), QStringLiteral("v2.4.1"));
+  EXPECT_EQ(row.version, QStringLiteral("v2.4.1"));
   EXPECT_EQ(row.accessibleName, QStringLiteral("editor, v2.4.1"));
 }
 
 TEST(AppPresentation, HasNoVersionWhereThereIsNone) {
-  const auto row = presented(InstalledApp{"editor", {}, {}, {}});
+  const auto row = present(InstalledApp{"editor", {}, {}, {}});
   EXPECT_FALSE(row.hasVersion);
   EXPECT_EQ(row.accessibleName, QStringLiteral("editor"));
 }
 
 TEST(AppPresentation, TakesAnEmptyVersionForOne) {
-  const auto row = presented(InstalledApp{"editor", "", {}, {}});
+  const auto row = present(InstalledApp{"editor", "", {}, {}});
   EXPECT_TRUE(row.hasVersion);
-  EXPECT_EQ(row.version.beginning(), QStringLiteral("v"));
+  EXPECT_EQ(row.version, QStringLiteral("v"));
 }
 
 TEST(AppPresentation, DoesNotDropAVThatIsThereAlready) {
-  EXPECT_EQ(presented(InstalledApp{"editor", "v1", {}, {}}).version.beginning(),
-            QStringLiteral("vv1"));
+  EXPECT_EQ(present(InstalledApp{"editor", "v1", {}, {}}).version, QStringLiteral("vv1"));
 }
 
 TEST(AppPresentation, ShowsNeitherPublisherNorPath) {
-  const auto row = presented(InstalledApp{"editor", "1", "publisher", "/usr/bin/editor"});
-  EXPECT_EQ(row.name.beginning(), QStringLiteral("editor"));
-  EXPECT_EQ(row.version.beginning(), QStringLiteral("v1"));
+  const auto row = present(InstalledApp{"editor", "1", "publisher", "/usr/bin/editor"});
+  EXPECT_EQ(row.name, QStringLiteral("editor"));
+  EXPECT_EQ(row.version, QStringLiteral("v1"));
   EXPECT_EQ(row.accessibleName, QStringLiteral("editor, v1"));
 }
 
 }  // namespace
-}  // namespace quillmark::test
+}  // namespace quillmark

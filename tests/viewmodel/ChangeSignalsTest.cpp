@@ -104,24 +104,5 @@ TEST_F(ChangeSignalsTest, ComeInOneStepOfTheUserInterfaceThread) {
   EXPECT_EQ(Seen(seen_.begin(), seen_.end() - 2), nothingChanged);
 }
 
-TEST_F(ChangeSignalsTest, FindTheListsOfViewsUpToDate) {
-  const Backend backend(goodAnswers());
-  const auto model = makeModel();
-  std::vector<int> counts;
-  const auto note = [&](ListModel* list) {
-    return [&counts, list] { counts.push_back(list->count()); };
-  };
-  QObject::connect(model.get(), &DashboardViewModel::alertsChanged, model.get(),
-                   note(model->alertRows()));
-  QObject::connect(model.get(), &DashboardViewModel::networkConnectionsChanged, model.get(),
-                   note(model->connectionRows()));
-  QObject::connect(model.get(), &DashboardViewModel::inventoryChanged, model.get(),
-                   note(model->appRows()));
-  QObject::connect(model.get(), &DashboardViewModel::inventoryChanged, model.get(),
-                   note(model->cardRows()));
-  poll(*model);
-  EXPECT_EQ(counts, (std::vector<int>{1, 1, 1, 5}));
-}
-
 }  // namespace
 }  // namespace quillmark::test

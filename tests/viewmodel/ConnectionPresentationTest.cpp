@@ -6,10 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "viewmodel/ConnectionPresentation.h"
-#include "viewmodel/Presented.h"
 #include "viewmodel/PrintQString.h"
 
-namespace quillmark::test {
+namespace quillmark {
 namespace {
 
 NetworkConnection connectionOf(const std::string& localAddress, const std::string& localPort,
@@ -18,7 +17,7 @@ NetworkConnection connectionOf(const std::string& localAddress, const std::strin
 }
 
 TEST(ConnectionPresentation, JoinsAddressesAndPorts) {
-  const auto row = presented(connectionOf("127.0.0.1", "7823", "10.0.0.5", "443"));
+  const auto row = present(connectionOf("127.0.0.1", "7823", "10.0.0.5", "443"));
   EXPECT_EQ(row.localEndpoint, QStringLiteral("127.0.0.1:7823"));
   EXPECT_EQ(row.remoteEndpoint, QStringLiteral("→ 10.0.0.5:443"));
   EXPECT_EQ(row.state, QStringLiteral("ESTABLISHED"));
@@ -26,13 +25,13 @@ TEST(ConnectionPresentation, JoinsAddressesAndPorts) {
 }
 
 TEST(ConnectionPresentation, LeavesThePlaceOfEmptyFieldsEmpty) {
-  const auto row = presented(connectionOf("", "", "", ""));
+  const auto row = present(connectionOf("", "", "", ""));
   EXPECT_EQ(row.localEndpoint, QStringLiteral(":"));
   EXPECT_EQ(row.remoteEndpoint, QStringLiteral("→ :"));
 }
 
 TEST(ConnectionPresentation, AddsNoBracketsToAnIpv6Address) {
-  const auto row = presented(connectionOf("fe80::1", "22", "::", "*"));
+  const auto row = present(connectionOf("fe80::1", "22", "::", "*"));
   EXPECT_EQ(row.localEndpoint, QStringLiteral("fe80::1:22"));
   EXPECT_EQ(row.remoteEndpoint, QStringLiteral("→ :::*"));
 }
@@ -40,7 +39,7 @@ TEST(ConnectionPresentation, AddsNoBracketsToAnIpv6Address) {
 TEST(ConnectionPresentation, KeepsTextsAsReceived) {
   auto connection = connectionOf(" 127.0.0.1 ", "0080", "<b>a</b>", "http");
   connection.state = "listen \n";
-  const auto row = presented(connection);
+  const auto row = present(connection);
   EXPECT_EQ(row.localEndpoint, QStringLiteral(" 127.0.0.1 :0080"));
   EXPECT_EQ(row.remoteEndpoint, QStringLiteral("→ <b>a</b>:http"));
   EXPECT_EQ(row.state, QStringLiteral("listen \n"));
@@ -52,8 +51,8 @@ TEST(ConnectionPresentation, ShowsNeitherProtocolNorProcessNorRisk) {
   risky.connectionProtocol = "udp";
   risky.pid = "4711";
   risky.risk_level = "high";
-  const auto a = presented(plain);
-  const auto b = presented(risky);
+  const auto a = present(plain);
+  const auto b = present(risky);
   EXPECT_EQ(a.localEndpoint, b.localEndpoint);
   EXPECT_EQ(a.remoteEndpoint, b.remoteEndpoint);
   EXPECT_EQ(a.state, b.state);
@@ -61,4 +60,4 @@ TEST(ConnectionPresentation, ShowsNeitherProtocolNorProcessNorRisk) {
 }
 
 }  // namespace
-}  // namespace quillmark::test
+}  // namespace quillmark

@@ -35,7 +35,7 @@ using Told = std::vector<std::string>;
   const int role = model.roleNames().key("app");
   for (int row = 0; row < model.rowCount(); ++row) {
     const auto value = model.data(model.index(row), role).value<AppPresentation>();
-    letters += value.name.beginning().toStdString();
+    letters += value.name.toStdString();
   }
   return letters;
 }

@@ -57,21 +57,6 @@ PolledViewTest {
         compare(listed, listOf(100, number => ["type " + number]));
     }
 
-    // What is not laid out yet lies in the latest poll's value.
-    function test_longTextGoesOnAfterAnotherPoll() {
-        const text = "many words ".repeat(2000);
-        answerAlerts([{ alert_type: text, severity: "high" }]);
-        poll();
-        const list = itemOfType(tab(), "PlainList");
-        const read = () => textsIn(list.itemAtIndex(0)).join("");
-        verify(read().length < text.length);
-        poll();
-        tryVerify(() => {
-            list.positionViewAtEnd();
-            return read() === text;
-        }, patience);
-    }
-
     function test_orderIsTheAgents() {
         answerAlerts([alert(5), alert(1), alert(9), alert(1)]);
         poll();

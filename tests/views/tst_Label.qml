@@ -24,6 +24,18 @@ ViewTest {
         compare(label.effectiveHorizontalAlignment, Text.AlignLeft);
     }
 
+    function test_wrapsWhereItsWidthEnds_data() {
+        return [{ tag: "words", text: "many words ".repeat(20) }, { tag: "one word", text: "X".repeat(200) }];
+    }
+
+    function test_wrapsWhereItsWidthEnds(data) {
+        const free = make(component, { text: data.text });
+        compare(free.lineCount, 1);
+        const label = make(component, { text: data.text, width: free.width / 2.5 });
+        compare(label.lineCount, 3);
+        verify(label.contentWidth <= label.width);
+    }
+
     function test_sizeIsInPixels() {
         compare(make(component, { text: "text", size: 32 }).font.pixelSize, 32);
     }

@@ -50,6 +50,32 @@ ViewTest {
         compare(row("a", "1", "").implicitHeight, row("a", "1", "ESTABLISHED").implicitHeight);
     }
 
+    function test_endpointsTakeTheRoomBesideTheState() {
+        const view = row("words of an address ".repeat(3), "443", "LISTEN");
+        compare(labelsIn(view).map(label => label.lineCount), [1, 1, 1]);
+    }
+
+    function test_eachHasHalfWhereBothAreLong() {
+        const view = row("endless".repeat(100), "1", "endless".repeat(100));
+        const [local, remote, state] = labelsIn(view).map(label => boxIn(label, view));
+        compare(local.width, state.width);
+        compare(state.left - local.right, 2 * Theme.spacing);
+        compare(state.right, view.width);
+    }
+
+    // The taller side makes the row, the other one stands in its middle.
+    function test_sidesOfUnequalHeight_data() {
+        return [{ tag: "state", address: "a", state: "1\n2\n3\n4\n5" }, { tag: "endpoints", address: "1\n2", state: "a" }];
+    }
+
+    function test_sidesOfUnequalHeight(data) {
+        const view = row(data.address, "1", data.state);
+        const [local, , state] = labelsIn(view);
+        compare(view.implicitHeight, 8 + Math.max(local.parent.height, state.height) + 8);
+        compareMiddleHeight(local.parent, view);
+        compareMiddleHeight(state, view);
+    }
+
     Component {
         id: component
 

@@ -101,12 +101,6 @@ class Tree:
     def wait_for(self, role, name):
         return until(lambda: self.find(role, name), f"{role} {name!r}")
 
-    def wait_for_beginning(self, role, beginning):
-        """One whose name begins so."""
-        return until(lambda: next((i for i in self.read().every(role)
-                                   if i.name.startswith(beginning)), None),
-                     f"{role} {beginning[:80]!r}")
-
     def wait_without(self, role, name):
         until(lambda: not self.find(role, name), f"{role} {name!r} to be gone")
 

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+/// A text that knows how wide it would be without wrapping. The `implicitWidth` of a
+/// text that wraps changes a little with its width, so that a width bound to that
+/// would be a binding loop.
+Label {
+    id: label
+
+    /// The width of its longest line, with room for the ellipsis after the last one.
+    /// At least 1: an elided text without a width has no height either.
+    readonly property real naturalWidth: Math.max(1, ruler.implicitWidth + ellipsis)
+    readonly property real ellipsis: ruler.lineCount > maximumLineCount ? size : 0
+
+    Text {
+        id: ruler
+
+        visible: false
+        textFormat: label.textFormat
+        text: label.text
+        font: label.font
+    }
+}

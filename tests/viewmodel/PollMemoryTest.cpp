@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <atomic>
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+#include "model/InventoryData.h"
+#include "viewmodel/PollingTest.h"
+
+namespace {
+
+std::atomic<std::size_t> lastSize = 0;
+std::atomic<std::size_t> failingSize = 0;
+std::atomic<int> failures = 0;
+
+}  // namespace
+
+/// Fails for what takes `failingSize` bytes.
+void* operator new(std::size_t size) {
+  lastSize = size;
+  if (size == failingSize) {
+    ++failures;
+    throw std::bad_alloc();
+  }
+  if (void* const memory = std::malloc(size)) {
+    return memory;
+  }
+  throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace quillmark::test {
+namespace {
+
+using PollMemoryTest = PollingTest;
+
+// The inventory comes last, when all else of the poll is there already.
+TEST_F(PollMemoryTest, AssignsNoValuesWhenItRunsOut) {
+  const auto model = makeModel();
+  const Backend backend(goodAnswers());
+  poll(*model);
+  ASSERT_EQ(summaryOf(*model), goodSummary);
+
+  static_cast<void>(std::make_shared<const InventoryData>());
+  failingSize = lastSize.load();
+  poll(*model);
+  failingSize = 0;
+  EXPECT_EQ(failures, 1);
+  EXPECT_EQ(summaryOf(*model), emptySummary);
+}
+
+}  // namespace
+}  // namespace quillmark::test
