@@ -6,7 +6,6 @@ import contextlib
 import os
 import signal
 import subprocess
-import time
 from pathlib import Path
 
 PRESET = "release"
@@ -64,23 +63,24 @@ class Tree:
 
     def make(self, *targets):
         """Whether it builds. In the sandbox too: a build may run what it has built."""
-        cache = subprocess.run(["ccache", "--get-config", "cache_dir"], stdout=subprocess.PIPE,
-                               text=True, check=True).stdout.strip()
         settings = {name: value for name, value in os.environ.items() if name.startswith("CCACHE_")}
-        settings["CCACHE_DIR"] = cache
-        Path(cache).mkdir(parents=True, exist_ok=True)
-        command = ["env", *(f"{name}={value}" for name, value in settings.items()),
-                   "cmake", "--build", self.build, "--target", *targets]
-        return self.run(command, None, QUILLMARK_SANDBOX_WRITABLE=f"{self.build}:{cache}") == 0
+        settings.setdefault("CCACHE_DIR", str(self.folder.parent / "ccache"))
+        cache = Path(settings["CCACHE_DIR"])
+        cache.mkdir(parents=True, exist_ok=True)
+        return self.run(["env", *(f"{name}={value}" for name, value in settings.items()),
+                         "cmake", "--build", self.build, "--target", *targets],
+                        writable=(self.build, cache)) == 0
 
-    def run(self, command, limit, **environment):
+    def run(self, command, limit=None, writable=()):
         """The exit code in the sandbox, or None past `limit` seconds."""
-        sandbox = self.folder / "tests/support/sandbox"
-        environment = os.environ | {"QUILLMARK_BUILD_DIR": str(self.build)} | environment
+        environment = os.environ | {
+            "QUILLMARK_BUILD_DIR": str(self.build),
+            "QUILLMARK_SANDBOX_WRITABLE": ":".join(map(str, writable)),
+        }
         with self.log.open("wb") as log:
-            child = subprocess.Popen([sandbox, *command], cwd=self.folder, env=environment,
-                                     stdin=subprocess.DEVNULL, stdout=log,
-                                     stderr=subprocess.STDOUT, start_new_session=True)
+            child = subprocess.Popen([self.folder / "tests/support/sandbox", *command],
+                                     cwd=self.folder, env=environment, stdin=subprocess.DEVNULL,
+                                     stdout=log, stderr=subprocess.STDOUT, start_new_session=True)
             try:
                 return child.wait(limit)
             except subprocess.TimeoutExpired:
