@@ -6,8 +6,11 @@ import re
 from collections import defaultdict
 from dataclasses import dataclass
 
-LITERAL = r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"|' r"(?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])*'"
+LITERAL = (r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"'
+           # After a digit it groups digits.
+           r"|(?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])*'")
 COMMENT = r"//[^\n]*|/\*.*?\*/"
+# What decides nothing when the program runs.
 SKIPPED_LINE = re.compile(
     r"\s*(#|import\b|pragma\b|using\b|namespace\b|friend\b|static_assert|assert\(|Q_PROPERTY|QML_)"
     r"|.*\) (const )?= (0|default|delete);$")
@@ -18,13 +21,16 @@ SWAPPED = {
 }
 OPERATOR = re.compile(r"(?<= )(" + "|".join(sorted(map(re.escape, SWAPPED), key=len, reverse=True))
                       + r")(?=[ \n])")
-NUMBER = re.compile(r"(?<![\w.'#])(0x[0-9A-F]+|[1-9][\d']*|0)(\.\d+)?(?=(ms|min|[smhuU]|UL)?(?![\w.']))")
+NUMBER = re.compile(r"(?<![\w.'#])(0x[0-9A-F]+|[1-9][\d']*|0)(\.\d+)?"
+                    r"(?=(ms|min|[smhuU]|UL)?(?![\w.']))")
 TRUTH = re.compile(r"\b(true|false)\b")
 CONDITION = re.compile(r"(?<=\bif \()(?![^\n]*(?: = |;))[^\n]+(?=\) \{\n)")
 RETURNED = re.compile(r"(?<=\breturn )(?!\{\}|\*this|false|0|nullptr|std::nullopt)[^\n;]+(?=;\n)")
+# A call, an assignment or a jump, on one line.
 STATEMENT = re.compile(
     r"(Q_EMIT |delete |co_await )?[A-Za-z_*(]([\w:.*()\[\]]|->)*(<[\w:, ]+>)?"
     r"( [-+|&*/]?= |\(|\+\+|--).*;$|(break|continue|return);$")
+# A property's value, unless it goes on on the next line.
 BINDING = re.compile(r"(?!id:)[\w.]+: .*[^,{(\[?:&|+]$")
 CONTINUATION = re.compile(r"\s*([?:.+]|&&|\|\|)")
 
