@@ -3,8 +3,6 @@
 
 #include "views/MaskedText.h"
 
-#include <QAccessible>
-
 namespace quillmark {
 namespace {
 
@@ -14,11 +12,8 @@ bool tellsText(const QAccessibleEvent& event) {
 }
 
 void passOn(QAccessibleEvent* event) {
-  if (tellsText(*event)) {
-    const auto* const source = event->accessibleInterface();
-    if (source != nullptr && source->state().passwordEdit) {
-      return;
-    }
+  if (tellsMaskedText(*event)) {
+    return;
   }
   // Without a handler Qt tells the platform, which is what we want of it now.
   const auto self = QAccessible::installUpdateHandler(nullptr);
@@ -27,6 +22,14 @@ void passOn(QAccessibleEvent* event) {
 }
 
 }  // namespace
+
+bool tellsMaskedText(const QAccessibleEvent& event) {
+  if (!tellsText(event)) {
+    return false;
+  }
+  const auto* const source = event.accessibleInterface();
+  return source != nullptr && source->state().passwordEdit;
+}
 
 void silenceMaskedText() { QAccessible::installUpdateHandler(passOn); }
 

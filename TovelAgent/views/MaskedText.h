@@ -3,7 +3,12 @@
 
 #pragma once
 
+#include <QAccessible>
+
 namespace quillmark {
+
+/// Whether the event tells what is in a masked field. UI thread.
+[[nodiscard]] bool tellsMaskedText(const QAccessibleEvent& event);
 
 /// Keeps what is in masked fields from assistive technology: Qt announces a
 /// change of text with the text itself, also where everyone else sees dots.

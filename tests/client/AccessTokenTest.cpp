@@ -116,8 +116,11 @@ TEST_F(AccessToken, FollowsLinks) {
   expectHomeToken();
 }
 
-TEST_F(AccessToken, IsNoHugeFile) {
-  writeFile(systemTokenPath(), std::string((1 << 20) + 1, 'x'));
+TEST_F(AccessToken, HasAFileOfAtMostOneMebibyte) {
+  const std::string largest(1 << 20, 'x');
+  writeFile(systemTokenPath(), largest);
+  EXPECT_TRUE(readAccessToken() == largest);
+  writeFile(systemTokenPath(), largest + 'x');
   expectHomeToken();
 }
 

@@ -12,7 +12,7 @@ import scene
 from harness import bodies
 from harness.exchange import Answer, answer, silence
 from patience import PATIENCE
-from scene import line, look
+from scene import line, look, write
 
 ONLINE = 'ONLINE: the panel shows the agent\'s status, "ok"'
 
@@ -137,6 +137,14 @@ def test_status_that_counts_as_unhealthy(backend):
         r'status "OK\x1B]0;x\x07", threats 0, shown with a red dot: only "ok" counts as healthy')
     assert found.conclusion == 'ONLINE: the panel shows the agent\'s status, "OK\\x1B]0;x\\x07".'
     assert found.code == 0
+
+
+def test_key_that_cannot_be_read_back_is_not_told_either(backend):
+    key = f"{scene.KEY}=tail"
+    # No TOML, so that the key has to be found in the line.
+    write(scene.CONFIG, scene.config(key=key) + "= =\n")
+    backend.reply(status=bodies.status(status=key))
+    assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
 
 
 def test_status_that_repeats_the_secrets(backend):

@@ -6,12 +6,15 @@ import json
 import os
 import pty
 import subprocess
+import time
 from pathlib import Path
 
 import jsonschema
 import pytest
 
 import scene
+from harness import bodies
+from harness.exchange import answer
 
 SCHEMA = json.loads((Path(__file__).parents[2] / "docs/doctor.schema.json").read_text())
 
@@ -79,6 +82,18 @@ def test_json_facts_of_a_fault(backend):
     assert network == {"path": "/api/network", "http_status": 200, "bytes": 34,
                        "failure": "type mismatch", "failure_path": "connections[0].protocol",
                        "failure_detail": "string expected, number found"}
+
+
+def test_time_that_an_answer_took(backend):
+    held = 0.3
+    backend.reply(status=answer(bodies.status(), delay=held))
+    begun = time.monotonic()
+    said = json.loads(scene.run("--json").stdout)
+    elapsed = time.monotonic() - begun
+    (status,) = (c for c in said["checks"] if c["check"] == "status")
+    took = status["facts"]["milliseconds"]
+    assert held <= took / 1000 <= elapsed
+    assert f", {took} ms: " in status["text"]
 
 
 def test_help_and_version():

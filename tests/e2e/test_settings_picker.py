@@ -34,6 +34,14 @@ def test_only_what_may_be_a_configuration(panel):
         save(BUILD / "pictures" / "settings-dialog.png", panel.window.box)
 
 
+def test_all_files_if_asked_for(panel):
+    with picker.opened(panel):
+        panel.press_until_focused("combo box", "Configuration files (*.toml *.txt)")
+        hands.key("Down")
+        panel.tree.wait_for("combo box", "All files (*)")
+        panel.tree.wait_for("text", "other.cfg")
+
+
 def test_the_chosen_row_can_be_read(panel):
     with picker.opened(panel):
         hands.park()

@@ -3,11 +3,13 @@
 
 #include "platform/AtomicFile.h"
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/Files.h"
@@ -19,6 +21,26 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
+
+/// While it lives, writing beyond so many bytes fails in every file.
+class FileSizeLimit final {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before_), 0);
+    const rlimit limit{bytes, before_.rlim_max};
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
 
 /// Under each umask that people have.
 class AtomicFile : public testing::TestWithParam<mode_t> {
@@ -148,6 +170,17 @@ TEST_P(AtomicFile, LeavesNoDescriptorOpen) {
   expectWritten("again");
   EXPECT_TRUE(writeFileAtomically(folder.path(), "text"));
   EXPECT_EQ(open(), before);
+}
+
+TEST_P(AtomicFile, LeavesNoDescriptorOpenWhenAWriteFails) {
+  const auto open = [] { return namesIn("/proc/self/fd").size(); };
+  const auto before = open();
+  {
+    const FileSizeLimit limit(4096);
+    EXPECT_EQ(writeFileAtomically(path, std::string(5000, 'x')).message(), "File too large");
+  }
+  EXPECT_EQ(open(), before);
+  EXPECT_EQ(namesIn(folder.path()), Names{});
 }
 
 TEST_P(AtomicFile, HasFoldersMadeForTheUserAlone) {

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <map>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -18,6 +19,19 @@ using namespace std::chrono_literals;
 
 /// Whole answers by target, shared by handlers that do something besides.
 std::string answerTo(const std::string& target) { return goodAnswers().at(target); }
+
+/// As good as `goodAnswers`, and different in all four fields.
+std::map<std::string, std::string> otherAnswers() {
+  const std::string alert = R"({"alert_type":"malware","severity":"low"})";
+  const std::string app = R"({"name":"editor"})";
+  return {
+      {"/api/status", okAnswer(R"({"protection_enabled":true,"threat_count":0,"last_alert":"",)"
+                               R"("status":"other","last_scan":""})")},
+      {"/api/alerts", okAnswer(R"({"alerts":[)" + alert + "," + alert + "]}")},
+      {"/api/network", okAnswer(networkBodyOf(3))},
+      {"/api/inventory", okAnswer(R"({"apps":[)" + app + "," + app + "," + app + "," + app +
+                                  R"(],"services":[],"network_interfaces":[],"permissions":[]})")}};
+}
 
 class PollOrderTest : public PollingTest {
  protected:
@@ -100,28 +114,22 @@ TEST_F(PollOrderTest, ThePollThatFinishesLastWins) {
   std::atomic<int> statusRequests = 0;
   std::atomic<bool> released = false;
   const Backend backend([&](const ReceivedRequest& request, Connection& connection) {
-    if (request.target() != "/api/status") {
-      connection.send(answerTo(request.target()));
-      return;
-    }
-    const bool isFirst = ++statusRequests == 1;
-    for (int i = 0; isFirst && i < 10000 && !released; ++i) {
+    const bool isHeld = request.target() == "/api/status" && ++statusRequests == 1;
+    for (int i = 0; isHeld && i < 10000 && !released; ++i) {
       connection.pause(10ms);
     }
-    connection.send(okAnswer(
-        R"({"protection_enabled":true,"threat_count":0,"last_alert":"","last_scan":"","status":")" +
-        std::string(isFirst ? "first" : "second") + "\"}"));
+    connection.send(released ? otherAnswers().at(request.target()) : answerTo(request.target()));
   });
   const auto model = makeModel();
   model->startPolling();
   ASSERT_TRUE(waitUntil([&] { return statusRequests == 1; }));
   poll(*model);
-  EXPECT_EQ(summaryOf(*model), "second 1 1 1");
+  EXPECT_EQ(summaryOf(*model), goodSummary);
 
   const QSignalSpy lastAssigned(model.get(), &DashboardViewModel::inventoryChanged);
   released = true;
   ASSERT_TRUE(waitUntil([&] { return lastAssigned.count() == 1; }));
-  EXPECT_EQ(summaryOf(*model), "first 1 1 1");
+  EXPECT_EQ(summaryOf(*model), "other 2 3 4");
 }
 
 }  // namespace

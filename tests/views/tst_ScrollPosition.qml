@@ -90,15 +90,23 @@ PolledViewTest {
         compare(placeOf(list).row, 0);
     }
 
+    function test_goesToTheEndWhenTheRowsInViewAreGone_data() {
+        return [
+            { tag: "and many above them", left: 100 },
+            { tag: "and none above them", left: 5000 }
+        ];
+    }
+
     // There is nothing to stay at: the end is the nearest.
-    function test_goesToTheEndWhenTheRowsInViewAreGone() {
+    function test_goesToTheEndWhenTheRowsInViewAreGone(data) {
         const list = listAt(5000);
-        answerRows(100, "LISTEN");
+        answerRows(data.left, "LISTEN");
         pollAndSettle(list);
         tryVerify(() => list.atYEnd);
-        verify(list.itemAtIndex(99), "the last row is in view");
-        compare(textsIn(list.itemAtIndex(99))[0], "127.0.0.1:99");
-        verify(boxIn(list.itemAtIndex(99), list).bottom >= list.height - 1);
+        const last = list.itemAtIndex(data.left - 1);
+        verify(last, "the last row is in view");
+        compare(textsIn(last)[0], "127.0.0.1:" + (data.left - 1));
+        verify(boxIn(last, list).bottom >= list.height - 1);
     }
 
     Component {

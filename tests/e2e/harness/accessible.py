@@ -16,6 +16,7 @@ from .window import Box
 
 # Numbers of the accessibility protocol.
 ROLES = {
+    11: "combo box",
     16: "dialog",
     23: "window",
     29: "text",
