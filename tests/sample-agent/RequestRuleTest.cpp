@@ -143,10 +143,10 @@ TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNoRecord) {
     const auto failure = [&](const auto& decoded) {
       return !decoded && decoded.error().kind == DecodeFailure::keyNotFound;
     };
-    EXPECT_TRUE(failure(decode<AgentStatus>(error.body))) << error.body;
-    EXPECT_TRUE(failure(decode<AlertsResponse>(error.body)));
-    EXPECT_TRUE(failure(decode<NetworkResponse>(error.body)));
-    EXPECT_TRUE(failure(decode<InventoryData>(error.body)));
+    EXPECT_TRUE(failure(decode<AgentStatus>(std::string(error.body)))) << error.body;
+    EXPECT_TRUE(failure(decode<AlertsResponse>(std::string(error.body))));
+    EXPECT_TRUE(failure(decode<NetworkResponse>(std::string(error.body))));
+    EXPECT_TRUE(failure(decode<InventoryData>(std::string(error.body))));
   }
 }
 
