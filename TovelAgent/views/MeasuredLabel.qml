@@ -21,5 +21,8 @@ Label {
         textFormat: label.textFormat
         text: label.text
         font: label.font
+        // An empty text that has none asks the input method for it, where Qt 6.4
+        // crashes on a Wayland desktop without a keyboard.
+        horizontalAlignment: Text.AlignLeft
     }
 }

@@ -75,8 +75,8 @@ def test_closed_window_and_a_new_one(launch, backend):
     # The first window's polling was never stopped, so there are two now.
     seen = len(backend.seen("status"))
     starts = lambda: [r.time for r in backend.seen("status")[seen:]]  # noqa: E731
-    until(lambda: len(starts()) == 5, "five more polls")
-    assert pollers(starts()) == 2
+    until(lambda: len(starts()) >= 5, "five more polls")
+    assert pollers(starts()[:5]) == 2
 
 
 def test_close_button_closes_only_the_window(launch):

@@ -31,7 +31,7 @@ def every_card_in_view(panel):
 
 
 def wait_for_cards(panel, **wanted):
-    until(lambda: cards(panel).items() >= wanted.items(), f"cards of {wanted}", timeout=60)
+    until(lambda: cards(panel).items() >= wanted.items(), f"cards of {wanted}")
 
 
 def test_many_short_records_are_counted_and_shown(panel):

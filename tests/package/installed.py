@@ -14,7 +14,7 @@ class InstalledPanel(Panel):
         super().__init__(*bare.INSIDE)
         # Behind bubblewrap and the launcher.
         self.pid = until(self._own_process, "the panel's process")
-        self.tree = Tree(self.pid)
+        self.tree = Tree(self.pid, self.ended)
 
     def _own_process(self):
         program = f"{bare.PROGRAMS}/quillmark-agent "

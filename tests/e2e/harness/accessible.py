@@ -78,15 +78,18 @@ def _item(told):
 
 
 class Tree:
-    """The windows of one process; only what is showing."""
+    """The windows of one process; only what is showing. `ended` tells whether
+    the process has, to wait for nothing then."""
 
-    def __init__(self, pid):
+    def __init__(self, pid, ended):
         self._pid = pid
+        self._ended = ended
         self._bus = atspi.Bus()
         self._root = None
 
     def read(self):
         def attempt():
+            assert not self._ended(), "the panel has ended"
             try:
                 self._root = self._root or self._bus.application(self._pid)
             except GLib.Error:

@@ -44,7 +44,7 @@ class Panel:
         hands.park()
         self.process = spawn(self._output, *prefix, **changes)
         self.pid = self.process.pid
-        self.tree = Tree(self.pid)
+        self.tree = Tree(self.pid, self.ended)
         Panel.running.append(self)
 
     def opened(self):

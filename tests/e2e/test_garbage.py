@@ -1,0 +1,33 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Garbage is collected at every occasion, which otherwise is a matter of chance."""
+
+import pytest
+
+from harness import picker, settings
+
+pytestmark = pytest.mark.usefixtures("token", "clean_home")
+
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+
+
+def test_tabs_settings_and_windows(launch, backend):
+    panel = launch(QV4_MM_AGGRESSIVE_GC="1")
+    for tab in TABS:
+        panel.show(tab)
+    settings.fill(panel, settings.KEY, "key")
+    settings.press(panel, settings.SAVE)
+    settings.wait_for_message(panel, settings.SAVED)
+    with picker.opened(panel):
+        pass
+    panel.close()
+    panel.launch_again()
+    # The agent goes and comes back: other rows, icons and colours.
+    backend.stop()
+    panel.tree.wait_for("text", "OFFLINE")
+    for tab in TABS:
+        panel.show(tab)
+    backend.start()
+    panel.tree.wait_for("text", "OK")
+    for tab in TABS:
+        panel.show(tab)
