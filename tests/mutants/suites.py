@@ -54,7 +54,7 @@ TABLE = [
     ("*/model/*", [program("model/model_tests")]),
     ("*/client/*", [program("client/client_tests"), program("client/client_as_user_tests")]),
     ("*/agentctl/* */platform/*", [program("agentctl/agentctl_tests", "agentctl_driver")]),
-    ("*procfs/*", [program("sample-agent/sample_agent_tests")]),
+    ("*procfs/*", [program("procfs/procfs_tests")]),
     ("*/viewmodel/*", [program("viewmodel/quillmark_viewmodel_test",
                                "quillmark_format_date_program")]),
     ("*/viewmodel/Dashboard* */viewmodel/*List* */client/*",

@@ -15,9 +15,6 @@ ViewTest {
     readonly property DashboardViewModel viewModel: keptReference?.viewModel ?? null
     property DashboardViewModelRef keptReference: null
 
-    // Far more than any poll takes.
-    readonly property int patience: 60000
-
     function setUp() {
         testBackend.recover();
         // The view model outlives the views that show it.

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtTest
+import Quillmark.Tests
 
 /// A test of built views: fails on any warning, and finds what is in a view.
 /// Only what can be seen is found.
@@ -13,6 +14,8 @@ TestCase {
     height: 700
     visible: true
     when: windowShown
+
+    readonly property int patience: TestPatience.milliseconds
 
     function init() {
         failOnWarning(/.?/);

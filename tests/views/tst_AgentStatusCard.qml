@@ -44,7 +44,7 @@ SettingsCardTest {
         tryVerify(() => {
             settings.appear();
             return settings.isAgentRunning;
-        }, 60000);
+        }, patience);
         settle(view);
         compareStatus(view, "Agent is running", Theme.green);
     }

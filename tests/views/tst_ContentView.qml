@@ -87,7 +87,7 @@ PolledViewTest {
     function test_onlyTheSelectedTabExists(data) {
         const view = content();
         view.selectedTab = data.tag;
-        tryVerify(() => tabViewsIn(view).length === 1);
+        tryVerify(() => tabViewsIn(view).length === 1, patience);
         compare(tabViewsIn(view), [data.view]);
         compare(itemsOfType(view, "TabButton").filter(button => button.isActive).length, 1);
     }
@@ -99,7 +99,7 @@ PolledViewTest {
     function test_anUnknownTabIsEmpty(data) {
         const view = content();
         view.selectedTab = data.tag;
-        tryVerify(() => tabViewsIn(view).length === 0);
+        tryVerify(() => tabViewsIn(view).length === 0, patience);
         verify(itemOfType(view, "HeaderView"));
         const buttons = itemsOfType(view, "TabButton");
         compare(buttons.length, 5);

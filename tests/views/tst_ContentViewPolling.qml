@@ -100,7 +100,7 @@ PolledViewTest {
         destroyed.target = window.content.Component;
         window.close();
         window.destroy();
-        tryCompare(destroyed, "count", 1);
+        tryCompare(destroyed, "count", 1, patience);
     }
 
     Component {

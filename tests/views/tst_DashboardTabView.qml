@@ -122,7 +122,7 @@ PolledViewTest {
         view.forceActiveFocus(Qt.TabFocusReason);
         failEverything();
         poll();
-        tryVerify(() => view.contentHeight < view.height);
+        tryVerify(() => view.contentHeight < view.height, patience);
         verify(view.activeFocus);
     }
 

@@ -85,13 +85,13 @@ ViewTest {
     function test_wheelScrolls() {
         const view = list(1000);
         mouseWheel(view, 200, 150, 0, -120);
-        tryVerify(() => view.contentY > 0);
+        tryVerify(() => view.contentY > 0, patience);
     }
 
     function test_dragScrolls() {
         const view = list(1000);
         mouseDrag(view, 200, 250, 0, -200);
-        tryVerify(() => view.contentY > 0);
+        tryVerify(() => view.contentY > 0, patience);
     }
 
     function test_barCanBeDragged() {
@@ -99,7 +99,7 @@ ViewTest {
         const bar = itemOfType(view, "ScrollBar");
         compare(boxIn(bar, view).right, view.width);
         mouseDrag(bar, bar.width / 2, 5, 0, 150);
-        tryVerify(() => view.contentY > 10000);
+        tryVerify(() => view.contentY > 10000, patience);
     }
 
     function test_noBarWhenAllFits() {

@@ -149,7 +149,7 @@ ViewTest {
         for (let step = 1; step <= 6; ++step) {
             finger.move(0, view, 100, data.y - 10 * step).commit();
             // Moves between two frames are taken for one.
-            verify(waitForRendering(view, 60000));
+            verify(waitForRendering(view, patience));
         }
         finger.release(0, view, 100, data.y - 60).commit();
         compare(view.contentY > 0, data.scrolls);
@@ -159,7 +159,7 @@ ViewTest {
     function test_wheelOnAPressableScrollsThePage() {
         const view = page();
         mouseWheel(view, 100, 60, 0, -120);
-        tryVerify(() => view.contentY > 0);
+        tryVerify(() => view.contentY > 0, patience);
     }
 
     function test_keys_data() {
@@ -238,9 +238,9 @@ ViewTest {
     function test_hover() {
         const view = pressable();
         mouseMove(view, 10, 10);
-        tryVerify(() => view.hovered);
+        tryVerify(() => view.hovered, patience);
         mouseMove(view.parent, 300, 300);
-        tryVerify(() => !view.hovered);
+        tryVerify(() => !view.hovered, patience);
     }
 
     function test_accessible() {

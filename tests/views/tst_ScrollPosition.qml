@@ -102,7 +102,7 @@ PolledViewTest {
         const list = listAt(5000);
         answerRows(data.left, "LISTEN");
         pollAndSettle(list);
-        tryVerify(() => list.atYEnd);
+        tryVerify(() => list.atYEnd, patience);
         const last = list.itemAtIndex(data.left - 1);
         verify(last, "the last row is in view");
         compare(textsIn(last)[0], "127.0.0.1:" + (data.left - 1));

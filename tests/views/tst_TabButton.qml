@@ -78,10 +78,10 @@ ViewTest {
         const height = view.height;
         view.isActive = true;
         compare(underlinesOf(view).length, 1);
-        tryCompare(view, "height", height + 7);
+        tryCompare(view, "height", height + 7, patience);
         view.isActive = false;
         compare(underlinesOf(view).length, 0);
-        tryCompare(view, "height", height);
+        tryCompare(view, "height", height, patience);
     }
 
     function test_accessible() {

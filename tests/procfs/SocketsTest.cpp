@@ -7,25 +7,19 @@
 
 #include <gtest/gtest.h>
 
+#include "procfs/SampleSockets.h"
 #include "sample-agent/FixtureTree.h"
-#include "scan/Risk.h"
 
 namespace quillmark::sample {
 namespace {
 
 using test::FixtureTree;
+using test::tcpSocket;
+using test::udpSocket;
 
 constexpr auto heading =
     "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout "
     "inode\n";
-
-Socket tcpSocket(std::string address, std::uint16_t port, unsigned state = 0x0A) {
-  return {"tcp", Transport::tcp, {std::move(address), port}, {"0.0.0.0", 0}, state, 0};
-}
-
-Socket udpSocket(std::string address, std::uint16_t port, unsigned state = 0x07) {
-  return {"udp", Transport::udp, {std::move(address), port}, {"0.0.0.0", 0}, state, 0};
-}
 
 TEST(ReadSockets, ReadsTheKernelsTables) {
   const FixtureTree tree;
@@ -104,31 +98,6 @@ TEST(ReachOf, TellsLoopbackFromTheRest) {
   EXPECT_EQ(reach("::"), Reach::allInterfaces);
   EXPECT_EQ(reach("192.168.1.2"), Reach::oneAddress);
   EXPECT_EQ(reach("fe80::1"), Reach::oneAddress);
-}
-
-TEST(RiskLevel, IsHighForCleartextServicesOnAllInterfaces) {
-  constexpr std::uint16_t ports[] = {21, 23, 512, 513, 514};
-  for (const auto port : ports) {
-    EXPECT_EQ(riskLevel(tcpSocket("0.0.0.0", port)), "high") << port;
-    EXPECT_EQ(riskLevel(tcpSocket("::", port)), "high") << port;
-    EXPECT_EQ(riskLevel(tcpSocket("192.168.1.2", port)), "medium") << port;
-    EXPECT_EQ(riskLevel(tcpSocket("127.0.0.1", port)), "low") << port;
-    EXPECT_EQ(riskLevel(tcpSocket("0.0.0.0", port, 0x01)), "low") << "not a listener: " << port;
-  }
-}
-
-TEST(RiskLevel, IsMediumForOtherListenersOnAllInterfaces) {
-  EXPECT_EQ(riskLevel(tcpSocket("0.0.0.0", 22)), "medium");
-  EXPECT_EQ(riskLevel(tcpSocket("::", 80)), "medium");
-  EXPECT_EQ(riskLevel(udpSocket("0.0.0.0", 5353)), "medium");
-  EXPECT_EQ(riskLevel(udpSocket("0.0.0.0", 514)), "medium") << "the ports are those of TCP";
-}
-
-TEST(RiskLevel, IsLowForEverythingElse) {
-  EXPECT_EQ(riskLevel(tcpSocket("127.0.0.1", 22)), "low");
-  EXPECT_EQ(riskLevel(tcpSocket("192.168.1.2", 22)), "low");
-  EXPECT_EQ(riskLevel(tcpSocket("192.168.1.2", 50000, 0x01)), "low");
-  EXPECT_EQ(riskLevel(udpSocket("0.0.0.0", 68, 0x01)), "low");
 }
 
 }  // namespace
