@@ -149,7 +149,7 @@ TEST(ReadProcesses, FindsThisProcessAndItsSocket) {
   ASSERT_NE(self, processes.end());
   EXPECT_EQ(self->parent, getppid());
   EXPECT_EQ(self->session, getsid(0));
-  EXPECT_NE(self->executable.find("sample_agent_tests"), std::string::npos);
+  EXPECT_NE(self->executable.find("procfs_tests"), std::string::npos);
   const auto owners = socketOwners(processes);
   const auto owner = owners.find(status.st_ino);
   ASSERT_NE(owner, owners.end());
