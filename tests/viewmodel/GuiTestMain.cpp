@@ -46,7 +46,8 @@ KeptWarnings::~KeptWarnings() {
 }
 
 bool waitUntil(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition, static_cast<int>(std::chrono::milliseconds(patience()).count()));
+  return QTest::qWaitFor(condition,
+                         static_cast<int>(std::chrono::milliseconds(patience()).count()));
 }
 
 }  // namespace quillmark::test

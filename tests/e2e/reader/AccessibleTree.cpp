@@ -8,7 +8,6 @@
 // it went away meanwhile. What lies below something hidden is not read. In C++,
 // because most of a test's time went into doing this in Python.
 
-#include <array>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -72,8 +71,8 @@ class Questions final {
 
   [[nodiscard]] QDBusMessage call(const char* interface, const char* method,
                                   const QVariantList& arguments = {}) const {
-    auto message = QDBusMessage::createMethodCall(
-        node_.bus, node_.path, QLatin1String(interface), QLatin1String(method));
+    auto message = QDBusMessage::createMethodCall(node_.bus, node_.path, QLatin1String(interface),
+                                                  QLatin1String(method));
     message.setArguments(arguments);
     return message;
   }

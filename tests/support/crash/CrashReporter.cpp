@@ -51,8 +51,8 @@ class Text final {
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
   Text path;
-  path << std::getenv("QUILLMARK_CRASH_FOLDER") << "/crash-" << program_invocation_short_name
-       << "-" << now.tv_sec << "-" << now.tv_nsec << ".txt";
+  path << std::getenv("QUILLMARK_CRASH_FOLDER") << "/crash-" << program_invocation_short_name << "-"
+       << now.tv_sec << "-" << now.tv_nsec << ".txt";
   const int file = open(path.get(), O_WRONLY | O_CREAT | O_EXCL, 0644);
   dup2(file, STDOUT_FILENO);
   dup2(file, STDERR_FILENO);
