@@ -8,14 +8,14 @@ import subprocess
 from pathlib import Path
 
 BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
-CRASHER = BUILD / "tests/support/crash_reporter_crasher"
+PROGRAM = BUILD / "tests/support/crashing_program"
 
 
 def test_a_crash_leaves_a_stack_with_names(tmp_path):
     environment = os.environ | {"QUILLMARK_CRASH_FOLDER": str(tmp_path)}
-    done = subprocess.run([CRASHER], env=environment, check=False)
+    done = subprocess.run([PROGRAM], env=environment, check=False)
     assert done.returncode == -signal.SIGSEGV
-    (report,) = tmp_path.glob("crash-crash_reporter_crasher-*.txt")
+    (report,) = tmp_path.glob("crash-crashing_program-*.txt")
     text = report.read_text()
     assert "readThrough" in text
     assert "main" in text
@@ -23,7 +23,7 @@ def test_a_crash_leaves_a_stack_with_names(tmp_path):
 
 def test_no_crash_leaves_nothing(tmp_path):
     environment = os.environ | {"QUILLMARK_CRASH_FOLDER": str(tmp_path)}
-    assert subprocess.run([CRASHER, "well"], env=environment, check=False).returncode == 2
+    assert subprocess.run([PROGRAM, "well"], env=environment, check=False).returncode == 2
     assert not list(tmp_path.iterdir())
 
 
