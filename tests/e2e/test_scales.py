@@ -8,7 +8,7 @@ from harness import colours, hands
 from harness.layout import assert_uncut
 from harness.screen import BUILD, Picture, save
 from harness.waiting import until
-from harness.window import tool
+from harness.window import Box, tool
 
 TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 SCREEN = (3100, 2200)
@@ -52,10 +52,8 @@ def test_texts_of_double_size(launch, environment, resource):
 def bar(window, known):
     """Where a long line of solid blue begins that was not known yet."""
     picture = Picture()
-    length = 60
     for y in range(window.y + window.height // 8, window.y + window.height // 3):
-        row = [picture.pixel(x, y) == colours.BLUE for x in range(window.x, window.right)]
-        for x in range(len(row) - length):
-            if all(row[x:x + length]):
-                return x not in known and x
+        row = Box(window.x, y, window.width, 1)
+        if (x := picture.find(colours.BLUE, row, length=60)) is not None:
+            return x not in known and x
     return None

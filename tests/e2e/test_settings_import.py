@@ -32,11 +32,10 @@ def test_dialog_says_what_it_is_for(tab):
         assert {"Import", "Cancel"} <= {b.name for b in dialog.every("button")}
 
 
-@pytest.mark.parametrize("press", ["space", "Return"])
-def test_cancelled_by_escape_nothing_changes(tab, press):
+def test_cancelled_by_escape_nothing_changes(tab):
     settings.write_config("[agent]\n")
     settings.fill(tab, settings.KEY, "typed")
-    with picker.opened(tab, press):
+    with picker.opened(tab, "Return"):
         pass
     assert settings.message(tab) == "" and not chosen(tab)
     assert settings.field(tab, settings.KEY) == "●" * 5
@@ -82,14 +81,12 @@ def failing(tmp_path, name):
     path = tmp_path / f"{name}.toml"
     if name == "binary":
         path.write_bytes(b"[agent]\n\xff\xfe")
-    elif name == "huge":
-        path.write_bytes(b"[agent]\n" + b"#" * (64 << 20))
     else:
         path.write_text("[AGENT]\n[ agent ]\n")
     return path
 
 
-@pytest.mark.parametrize("name", ["section", "binary", "huge"])
+@pytest.mark.parametrize("name", ["section", "binary"])
 def test_refused_file_leaves_the_old_configuration(tab, tmp_path, name):
     settings.write_config("[agent]\nold = 1\n")
     path = failing(tmp_path, name)

@@ -9,7 +9,8 @@ from harness.screen import BUILD, save
 from harness.waiting import until
 
 SCREEN = (3300, 2300)
-SIZES = ((1000, 700), (1600, 1100))
+SMALL = (1000, 700)
+LARGE = (1600, 1100)
 
 pytestmark = pytest.mark.usefixtures("fresh_home", "token")
 
@@ -25,8 +26,9 @@ def assert_uncut(panel):
             assert above.box.bottom <= below.box.y or above.box.right <= below.box.x
 
 
-@pytest.mark.parametrize("size", SIZES, ids=lambda size: "x".join(map(str, size)))
-@pytest.mark.parametrize("scale", ["1", "1.5", "2"])
+@pytest.mark.parametrize("scale, size", [
+    ("1", SMALL), ("1", LARGE), ("1.5", SMALL), ("2", LARGE),
+], ids=lambda value: value if isinstance(value, str) else f"{value[0]}x{value[1]}")
 def test_pictures(launch, scale, size):
     panel = launch(QT_SCALE_FACTOR=scale)
     pixels = [round(length * float(scale)) for length in size]
@@ -45,5 +47,5 @@ def test_pictures(launch, scale, size):
         settings.bring_into_view(panel, "text", goal)
         hands.park()
         assert_uncut(panel)
-        if part == "" or size == SIZES[0]:
+        if part == "" or size == SMALL:
             save(BUILD / "pictures" / f"{name}{part}.png", panel.window.box)

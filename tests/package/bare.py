@@ -7,6 +7,7 @@ import subprocess
 from pathlib import Path
 
 from gi.repository import GLib
+from patience import PATIENCE
 
 ROOT = Path(os.environ["QUILLMARK_BUILD_DIR"]) / "bare" / "root"
 PROGRAMS = "/usr/lib/quillmark-agent/QuillmarkAgent.app/Contents/MacOS"
@@ -16,6 +17,8 @@ PROGRAMS = "/usr/lib/quillmark-agent/QuillmarkAgent.app/Contents/MacOS"
 INSIDE = [
     "bwrap", "--ro-bind", str(ROOT), "/", "--dev", "/dev", "--proc", "/proc",
     "--bind", "/tmp", "/tmp", "--bind", "/run", "/run",
+    # What tells of crashes is no part of the bare system.
+    "--unsetenv", "LD_PRELOAD",
     "--chdir", os.environ["HOME"], "--die-with-parent", "--",
 ]
 
@@ -46,4 +49,4 @@ def commands():
 
 
 def run(*command):
-    return subprocess.run([*INSIDE, *command], capture_output=True, text=True, timeout=60)
+    return subprocess.run([*INSIDE, *command], capture_output=True, text=True, timeout=PATIENCE)

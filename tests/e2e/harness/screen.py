@@ -3,6 +3,7 @@
 """Pictures of the screen and what their pixels say."""
 
 import os
+import re
 import subprocess
 from pathlib import Path
 
@@ -45,6 +46,14 @@ class Picture:
             row = pixels.BYTES * (y * self._width + box.x)
             line = self._data[row:row + pixels.BYTES * box.width]
             yield from zip(line[2::pixels.BYTES], line[1::pixels.BYTES], line[::pixels.BYTES])
+
+    def find(self, colour, row, length):
+        """Where in a box of one row a run of so many pixels of the colour begins."""
+        start = pixels.BYTES * (row.y * self._width + row.x)
+        line = self._data[start:start + pixels.BYTES * row.width]
+        pixel = re.escape(bytes(reversed(colour))) + b"."
+        found = re.search(b"(?:%s){%d}" % (pixel, length), line, re.DOTALL)
+        return found and found.start() // pixels.BYTES
 
     def count(self, colour, box):
         return sum(pixel == colour for pixel in self.pixels(box))
