@@ -81,7 +81,7 @@ TABLE = [
     ("*/*Dashboard* */*Stats* */*Agent*Card*", panel("dashboard")),
     ("*/viewmodel/Dashboard*", panel("polling", "clock", "answers")),
     ("*/*Status* */*Header* */FormatDate*", panel("header", "time_zone")),
-    ("*/*List* */*Scroll* */*Text* */*Label*",
+    ("*/[cv]*/*List* */[cv]*/*Scroll* */[cv]*/*Text* */[cv]*/*Label*",
      panel("long_list", "row_lines", "hostile_text", "settings_scroll")),
     ("*/*Box* */*Ring* */*Shadow* */*Icon* */Theme.qml",
      panel("look", "focus_ring", "boxes", "contrast")),
