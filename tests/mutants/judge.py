@@ -8,7 +8,7 @@ from dataclasses import dataclass
 from . import suites
 
 PATIENCE = 10  # times as long as a test took when it passed
-SHORTEST, LONGEST = 60, 900  # seconds; the latter for a test that has not passed yet
+SHORTEST, LONGEST = 60, 600  # seconds; the latter for a test that has not passed yet
 
 KILLED, TIMED_OUT, SURVIVED, NOT_BUILT = "killed", "timed out", "survived", "not built"
 

@@ -54,12 +54,14 @@ TABLE = [
     ("*/model/*", [program("model/model_tests")]),
     ("*/client/*", [program("client/client_tests"), program("client/client_as_user_tests")]),
     ("*/agentctl/* */platform/*", [program("agentctl/agentctl_tests", "agentctl_driver")]),
+    ("*/agentctl/*", [program("agentctl/quillmark_settings_test", "agentctl_driver")]),
     ("*procfs/*", [program("procfs/procfs_tests")]),
     ("*/viewmodel/*", [program("viewmodel/quillmark_viewmodel_test",
                                "quillmark_format_date_program")]),
     ("*/viewmodel/Dashboard* */viewmodel/*List* */client/*",
      [program("viewmodel/quillmark_dashboard_test")]),
-    ("*/viewmodel/Dashboard*", [program("viewmodel/quillmark_poll_timer_test")]),
+    ("*/viewmodel/Dashboard*", [program("viewmodel/quillmark_poll_timer_test"),
+                               program("viewmodel/quillmark_poll_memory_test")]),
     ("*/views/* */controls/*", [program("views/quillmark_view_support_test"),
                                 program("views/quillmark_icon_scale_test")]),
     ("*/main/*", [program("main/quillmark_main_test", "quillmark_renderer_program")]),
@@ -72,18 +74,19 @@ TABLE = [
      panel("settings_layout", "settings_form", "settings_save", "settings_readback",
            "settings_import", "settings_picker", "settings_secret", "settings_agent",
            "settings_homes", "settings_scroll", "settings_way")),
-    ("*/agentctl/AgentProcess* */platform/ChildProcess*", panel("agent_trouble")),
+    ("*/agentctl/AgentProcess* */platform/ChildProcess*", panel("agent_trouble", "settings_failures")),
     ("*/*Alert*", panel("alerts")),
     ("*/*App* */*Inventory*", panel("inventory")),
     ("*/*Connection* */*Network*", panel("network", "hostile_text")),
     ("*/*Dashboard* */*Stats* */*Agent*Card*", panel("dashboard")),
     ("*/viewmodel/Dashboard*", panel("polling", "clock", "answers")),
     ("*/*Status* */*Header* */FormatDate*", panel("header", "time_zone")),
-    ("*/*List* */*Scroll* */*Text* */*Label*",
+    ("*/[cv]*/*List* */[cv]*/*Scroll* */[cv]*/*Text* */[cv]*/*Label*",
      panel("long_list", "row_lines", "hostile_text", "settings_scroll")),
     ("*/*Box* */*Ring* */*Shadow* */*Icon* */Theme.qml",
      panel("look", "focus_ring", "boxes", "contrast")),
-    ("*/*Focus* */*Pressable* */*Button* */*Tab*", panel("access", "tabs", "focus_ring")),
+    ("*/*Focus* */*Pressable* */*Button* */*Click* */*Tab*",
+     panel("access", "clicks", "tabs", "focus_ring")),
     ("*/views/* */controls/*", panel("look", "tabs", "access", "accessibility", "contrast")),
     ("*/main/*", panel("command_line", "window", "lifecycle", "signals", "bare_display",
                        "small_screen", "many_windows", "lost_bus", "close_after_dialog",
@@ -98,7 +101,7 @@ TABLE = [
 
 
 def of(file):
-    """Each once."""
+    """The tests of a source, each once; a view's own comes first."""
     tests = []
     if (Path(__file__).parents[1] / "views" / f"tst_{Path(file).name}").exists():
         tests.append(views(f"tst_{Path(file).name}"))
