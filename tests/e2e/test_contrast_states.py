@@ -9,6 +9,7 @@ import pytest
 from harness import bodies, colours, hands, large, settings
 from harness.contrast import inked
 from harness.large import drawn
+from harness.panel import Panel
 from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
 from harness.waiting import until
 from harness.window import Box
@@ -20,11 +21,20 @@ SCREEN = large.SCREEN
 pytestmark = pytest.mark.usefixtures("clean_home", "token")
 
 
+@pytest.fixture(scope="module")
+def large_panel(display, token, backend):
+    panel = Panel(QT_SCALE_FACTOR=str(large.SCALE)).opened()
+    large.resize(panel.window, *large.SIZE)
+    yield panel
+    panel.finish()
+
+
 @pytest.fixture
-def form(launch_large):
-    panel = launch_large()
-    panel.show("Settings")
-    return panel
+def form(large_panel):
+    """A tab that begins anew."""
+    large_panel.show("Alerts")
+    large_panel.show("Settings")
+    return large_panel
 
 
 def ratio(panel, which):
@@ -80,10 +90,11 @@ def test_marked_text(form, which):
     assert inked(pixels) >= TEXT
 
 
-def test_scroll_bar(launch_large, backend):
+def test_scroll_bar(large_panel, backend):
+    panel = large_panel
     backend.reply(inventory=bodies.inventory(*[bodies.app(f"App {n}") for n in range(50)]))
-    panel = launch_large()
     panel.show("Inventory")
+    panel.tree.wait_for("text", "App 0")
     hands.park()
     rows = drawn(panel.tree.wait_for("list", "Installed applications").box)
     # Where rows have no text: their ground, and the bar's upper part on it.

@@ -45,7 +45,7 @@ def test_all_files_if_asked_for(panel):
 def test_the_chosen_row_can_be_read(panel):
     with picker.opened(panel):
         hands.park()
-        row = panel.focus()
+        row = picker.chosen_row(panel)
         ground = Picture().pixel(row.box.right - 4, row.box.y + 4)
         shades = Picture().colours(row.find("text", "a.txt").box)
         assert max(contrast(shade, ground) for shade in shades) >= 4.5

@@ -88,16 +88,24 @@ class Tree:
         self._root = None
 
     def read(self):
+        return _item(self._ask(self._bus.tree))
+
+    def focus(self):
+        """What has the focus, innermost last, without what lies below it."""
+        return [_item(told) for told in self._ask(self._bus.focus)]
+
+    def _ask(self, question):
         def attempt():
             assert not self._ended(), "the panel has ended"
             try:
                 self._root = self._root or self._bus.application(self._pid)
             except GLib.Error:
                 return None  # Some program went away half-way; look again.
-            told = self._root and self._bus.tree(self._root)
-            return told and _item(told)
+            told = self._root and question(self._root)
+            return None if told is None else (told,)
 
-        return until(attempt, "the panel in the accessibility tree")
+        (told,) = until(attempt, "the panel in the accessibility tree")
+        return told
 
     def find(self, role, name):
         return self.read().find(role, name)

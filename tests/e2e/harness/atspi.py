@@ -62,14 +62,23 @@ class Bus:
         return next((app for app, (owner,) in zip(known, owners) if owner == pid), None)
 
     def tree(self, node):
-        """The node with all that shows below it; nothing if it changed meanwhile.
-        What is announced until then has been heard."""
-        self._reader.stdin.write(" ".join(node) + "\n")
+        """The node with all that shows below it; nothing if it changed meanwhile."""
+        told = self._read("tree", node)
+        return told and told[0]
+
+    def focus(self, node):
+        """What has the focus below the node, innermost last; nothing if the tree
+        changed meanwhile."""
+        return self._read("focus", node)
+
+    def _read(self, what, node):
+        """What is announced until then has been heard."""
+        self._reader.stdin.write(" ".join((what, *node)) + "\n")
         line = self._reader.stdout.readline()
         assert line, "the reader of accessible trees has ended"
         while GLib.MainContext.default().pending():
             GLib.MainContext.default().iteration(False)
-        return json.loads(line)[0] if line.strip() else None
+        return json.loads(line) if line.strip() else None
 
     def text(self, node):
         return self._ask([(node, (TEXT, "GetText", WHOLE))])[0][0]

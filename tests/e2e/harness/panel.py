@@ -95,7 +95,7 @@ class Panel:
 
     def focus(self):
         """What has the keyboard, below the window itself; innermost."""
-        focused = [i for i in self.tree.read().walk() if "focused" in i.states]
+        focused = self.tree.focus()
         return focused[-1] if focused and focused[-1].role != "window" else None
 
     def close(self):

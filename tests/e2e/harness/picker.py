@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The open dialog, used without a pointer."""
+"""The open dialog, used by keyboard once it is open."""
 
 import contextlib
 
@@ -14,16 +14,19 @@ def shown(panel):
     return panel.tree.find("dialog", TITLE)
 
 
-def bring_up(panel, key="space"):
-    panel.press_until_focused(*settings.BROWSE)
-    hands.key(key)
+def bring_up(panel, key=None):
+    if key:
+        panel.press_until_focused(*settings.BROWSE)
+        hands.key(key)
+    else:
+        settings.press(panel, settings.BROWSE)
     until(lambda: shown(panel), "the dialog")
     until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the keyboard")
     return shown(panel)
 
 
 @contextlib.contextmanager
-def opened(panel, key="space"):
+def opened(panel, key=None):
     """Open for a while, then cancelled."""
     try:
         yield bring_up(panel, key)
@@ -44,14 +47,18 @@ def choose(panel, path):
     panel.tree.wait_without("dialog", TITLE)
 
 
+def chosen_row(panel):
+    return next(r for r in panel.tree.read().every("row") if "focused" in r.states)
+
+
 def pick(panel, path):
     """By walking down the list of its folder, where the dialog opens."""
     bring_up(panel)
     for _ in range(10):
-        row = panel.focus()
+        row = chosen_row(panel)
         if row.find("text", path.name):
             break
         hands.key("Down")
-        until(lambda: panel.focus() != row, "the next row")
+        until(lambda: chosen_row(panel) != row, "the next row")
     hands.key("Return")
     panel.tree.wait_without("dialog", TITLE)
