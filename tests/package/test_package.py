@@ -15,8 +15,6 @@ from harness.screen import BUILD, save
 from harness.waiting import until
 
 TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
-# Longer than the probe waits after Start Agent, and than a scan of a whole system.
-SLOW = 30
 
 
 def take(panel, name):
@@ -67,7 +65,7 @@ def start_agent(panel):
     panel.show("Settings")
     panel.tree.wait_for("text", settings.NOT_RUNNING)
     settings.press(panel, settings.START)
-    panel.tree.wait_for("text", settings.RUNNING, SLOW)
+    panel.tree.wait_for("text", settings.RUNNING)
     until(tokens.HOME.exists, "the agent's token")
 
 
@@ -82,7 +80,7 @@ def test_first_day(start):
     panel.finish()
 
     panel = start()
-    panel.tree.wait_for("text", "OK", SLOW)
+    panel.tree.wait_for("text", "OK")
     for tab in TABS:
         panel.show(tab)
         if tab == "Dashboard":
@@ -96,7 +94,7 @@ def test_first_day(start):
 
     settings.bring_into_view(panel, *settings.STOP)
     settings.press(panel, settings.STOP)
-    panel.tree.wait_for("text", settings.NOT_RUNNING, SLOW)
+    panel.tree.wait_for("text", settings.NOT_RUNNING)
     assert not panel.ended()
 
 
