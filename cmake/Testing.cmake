@@ -9,14 +9,14 @@ include_guard(GLOBAL)
 # test-results/<name>.xml, for the closing count. Whoever calls ctest with a
 # preset runs the cases.
 #
-# `test` gives ctest four places for each core. A test that computes takes all
-# four, one that waits for a panel most of the time takes one or two. The time a
+# `test` gives ctest six places for each core. A test that computes takes them
+# all, one that waits for a panel most of the time takes one or two. The time a
 # test may take is one for all and stands in `test`: it ends what hangs.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
-set(QUILLMARK_PLACES_OF_A_CORE 4)
+set(QUILLMARK_PLACES_OF_A_CORE 6)
 set(QUILLMARK_SANDBOX "${PROJECT_SOURCE_DIR}/tests/support/sandbox")
 set(QUILLMARK_TEST_RESULTS "${CMAKE_BINARY_DIR}/test-results")
 file(MAKE_DIRECTORY "${QUILLMARK_TEST_RESULTS}")
