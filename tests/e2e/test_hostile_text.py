@@ -7,7 +7,6 @@ import pytest
 from harness import bodies
 from harness.backend import ENDPOINTS
 from harness.lists import listed, read_through
-from harness.waiting import until
 
 pytestmark = pytest.mark.usefixtures("token")
 

@@ -126,7 +126,7 @@ void Backend::serve(tcp::socket& socket) {
   const auto size = asio::read_until(socket, buffer, "\r\n\r\n", error);
   if (!error) {
     const auto* const first = static_cast<const char*>(buffer.data().data());
-    ReceivedRequest request{std::chrono::steady_clock::now(), std::string(first, size)};
+    ReceivedRequest request{std::string(first, size)};
     {
       const std::lock_guard lock(mutex_);
       requests_.push_back(request);

@@ -22,7 +22,6 @@ namespace quillmark::test {
 
 /// A request as it came in, byte for byte.
 struct ReceivedRequest {
-  std::chrono::steady_clock::time_point at;
   std::string text;  ///< request line and header, as sent
 
   [[nodiscard]] std::string target() const;

@@ -18,12 +18,9 @@ READER = BUILD / "tests/e2e/accessible_tree"
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 PROPERTIES = "org.freedesktop.DBus.Properties"
-COMPONENT = "org.a11y.atspi.Component"
 ACTION = "org.a11y.atspi.Action"
 TEXT = "org.a11y.atspi.Text"
 VALUE = "org.a11y.atspi.Value"
-SCREEN = GLib.Variant("(u)", (0,))
-NAME = GLib.Variant("(ss)", (ACCESSIBLE, "Name"))
 WHOLE = GLib.Variant("(ii)", (0, -1))
 
 

@@ -5,6 +5,7 @@
 // each thread in the folder that QUILLMARK_CRASH_FOLDER names. A core dump would
 // not do: the panel forbids its own, and the machine decides where one goes.
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
