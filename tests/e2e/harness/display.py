@@ -5,6 +5,7 @@
 import os
 import subprocess
 
+from . import pixels
 from .waiting import until
 
 
@@ -27,6 +28,7 @@ class Display:
             until(self._managed, "the window manager")
 
     def stop(self):
+        pixels.close()
         for process in filter(None, (self._manager, self._server)):
             process.terminate()
             process.wait()

@@ -4,18 +4,19 @@
 
 import os
 import re
-import subprocess
+import struct
+import zlib
 from pathlib import Path
 
 from . import pixels
 from .waiting import until
+from .window import Box
 
 BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
 
 
 def save(path, box=None):
-    crop = ["-crop", f"{box.width}x{box.height}+{box.x}+{box.y}", "+repage"] if box else []
-    subprocess.run(["import", "-silent", "-window", "root", *crop, str(path)], check=True)
+    Picture().save(path, box)
 
 
 class Picture:
@@ -32,6 +33,26 @@ class Picture:
             return len(taken) > 2 and len({p.whole() for p in taken[-3:]}) == 1 and taken[-1]
 
         return until(still, "the screen to come to rest", step=0.15)
+
+    def save(self, path, box=None):
+        """As PNG: the whole screen, or what lies in the box."""
+        box = box or Box(0, 0, self._width, len(self._data) // pixels.BYTES // self._width)
+        lines = bytearray()
+        for y in range(box.y, box.bottom):
+            at = pixels.BYTES * (y * self._width + box.x)
+            line = self._data[at:at + pixels.BYTES * box.width]
+            colours = bytearray(3 * box.width)
+            for channel in range(3):
+                colours[channel::3] = line[2 - channel::pixels.BYTES]
+            lines += b"\0" + colours
+
+        def chunk(name, content):
+            check = struct.pack(">I", zlib.crc32(name + content))
+            return struct.pack(">I", len(content)) + name + content + check
+
+        header = struct.pack(">IIBBBBB", box.width, box.height, 8, 2, 0, 0, 0)
+        Path(path).write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
+                               + chunk(b"IDAT", zlib.compress(lines, 1)) + chunk(b"IEND", b""))
 
     def whole(self):
         """For comparing with another."""
