@@ -165,7 +165,13 @@ while True:
 def listens(pid):
     rows = [row.split() for row in Path("/proc/net/tcp").read_text().splitlines()[1:]]
     inodes = {f"socket:[{row[9]}]" for row in rows if row[1].endswith(":1E8F") and row[3] == "0A"}
-    return any(os.readlink(each) in inodes for each in Path(f"/proc/{pid}/fd").iterdir())
+    return any(_target(each) in inodes for each in Path(f"/proc/{pid}/fd").iterdir())
+
+
+def _target(link):
+    """Nothing if it is gone meanwhile: the program may close what it opened."""
+    with contextlib.suppress(FileNotFoundError):
+        return os.readlink(link)
 
 
 def bundle_at(folder):
