@@ -101,7 +101,7 @@ def test_settings(sight):
     sight.assert_even(tree.find(*settings.SAVE).box, corner=11, margin=3)
     sight.assert_even(tree.find(*settings.KEY).box, corner=5, margin=2)
     # Not at rest: the cursor blinks.
-    field = panel.press_until_focused(*settings.KEY)
+    field = panel.focus_on(*settings.KEY)
     sight.assert_even(field.box, corner=5, margin=2, colour=colours.BLUE)
     button = panel.press_until_focused(*settings.START, key="shift+Tab")
     sight.assert_even(button.box, corner=11, margin=6, colour=colours.BLUE)

@@ -75,7 +75,7 @@ def inner(field):
 
 
 def test_hint_of_a_focused_field(form):
-    field = form.press_until_focused(*KEY)
+    field = form.focus_on(*KEY)
     hands.park()
     assert inked(large.picture().pixels(inner(field))) >= TEXT
 

@@ -68,7 +68,7 @@ def test_round_every_control(panel, tab):
     if tab == "Settings":
         # Only with a key can it be saved.
         settings.fill(panel, settings.KEY, "k")
-    panel.press_until_focused("button", "Close")
+    panel.focus_on("button", "Close")
     hands.park()
     Picture.settled()
     seen = []
@@ -87,7 +87,7 @@ def test_round_every_control(panel, tab):
 def test_round_a_page_that_scrolls(panel, tab):
     resize(panel, 700)
     panel.show(tab)
-    panel.press_until_focused("button", "Close")
+    panel.focus_on("button", "Close")
     hands.park()
     before = Picture.settled()
     check(before, panel.press_until_focused("group", tab))

@@ -46,7 +46,7 @@ def test_shown_scrolled_and_replaced(panel, backend):
 def test_shrunk_while_scrolled_to_its_end(panel, backend):
     panel.show("Network")
     panel.tree.wait_for("list", LIST)
-    panel.press_until_focused("list", LIST)
+    panel.focus_on("list", LIST)
     hands.key("End")
     until(lambda: names(panel, LIST)[-1].startswith(f"127.0.0.1:{COUNT - 1},"), "the end")
     backend.reply(network=connections("THIRD", count=100))

@@ -48,5 +48,6 @@ def test_leave_no_trace_when_rows_shrink(panel, backend):
     before = Picture.settled()
     for bodies_sent, told in (LONG, "many words " * 1000), (SHORT, "Alert 0"):
         backend.reply(alerts=bodies_sent)
+        backend.wait_for_poll()
         panel.tree.wait_for("text", told)
     assert Picture.settled().whole() == before.whole()

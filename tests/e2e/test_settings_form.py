@@ -24,7 +24,7 @@ def test_first_display_without_a_configuration(tab):
 
 
 def test_one_character_enables_and_none_disables(tab):
-    tab.press_until_focused(*KEY)
+    tab.focus_on(*KEY)
     hands.write("k")
     settings.assert_save_is(tab, enabled=True)
     hands.key("BackSpace")
@@ -35,10 +35,10 @@ def test_one_character_enables_and_none_disables(tab):
 
 
 def test_disabled_button_cannot_be_focused_clicked_or_pressed(tab):
-    tab.press_until_focused(*KEY)
+    tab.focus_on(*KEY)
     tab.press_until_focused(*settings.BROWSE, most=1)
     hands.click(tab.tree.find(*SAVE).box)
-    tab.press_until_focused(*KEY)
+    tab.focus_on(*KEY)
     tab.tree.press(tab.tree.find(*SAVE))
     hands.write("k")
     settings.assert_save_is(tab, enabled=True)

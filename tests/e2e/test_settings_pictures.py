@@ -41,7 +41,7 @@ def test_pictures(launch, scale, size):
     settings.fill(panel, settings.KEY, "0123456789abcdef")
     settings.press(panel, settings.SAVE)
     settings.bring_into_view(panel, "text", settings.SAVED)
-    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    panel.focus_on("tab", "Settings")
     name = f"settings-{scale}-{size[0]}x{size[1]}"
     for part, goal in (("", "Agent Status"), ("-end", "System-wide configuration")):
         settings.bring_into_view(panel, "text", goal)

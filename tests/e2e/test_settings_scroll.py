@@ -55,7 +55,7 @@ def test_wheel_reaches_all_cards(panel):
 
 @pytest.mark.parametrize("down, up", [("Down", "Up"), ("Next", "Prior"), ("End", "Home")])
 def test_keys_reach_all_cards(panel, down, up):
-    panel.press_until_focused("group", "Settings")
+    panel.focus_on("group", "Settings")
     seen = seen_on_the_way(panel, lambda: hands.key(down), LAST)
     assert down == "End" or seen == set(CARDS)
     seen_on_the_way(panel, lambda: hands.key(up), FIRST)
@@ -67,7 +67,7 @@ def test_keys_reach_all_cards(panel, down, up):
 ])
 def test_focus_stays_in_view(panel, key, order):
     settings.fill(panel, KEY, "k")
-    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    panel.focus_on("tab", "Settings")
     for control in order:
         panel.press_until_focused(*control, key=key)
         until(lambda: in_view(panel, control), f"{control} in view")

@@ -38,7 +38,7 @@ def assert_unspoken(panel):
 
 def test_typed(tab):
     heard = tab.tree.listen()
-    tab.press_until_focused(*KEY)
+    tab.focus_on(*KEY)
     for count, character in enumerate(SECRET, 1):
         hands.write(character)
         until(lambda: settings.field(tab, KEY) == "●" * count, f"{count} dots")
@@ -84,7 +84,7 @@ def test_read_back(tab):
 def drawn(panel, text):
     settings.fill(panel, KEY, text)
     # Without the focus there is no blinking cursor in the picture.
-    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    panel.focus_on("tab", "Settings")
     hands.park()
     box = panel.tree.find(*KEY).box
     return list(Picture().pixels(box))

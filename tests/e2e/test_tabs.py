@@ -62,7 +62,7 @@ def test_tab_key_reaches_every_tab(panel):
 
 
 def test_shift_tab_goes_back(panel):
-    panel.press_until_focused("tab", "Network")
+    panel.focus_on("tab", "Network")
     panel.press_until_focused("tab", "Dashboard", key="shift+Tab", most=1)
 
 
@@ -70,13 +70,13 @@ def test_shift_tab_goes_back(panel):
     ("Inventory", "space"), ("Alerts", "Return"), ("Network", "space"),
 ])
 def test_focused_tab_is_chosen_by(panel, tab, press):
-    panel.press_until_focused("tab", tab)
+    panel.focus_on("tab", tab)
     hands.key(press)
     shows_only(panel, tab)
 
 
 def test_arrows_move_between_tabs(panel):
-    panel.press_until_focused("tab", "Dashboard")
+    panel.focus_on("tab", "Dashboard")
     panel.press_until_focused("tab", "Inventory", key="Right", most=2)
     panel.press_until_focused("tab", "Network", key="Left", most=1)
 
@@ -86,7 +86,7 @@ def test_arrows_move_between_tabs(panel):
 ])
 def test_keys_in_the_tab_bar_choose(panel, press, tab):
     panel.show("Network")
-    panel.press_until_focused("tab", "Network")
+    panel.focus_on("tab", "Network")
     hands.key(press)
     shows_only(panel, tab)
     until(lambda: (panel.focus().role, panel.focus().name) == ("tab", tab), "the focus on it")
@@ -94,7 +94,7 @@ def test_keys_in_the_tab_bar_choose(panel, press, tab):
 
 def test_neighbouring_tabs_from_anywhere(panel):
     panel.show("Inventory")
-    panel.press_until_focused(*SIGNS["Inventory"])
+    panel.focus_on(*SIGNS["Inventory"])
     hands.key("ctrl+Next")
     shows_only(panel, "Alerts")
     hands.key("ctrl+Prior", "ctrl+Prior", "ctrl+Prior")
@@ -111,7 +111,7 @@ def test_other_keys_do_nothing(panel, backend, press):
     backend.wait_for_poll()
     asked = len(backend.seen("status"))
     hands.key(press)
-    panel.press_until_focused("tab", "Alerts")
+    panel.focus_on("tab", "Alerts")
     assert len(backend.seen("status")) - asked <= 1
     shows_only(panel, "Alerts")
     assert panel.tree.read().texts() == before.texts()
@@ -122,7 +122,7 @@ def test_click_gives_a_list_the_keyboard(panel, backend):
     backend.reply(network=bodies.network(*[bodies.connection(str(n)) for n in range(200)]))
     backend.wait_for_poll()
     panel.show("Network")
-    panel.press_until_focused("tab", "Network")
+    panel.focus_on("tab", "Network")
     found = panel.tree.wait_for("list", "Network connections")
     hands.click(found.box)
     until(lambda: panel.focus() and panel.focus().role == "list", "the list to have the keyboard")

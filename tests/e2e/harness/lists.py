@@ -21,7 +21,7 @@ def names(panel, name):
 
 def scroll(panel, name, key, times=1):
     """Presses a key in the list and waits until its rows have moved and settled."""
-    panel.press_until_focused("list", name)
+    panel.focus_on("list", name)
     before = listed(panel, name)[1]
     hands.key(key, times=times)
     until(lambda: listed(panel, name)[1] != before, f"{name} to scroll by {key}")
@@ -40,7 +40,7 @@ def settled(panel, name):
 
 def read_through(panel, name):
     """The names of all rows from first to last, paging down; they must differ."""
-    panel.press_until_focused("list", name)
+    panel.focus_on("list", name)
     hands.key("Home")
     seen = [row.name for row in settled(panel, name)]
     while True:

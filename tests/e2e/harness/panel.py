@@ -82,16 +82,29 @@ class Panel:
 
         return until(chosen, f"the tab {tab} to be active")
 
+    def focus_on(self, role, name):
+        """Gives it the keyboard as assistive technology does: at once."""
+        self.tree.act(self.tree.wait_for(role, name), "SetFocus")
+        return until(lambda: self._has_focus(self.focus(), role, name), f"the focus on {name!r}")
+
     def press_until_focused(self, role, name, key="Tab", most=40):
         """Walks the focus on as a keyboard user does."""
-        for presses in range(most + 1):
-            focus = self.focus()
-            if focus and (focus.role, focus.name) == (role, name):
-                return focus
-            if presses < most:
-                hands.key(key)
-                until(lambda: self.focus() != focus, "the focus to move on")
-        raise AssertionError(f"{key} does not reach {role} {name!r}")
+        focus = self.focus()
+        for _ in range(most):
+            if self._has_focus(focus, role, name):
+                break
+            hands.key(key)
+            (focus,) = until(lambda: self._moved_from(focus), "the focus to move on")
+        assert self._has_focus(focus, role, name), f"{key} does not reach {role} {name!r}"
+        return focus
+
+    @staticmethod
+    def _has_focus(focus, role, name):
+        return focus and (focus.role, focus.name) == (role, name) and focus
+
+    def _moved_from(self, last):
+        focus = self.focus()
+        return focus != last and (focus,)
 
     def focus(self):
         """What has the keyboard, below the window itself; innermost."""

@@ -16,7 +16,7 @@ def shown(panel):
 
 def bring_up(panel, key=None):
     if key:
-        panel.press_until_focused(*settings.BROWSE)
+        settings.focus_on(panel, settings.BROWSE)
         hands.key(key)
     else:
         settings.press(panel, settings.BROWSE)

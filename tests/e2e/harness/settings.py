@@ -65,12 +65,21 @@ def _in_view(panel, which):
     return found.box if found and page.box.holds(found.box) else None
 
 
+def focus_on(panel, which):
+    """By keyboard alone where it would first have to be scrolled to."""
+    if panel.tree.find(*which):
+        panel.focus_on(*which)
+    else:
+        panel.focus_on("group", "Settings")
+        panel.press_until_focused(*which)
+
+
 def reach(panel, which):
     """Gives it the keyboard, by the quickest way that a user has."""
     if box := _in_view(panel, which):
         hands.click(box)
     else:
-        panel.press_until_focused(*which)
+        focus_on(panel, which)
 
 
 def press(panel, button):
@@ -78,7 +87,7 @@ def press(panel, button):
     if box := _in_view(panel, button):
         hands.click(box)
     else:
-        panel.press_until_focused(*button)
+        focus_on(panel, button)
         hands.key("space")
 
 
@@ -124,7 +133,7 @@ def assert_save_is(panel, enabled):
 
 def hint_colour(panel, which):
     """The darkest that stands in an empty field, once its focus is elsewhere."""
-    panel.press_until_focused("tab", "Settings", key="shift+Tab")
+    panel.focus_on("tab", "Settings")
     panel.tree.wait_for(*which)
     hands.park()
     box = panel.tree.find(*which).box
@@ -141,7 +150,7 @@ def bring_into_view(panel, role, name):
         return found and page.box.holds(found.box) and found
 
     if not inside():
-        panel.press_until_focused("group", "Settings")
+        panel.focus_on("group", "Settings")
         hands.key("Home")
         for _ in range(10):
             if inside():

@@ -7,7 +7,7 @@ import time
 from patience import PATIENCE
 
 
-SELDOM = 0.3  # seconds between two looks at what takes long
+SELDOM = 0.5  # seconds between two looks at what takes long
 
 
 def until(condition, what, step=0.03):
@@ -18,7 +18,7 @@ def until(condition, what, step=0.03):
             raise AssertionError(f"waited {PATIENCE} s in vain for {what}")
         # Ever less often: looking costs what is awaited, too.
         time.sleep(step)
-        step = max(step, min(1.3 * step, SELDOM))
+        step = max(step, min(1.5 * step, SELDOM))
     return value
 
 
