@@ -9,14 +9,15 @@ include_guard(GLOBAL)
 # test-results/<name>.xml, for the closing count. Whoever calls ctest with a
 # preset runs the cases.
 #
-# `test` gives ctest six places for each core. A test that computes takes them
-# all, one that waits for a panel most of the time takes one or two. The time a
-# test may take is one for all and stands in `test`: it ends what hangs.
+# `test` gives ctest twelve places for each core. A test that computes takes six,
+# for now and then it waits, too; one that works a panel takes two, one that waits
+# most of the time one. The time a test may take is one for all and stands in
+# `test`: it ends what hangs.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
-set(QUILLMARK_PLACES_OF_A_CORE 6)
+set(QUILLMARK_PLACES_TO_COMPUTE 6)
 set(QUILLMARK_SANDBOX "${PROJECT_SOURCE_DIR}/tests/support/sandbox")
 set(QUILLMARK_TEST_RESULTS "${CMAKE_BINARY_DIR}/test-results")
 file(MAKE_DIRECTORY "${QUILLMARK_TEST_RESULTS}")
@@ -56,7 +57,7 @@ function(quillmark_gtest target)
   target_compile_options(${target} PRIVATE -O0 -U_FORTIFY_SOURCE)
 
   if(NOT arg_PLACES)
-    set(arg_PLACES ${QUILLMARK_PLACES_OF_A_CORE})
+    set(arg_PLACES ${QUILLMARK_PLACES_TO_COMPUTE})
   endif()
   if(arg_AS_USER)
     set(launcher ${QUILLMARK_LAUNCHER} ${QUILLMARK_SANDBOX} --as-user)
