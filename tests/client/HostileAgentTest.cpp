@@ -79,8 +79,11 @@ class HostileAgent : public WithTokenFiles {
     std::size_t asked = backend_.requests().size();
     for (const auto& answer : answers) {
       SCOPED_TRACE(testing::PrintToString(answer.what));
-      const auto status = statusFrom(
-          [&](const ReceivedRequest&, Connection& connection) { connection.send(answer.bytes); });
+      // Its own copy: a client that has refused the answer does not wait for its end.
+      const auto status =
+          statusFrom([bytes = answer.bytes](const ReceivedRequest&, Connection& connection) {
+            connection.send(bytes);
+          });
       const bool isRecord = answer.yields == HostileAnswer::Yields::theRecord;
       EXPECT_EQ(status, isRecord ? std::optional(goodStatus) : std::nullopt);
       expectNoHarm(++asked);
