@@ -17,12 +17,18 @@ Item {
 
     signal pressed
 
+    // A key that is held repeats, and would start one agent after the other.
+    function pressBy(key) {
+        if (!key.isAutoRepeat)
+            pressed();
+    }
+
     // Qt counts on it for assistive technology, enabled or not.
     activeFocusOnTab: enabled
 
-    Keys.onSpacePressed: pressed()
-    Keys.onReturnPressed: pressed()
-    Keys.onEnterPressed: pressed()
+    Keys.onSpacePressed: event => pressBy(event)
+    Keys.onReturnPressed: event => pressBy(event)
+    Keys.onEnterPressed: event => pressBy(event)
 
     Accessible.role: Accessible.Button
     Accessible.name: label
