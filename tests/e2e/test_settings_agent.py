@@ -52,13 +52,6 @@ def test_second_start_still_says_running(panel):
     assert [a.pid for a in processes.agents()] == [first.pid]
 
 
-def test_a_held_key_starts_one_agent(panel):
-    panel.focus_on(*START)
-    hands.hold_key("space", 1.2)
-    running(panel)
-    assert "already in use" not in (LOGS / "backend.log").read_text()
-
-
 def test_without_the_log_folder_nothing_starts(panel):
     LOGS.rmdir()
     panel.expected_output = r".*backend\.log: No such file or directory\n"

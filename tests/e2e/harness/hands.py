@@ -17,11 +17,6 @@ def key(*names, times=1):
     time.sleep(REACTION)
 
 
-def hold_key(name, seconds):
-    """So long that it repeats."""
-    tool("xdotool", "keydown", name, "sleep", str(seconds), "keyup", name)
-
-
 def write(text):
     """Slowly enough for a window that is asked about every key."""
     tool("xdotool", "type", "--delay", "8", text)
