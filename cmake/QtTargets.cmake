@@ -6,6 +6,8 @@ include_guard(GLOBAL)
 # How libraries with Qt in them are made: one QML module each.
 
 set(QUILLMARK_QML_PREFIX "/qt/qml")
+# All of the panel, for whatever shows its window.
+set(QUILLMARK_QML_LIBRARIES quillmark_viewmodel quillmark_controls quillmark_views quillmark_main)
 
 # quillmark_qml_library(<name> URI <uri> [DEPENDENCIES <uri>...] [SOURCES <file>...]
 #                       [QML_FILES <file>...])

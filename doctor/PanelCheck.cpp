@@ -67,7 +67,7 @@ Finding judge(const Process& panel, const TokenInUse& inUse) {
 void checkPanels(Findings& findings, const TokenInUse& inUse) {
   const auto before = findings.size();
   for (const auto& process : readProcesses(procRoot)) {
-    if (programName(readCommandLine(procRoot, process.pid)) == panelFileName) {
+    if (programName(readProcessCommand(procRoot, process.pid)) == panelFileName) {
       findings.push_back(judge(process, inUse));
     }
   }

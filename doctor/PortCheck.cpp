@@ -25,7 +25,7 @@ bool answersAt(const Socket& socket, const boost::asio::ip::tcp::endpoint& serve
 }
 
 void sayOwner(Finding& finding, Port& port, const Process& owner, const Harmless& harmless) {
-  const auto process = readCommandLine(procRoot, owner.pid);
+  const auto process = readProcessCommand(procRoot, owner.pid);
   const auto command = harmless(process.text);
   finding.facts["pid"] = owner.pid;
   finding.facts["command"] = command;

@@ -15,9 +15,9 @@
 namespace quillmark::doctor {
 namespace {
 
-std::vector<CommandLine> matches() {
-  auto found = readCommandLines(procRoot);
-  std::erase_if(found, [](const CommandLine& process) {
+std::vector<ProcessCommand> matches() {
+  auto found = readProcessCommands(procRoot);
+  std::erase_if(found, [](const ProcessCommand& process) {
     return process.pid == getpid() || process.text.find(agentFileName) == std::string::npos;
   });
   return found;
@@ -50,7 +50,7 @@ class ProcessJudge final {
   ProcessJudge(bool anyAgent, const Harmless& harmless)
       : anyAgent_(anyAgent), harmless_(harmless) {}
 
-  Finding operator()(const CommandLine& process) {
+  Finding operator()(const ProcessCommand& process) {
     Finding finding;
     finding.check = "probe";
     const auto who = "process " + std::to_string(process.pid);
@@ -96,7 +96,7 @@ void checkProbe(Findings& findings, const Port& port, const Harmless& harmless) 
     findings.push_back(none(port));
     return;
   }
-  const bool anyAgent = std::any_of(found.begin(), found.end(), [](const CommandLine& process) {
+  const bool anyAgent = std::any_of(found.begin(), found.end(), [](const ProcessCommand& process) {
     return kindOf(process) == Kind::agent;
   });
   ProcessJudge judge(anyAgent, harmless);

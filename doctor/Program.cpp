@@ -25,7 +25,7 @@ std::string starterText() {
 
 }  // namespace
 
-std::string programName(const CommandLine& process) {
+std::string programName(const ProcessCommand& process) {
   auto path = readLink(pathIn(procRoot, std::to_string(process.pid)) + "/exe");
   if (!path) {
     return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
@@ -38,8 +38,8 @@ std::string programName(const CommandLine& process) {
   return std::string(leafOf(*path));
 }
 
-Kind kindOf(const CommandLine& process) {
-  if (process.arguments == CommandLine::Arguments::none) {
+Kind kindOf(const ProcessCommand& process) {
+  if (process.arguments == ProcessCommand::Arguments::none) {
     return Kind::ended;
   }
   if (programName(process) == agentFileName) {

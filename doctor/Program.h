@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "procfs/CommandLines.h"
+#include "procfs/ProcessCommands.h"
 
 namespace quillmark::doctor {
 
@@ -17,11 +17,11 @@ enum class Kind {
   other,
 };
 
-[[nodiscard]] Kind kindOf(const CommandLine& process);
+[[nodiscard]] Kind kindOf(const ProcessCommand& process);
 
 /// The file name of the program that the process runs; by its own account where
 /// the system does not tell.
-[[nodiscard]] std::string programName(const CommandLine& process);
+[[nodiscard]] std::string programName(const ProcessCommand& process);
 
 inline constexpr auto procRoot = "/proc";
 

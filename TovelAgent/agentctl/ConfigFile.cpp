@@ -9,11 +9,11 @@
 #include <boost/uuid/entropy_error.hpp>
 
 #include "agentctl/ConfigText.h"
-#include "model/Uuid.h"
 #include "platform/AtomicFile.h"
 #include "platform/ComputerName.h"
 #include "platform/HomeDirectory.h"
 #include "platform/TextFile.h"
+#include "platform/Uuid.h"
 
 namespace quillmark {
 namespace {

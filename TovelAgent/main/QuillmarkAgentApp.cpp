@@ -10,9 +10,9 @@
 #include <QQmlEngine>
 
 #include "main/SingleInstance.h"
+#include "main/ViewEngine.h"
 #include "main/WindowGroup.h"
 #include "viewmodel/FormatDate.h"
-#include "views/ViewEngine.h"
 
 namespace quillmark {
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.Main
-import Quillmark.Views
 
 /// What a title bar and a frame would do: drag the window at its header band,
 /// resize it at its edges, minimise, maximise and close it.

@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "model/Field.h"
-#include "model/Uuid.h"
+#include "platform/Uuid.h"
 
 namespace quillmark {
 

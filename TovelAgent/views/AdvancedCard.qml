@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Settings
+import Quillmark.Controls
+import Quillmark.ViewModel
 
 /// Imports a ready-made configuration, and shows what came of the last
 /// operation of the whole tab.

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Settings
-import Quillmark.Views
+import Quillmark.Controls
+import Quillmark.ViewModel
 
 /// Whether the agent runs, and how to change that.
 SectionCard {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// What was found, with an icon for how severe it is.

@@ -3,7 +3,7 @@
 
 import QtQuick
 import QtQuick.Dialogs
-import Quillmark.Settings
+import Quillmark.ViewModel
 
 /// The open dialog for a configuration file; the desktop's own if it has one.
 FileDialog {

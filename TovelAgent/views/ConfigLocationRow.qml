@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Views
+import Quillmark.Controls
 
 /// A place where a configuration file may lie.
 Box {

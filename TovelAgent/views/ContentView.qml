@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The root view: header, tab bar, and the selected tab's view. It keeps the

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 
 /// What the agent says in the header: three lines at most, since the tabs below
 /// must stay in reach. Assistive technology reads it whole.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The name of an application and, where known, its version.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The first applications that the agent found. Blank while there is no

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// Both ends of a connection, and at the right its state, in half of the row at most.

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Settings
+import Quillmark.Controls
+import Quillmark.ViewModel
 
 /// Enrols the machine with a management server.
 SectionCard {

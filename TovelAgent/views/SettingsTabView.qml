@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Settings
+import Quillmark.Controls
+import Quillmark.ViewModel
 
 /// Brings the agent up and down, enrols the machine, and imports a
 /// configuration. Its state lives as long as the tab is shown.

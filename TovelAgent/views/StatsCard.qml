@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Views
+import Quillmark.Controls
 
 /// A number with its title, as wide as there is room.
 Item {

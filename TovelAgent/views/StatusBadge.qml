@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Views
+import Quillmark.Controls
 
 /// A small titled value with a dot that says whether it is as it should be. Its
 /// value wraps where the badge would be wider than `maximumWidth`. The keyboard

@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Quillmark.Controls
 
 /// The row of tabs. `tabs` holds identifier, title and icon of each.
 Rectangle {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Views
+import Quillmark.Controls
 
 /// One tab of the tab bar. Only the active one has the bar under it and is
 /// taller by that.

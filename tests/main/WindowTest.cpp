@@ -11,7 +11,7 @@
 #include <QTimer>
 
 #include "main/Renderer.h"
-#include "views/ViewEngine.h"
+#include "main/ViewEngine.h"
 
 namespace quillmark::test {
 namespace {

@@ -13,7 +13,7 @@
 #include "model/NetworkConnection.h"
 #include "model/Samples.h"
 #include "model/ThreatAlert.h"
-#include "model/Uuid.h"
+#include "platform/Uuid.h"
 
 namespace quillmark::test {
 namespace {

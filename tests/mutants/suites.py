@@ -42,9 +42,10 @@ def faults(*names):
     return [script("faults", name, targets=("agentctl_driver",)) for name in names]
 
 
-def views(file=""):
-    return Test(f"quillmark_views_test {file}".strip(), ("quillmark_views_test",),
-                (f"{BUILD}/tests/views/quillmark_views_test", "-input", f"tests/views/{file}"))
+def qml(folder, file=""):
+    name = f"quillmark_{folder}_test"
+    return Test(f"{name} {file}".strip(), (name,),
+                (f"{BUILD}/tests/{folder}/{name}", "-input", f"tests/{folder}/{file}"))
 
 
 # Every line one of whose patterns fits, in this order.
@@ -54,7 +55,7 @@ TABLE = [
     ("*/model/*", [program("model/model_tests")]),
     ("*/client/*", [program("client/client_tests"), program("client/client_as_user_tests")]),
     ("*/agentctl/* */platform/*", [program("agentctl/agentctl_tests", "agentctl_driver")]),
-    ("*/agentctl/*", [program("agentctl/quillmark_settings_test", "agentctl_driver")]),
+    ("*/agentctl/* */SettingsState.*", [program("viewmodel/quillmark_settings_test", "agentctl_driver")]),
     ("*procfs/*", [program("procfs/procfs_tests")]),
     ("*/viewmodel/*", [program("viewmodel/quillmark_viewmodel_test",
                                "quillmark_format_date_program")]),
@@ -62,10 +63,10 @@ TABLE = [
      [program("viewmodel/quillmark_dashboard_test")]),
     ("*/viewmodel/Dashboard*", [program("viewmodel/quillmark_poll_timer_test"),
                                program("viewmodel/quillmark_poll_memory_test")]),
-    ("*/views/* */controls/*", [program("views/quillmark_view_support_test"),
-                                program("views/quillmark_icon_scale_test")]),
+    ("*/controls/*", [program("controls/quillmark_control_support_test"),
+                      program("controls/quillmark_icon_scale_test"), qml("controls")]),
     ("*/main/*", [program("main/quillmark_main_test", "quillmark_renderer_program")]),
-    ("*/viewmodel/* */views/* */controls/*", [views()]),
+    ("*/viewmodel/* */views/* */controls/*", [qml("views")]),
 
     ("*/client/*", panel("token", "token_as_user", "answers", "silence", "timeout")),
     ("*/agentctl/* */views/*Card.qml */views/*Config* */views/*Setup* */views/*Settings* "
@@ -103,8 +104,9 @@ TABLE = [
 def of(file):
     """The tests of a source, each once; a view's own comes first."""
     tests = []
-    if (Path(__file__).parents[1] / "views" / f"tst_{Path(file).name}").exists():
-        tests.append(views(f"tst_{Path(file).name}"))
+    for folder in ("controls", "views"):
+        if (Path(__file__).parents[1] / folder / f"tst_{Path(file).name}").exists():
+            tests.append(qml(folder, f"tst_{Path(file).name}"))
     for patterns, listed in TABLE:
         if any(fnmatch.fnmatchcase(file, pattern) for pattern in patterns.split()):
             tests += listed

@@ -20,12 +20,12 @@
 
 #include "client/TaskExecutor.h"
 #include "main/Renderer.h"
+#include "main/ViewEngine.h"
 #include "main/WindowGroup.h"
 #include "soak/Footprint.h"
 #include "soak/SteadyAgent.h"
 #include "support/TokenFiles.h"
 #include "viewmodel/DashboardViewModel.h"
-#include "views/ViewEngine.h"
 
 namespace {
 

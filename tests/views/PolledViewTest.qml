@@ -5,6 +5,7 @@ import QtQuick
 import QtTest
 import Quillmark.Tests
 import Quillmark.ViewModel
+import "../support/qml"
 
 /// A test of views that show a view model with data from a real backend. Each
 /// test function has a view model of its own and good answers at first.

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import Quillmark.Settings
+import Quillmark.Controls
 import Quillmark.Tests
+import Quillmark.ViewModel
 import Quillmark.Views
+import "../support/qml"
 
 /// A test of one card of the Settings tab, on real settings in a home of its own.
 ViewTest {

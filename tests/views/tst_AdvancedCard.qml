@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtTest
+import Quillmark.Controls
 import Quillmark.Views
 
 SettingsCardTest {

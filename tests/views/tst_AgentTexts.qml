@@ -4,6 +4,7 @@
 import QtQuick
 import Quillmark.Tests
 import Quillmark.Views
+import "../support/qml"
 
 /// Every text of the agent is painted whole; the header alone stops at three lines.
 ViewTest {

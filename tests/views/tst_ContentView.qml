@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.Views
 
 /// How the bands of the root view lie; tabs and polling have tests of their own.

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.Tests
 import Quillmark.Views
+import "../support/qml"
 
 ViewTest {
     name: "InstalledAppRow"

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 import Quillmark.Views
+import "../support/qml"
 
 ViewTest {
     name: "InstructionStep"

@@ -3,7 +3,9 @@
 
 import QtQuick
 import QtTest
+import Quillmark.Controls
 import Quillmark.Views
+import "../support/qml"
 
 ViewTest {
     name: "TabButton"

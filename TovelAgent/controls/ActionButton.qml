@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A filled button with an icon and a text. Disabled, it is out of the
+/// keyboard's way too.
+Pressable {
+    id: button
+
+    required property string icon
+    required property string text
+    required property color ground
+    property int padding: 10
+
+    label: text
+    focusInset: -3
+    implicitHeight: row.height + 2 * padding
+
+    Box {
+        anchors.fill: parent
+        radius: Theme.sectionRadius
+        color: button.ground
+    }
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: Theme.spacing
+
+        SymbolIcon {
+            name: button.icon
+            size: 12
+            color: Theme.white
+            anchors.verticalCenter: parent.verticalCenter
+        }
+
+        Label {
+            text: button.text
+            size: 12
+            font.weight: Font.DemiBold
+            color: Theme.white
+            anchors.verticalCenter: parent.verticalCenter
+        }
+    }
+}

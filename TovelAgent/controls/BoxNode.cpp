@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/BoxNode.h"
+
+#include "controls/WholePixels.h"
+
+namespace quillmark {
+namespace {
+
+/// Where the nodes above `node` put its origin in the scene.
+QPointF origin(const QSGNode& node) {
+  QPointF point;
+  for (const auto* above = node.parent(); above != nullptr; above = above->parent()) {
+    if (above->type() == QSGNode::TransformNodeType) {
+      point = static_cast<const QSGTransformNode*>(above)->matrix().map(point);
+    }
+  }
+  return point;
+}
+
+}  // namespace
+
+BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNinePatchNode()) {
+  setFlag(UsePreprocess);
+  // Where OpenGL draws, it has none of its own accord.
+  patch_->setDevicePixelRatio(1);
+  appendChildNode(patch_);
+}
+
+void BoxNode::show(QSize box, const BoxLook& look, qreal ratio) {
+  const BoxPicture picture(look, box);
+  if (picture.size != drawn_ || !(look == look_)) {
+    look_ = look;
+    draw(picture);
+  }
+  ratio_ = ratio;
+  const auto reach = picture.reach;
+  patch_->setBounds(QRectF({}, box).adjusted(-reach, -reach, reach, reach));
+  patch_->update();
+}
+
+void BoxNode::preprocess() {
+  const auto place = origin(*this) * ratio_;
+  const QPointF whole(wholePixels(place.x()), wholePixels(place.y()));
+  const auto shift = (whole - place) / ratio_;
+  QMatrix4x4 matrix;
+  matrix.translate(static_cast<float>(shift.x()), static_cast<float>(shift.y()));
+  matrix.scale(static_cast<float>(1 / ratio_));
+  if (matrix != this->matrix()) {
+    setMatrix(matrix);
+  }
+}
+
+void BoxNode::draw(const BoxPicture& picture) {
+  drawn_ = picture.size;
+  patch_->setTexture(window_.createTextureFromImage(drawBox(look_, picture)));
+  const auto& corners = picture.corners;
+  patch_->setPadding(corners.left(), corners.top(), corners.right(), corners.bottom());
+}
+
+}  // namespace quillmark

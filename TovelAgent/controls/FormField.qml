@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A label above a text field.
+Column {
+    id: field
+
+    required property string label
+    required property string placeholder
+    required property string value
+    property alias echoMode: input.echoMode
+
+    signal edited(string text)
+
+    width: parent?.width ?? 0
+    spacing: 4
+
+    Label {
+        text: field.label
+        size: 11
+        font.weight: Font.DemiBold
+        color: Theme.gray
+    }
+
+    component Entry: TextInput {
+        id: entry
+
+        property alias content: entry.text
+    }
+
+    Box {
+        width: parent.width
+        height: input.implicitHeight
+        radius: Theme.sectionRadius
+        color: Theme.white
+        borderWidth: input.activeFocus ? 2 : 1
+        borderColor: input.activeFocus ? Theme.blue : Theme.fieldBorder
+
+        Entry {
+            id: input
+
+            // Qt hands assistive technology whatever `text` is, also of a masked
+            // field. There it shall be what everyone sees.
+            property string text: displayText
+
+            anchors.fill: parent
+            topPadding: 6
+            bottomPadding: 6
+            leftPadding: 8
+            rightPadding: 8
+            clip: true
+            font.pixelSize: 12
+            color: Theme.text
+            selectionColor: Theme.blue
+            selectedTextColor: Theme.white
+            selectByMouse: true
+            activeFocusOnTab: true
+            content: field.value
+            onTextEdited: field.edited(content)
+
+            Accessible.role: Accessible.EditableText
+            Accessible.name: field.label
+            Accessible.description: field.placeholder
+            Accessible.passwordEdit: echoMode !== TextInput.Normal
+        }
+
+        Label {
+            visible: input.length === 0 && input.preeditText.length === 0
+            x: input.leftPadding
+            y: input.topPadding
+            text: field.placeholder
+            size: 12
+            color: Theme.gray
+
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/MaskedText.h"
+
+namespace quillmark {
+namespace {
+
+bool tellsText(const QAccessibleEvent& event) {
+  return event.type() == QAccessible::TextInserted || event.type() == QAccessible::TextRemoved ||
+         event.type() == QAccessible::TextUpdated;
+}
+
+void passOn(QAccessibleEvent* event) {
+  if (tellsMaskedText(*event)) {
+    return;
+  }
+  // Without a handler Qt tells the platform, which is what we want of it now.
+  const auto self = QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(event);
+  QAccessible::installUpdateHandler(self);
+}
+
+}  // namespace
+
+bool tellsMaskedText(const QAccessibleEvent& event) {
+  if (!tellsText(event)) {
+    return false;
+  }
+  const auto* const source = event.accessibleInterface();
+  return source != nullptr && source->state().passwordEdit;
+}
+
+void silenceMaskedText() { QAccessible::installUpdateHandler(passOn); }
+
+}  // namespace quillmark

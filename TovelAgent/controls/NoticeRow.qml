@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A line with an icon on a tint: something went well, or did not.
+Box {
+    id: notice
+
+    required property string icon
+    required property string text
+    required property bool isGood
+
+    readonly property color ink: isGood ? Theme.green : Theme.red
+
+    width: parent?.width ?? 0
+    implicitHeight: Math.max(symbol.height, label.height) + 2 * 8
+    radius: Theme.noticeRadius
+    color: isGood ? Theme.successTint : Theme.errorTint
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+
+    SymbolIcon {
+        id: symbol
+
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        name: notice.icon
+        size: 11
+        color: notice.ink
+    }
+
+    Label {
+        id: label
+
+        anchors.left: symbol.right
+        anchors.leftMargin: Theme.spacing
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        text: notice.text
+        size: 11
+        color: notice.ink
+    }
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A plain list: rows on white with a line between them. It keeps its scroll
+/// position when the model's rows change.
+ListView {
+    id: list
+
+    required property string label
+
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    pixelAligned: true
+    reuseItems: true
+    activeFocusOnTab: true
+    // Rows are read, not chosen; and a highlight would cost frames at start.
+    keyNavigationEnabled: false
+    currentIndex: -1
+
+    Accessible.role: Accessible.List
+    Accessible.name: label
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onScrollUpAction: keys.scrollLines(-1)
+    Accessible.onScrollDownAction: keys.scrollLines(1)
+    Accessible.onPreviousPageAction: keys.scrollPages(-1)
+    Accessible.onNextPageAction: keys.scrollPages(1)
+
+    Rectangle {
+        parent: list
+        anchors.fill: parent
+        z: -1
+        color: Theme.listGround
+    }
+
+    // When every row in view goes, the view would start again near the top.
+    Connections {
+        property bool allGone: false
+
+        target: list.model
+
+        function onRowsAboutToBeRemoved(parent, first) {
+            allGone = list.indexAt(0, list.contentY) >= first;
+        }
+
+        function onRowsRemoved() {
+            if (allGone)
+                goToEnd.start();
+        }
+    }
+
+    // Later: the list itself has yet to hear of it.
+    Timer {
+        id: goToEnd
+
+        interval: 0
+        onTriggered: list.positionViewAtEnd()
+    }
+
+    ScrollKeys {
+        id: keys
+
+        target: list
+    }
+
+    ScrollBar {
+        target: list
+    }
+
+    FocusRing {
+        parent: list
+        target: list
+    }
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A slim bar at the right that can be dragged; there only when there is
+/// something to scroll. What it does, the keyboard does at what it scrolls.
+MouseArea {
+    id: bar
+
+    required property Flickable target
+
+    // Where on the thumb it was taken.
+    property real grip: 0
+    readonly property int margin: 3
+
+    parent: target
+    anchors.top: parent?.top
+    anchors.bottom: parent?.bottom
+    anchors.right: parent?.right
+    width: 14
+    visible: target.visibleArea.heightRatio < 1
+    hoverEnabled: true
+    preventStealing: true
+
+    onPressed: mouse => {
+        grip = thumb.contains(thumb.mapFromItem(bar, mouse.x, mouse.y)) ? mouse.y - thumb.y : thumb.height / 2;
+        thumb.moveTo(mouse.y - grip);
+    }
+    onPositionChanged: mouse => {
+        if (pressed)
+            thumb.moveTo(mouse.y - grip);
+    }
+    onReleased: target.returnToBounds()
+    // The wheel belongs to what lies below.
+    onWheel: wheel => wheel.accepted = false
+
+    Accessible.ignored: true
+
+    Box {
+        id: thumb
+
+        readonly property real way: bar.height - 2 * bar.margin - height
+        readonly property real share: bar.target.visibleArea.yPosition / (1 - bar.target.visibleArea.heightRatio)
+
+        function moveTo(top: real) {
+            const share = Math.max(0, Math.min(1, (top - bar.margin) / way));
+            bar.target.contentY = bar.target.originY + share * (bar.target.contentHeight - bar.target.height);
+        }
+
+        // At the window's edge, where the pointer resizes, it could not be held.
+        x: bar.margin
+        width: bar.width - bar.margin - 5
+        y: bar.margin + Math.max(0, Math.min(1, share)) * way
+        height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * bar.margin))
+        radius: width / 2
+        color: bar.pressed || bar.containsMouse ? Theme.gray : Theme.scrollBar
+    }
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A column of cards that scrolls vertically, by pointer and keyboard.
+Flickable {
+    id: page
+
+    default property alias content: column.data
+    required property string label
+    property int padding: 20
+    property alias spacing: column.spacing
+
+    /// Scrolls until `item`, which lies in the page, is in view.
+    function reveal(item: Item) {
+        follower.reveal(item);
+    }
+
+    contentWidth: width
+    contentHeight: column.height + 2 * padding
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.VerticalFlick
+    pixelAligned: true
+    // What has the focus keeps it, also when nothing is left to scroll.
+    activeFocusOnTab: activeFocus || contentHeight > height
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: label
+    Accessible.onScrollUpAction: keys.scrollLines(-1)
+    Accessible.onScrollDownAction: keys.scrollLines(1)
+    Accessible.onPreviousPageAction: keys.scrollPages(-1)
+    Accessible.onNextPageAction: keys.scrollPages(1)
+
+    Column {
+        id: column
+
+        x: page.padding
+        y: page.padding
+        width: page.width - 2 * page.padding
+    }
+
+    ScrollKeys {
+        id: keys
+
+        target: page
+    }
+
+    FocusFollower {
+        id: follower
+
+        target: page
+    }
+
+    ScrollBar {
+        target: page
+    }
+
+    FocusRing {
+        parent: page
+        target: page
+    }
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// The icon of a symbolic name, as large as symbols stand beside text of
+/// `size`. Decoration: what it means is said by the text it goes with.
+Image {
+    id: icon
+
+    required property string name
+    property int size: Theme.bodySize
+    property color color: Theme.text
+
+    // Even numbers keep the drawing's straight strokes on whole pixels.
+    readonly property int side: 2 * Math.round(0.6 * size)
+
+    width: side
+    height: side
+    sourceSize.width: side
+    sourceSize.height: side
+    source: IconAddress.of(name, color)
+}

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "main/ControlsStyle.h"
+
+#include <QByteArray>
+
+namespace quillmark {
+
+void fixControlsStyle() {
+  // Not by QQuickStyle: a library more at each start, for a dialog few open.
+  qputenv("QT_QUICK_CONTROLS_STYLE", "Fusion");
+  qunsetenv("QT_QUICK_CONTROLS_CONF");
+}
+
+}  // namespace quillmark

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/SettingsState.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPointer>
+#include <QTimer>
+
+#include "agentctl/AgentProcess.h"
+#include "agentctl/ConfigFile.h"
+#include "agentctl/ConfigReadBack.h"
+
+namespace quillmark {
+namespace {
+
+// How long the agent is given to come up or go down before it is looked for.
+constexpr int probeAfterStartMs = 2000;
+constexpr int probeAfterStopMs = 1000;
+
+}  // namespace
+
+QString SettingsState::defaultServerUrl() {
+  return QStringLiteral("https://console.quillmark.example");
+}
+
+QString SettingsState::selectedFileLine() const {
+  return QStringLiteral("Selected: ") + QFileInfo(configPath_).fileName();
+}
+
+QString SettingsState::keyHelp() const {
+  return QStringLiteral("Get your API key from: ") + serverUrl_ + QStringLiteral("/agent/start");
+}
+
+QString SettingsState::agentStatusLine() const {
+  return isAgentRunning_ ? QStringLiteral("Agent is running")
+                         : QStringLiteral("Agent is not running");
+}
+
+void SettingsState::setApiKeyInput(const QString& key) {
+  if (key != apiKeyInput_) {
+    apiKeyInput_ = key;
+    Q_EMIT apiKeyInputChanged();
+  }
+}
+
+void SettingsState::setServerUrl(const QString& url) {
+  if (url != serverUrl_) {
+    serverUrl_ = url;
+    Q_EMIT serverUrlChanged();
+  }
+}
+
+void SettingsState::appear() {
+  checkAgentStatus();
+  loadCurrentConfig();
+}
+
+void SettingsState::startAgent() {
+  if (const auto error = startAgentProcess()) {
+    failWith(error);
+  }
+  checkAgentStatusLater(probeAfterStartMs);
+}
+
+void SettingsState::stopAgent() {
+  if (const auto error = stopAgentProcess()) {
+    failWith(error);
+  }
+  checkAgentStatusLater(probeAfterStopMs);
+}
+
+void SettingsState::checkAgentStatus() {
+  boost::system::error_code error;
+  const bool isRunning = probeAgentProcess(error);
+  if (error) {
+    failWith(error);
+  }
+  if (isRunning != isAgentRunning_) {
+    isAgentRunning_ = isRunning;
+    Q_EMIT isAgentRunningChanged();
+  }
+}
+
+void SettingsState::checkAgentStatusLater(int milliseconds) {
+  // The tab may be gone by then; the probe runs all the same. A coarse timer
+  // may be early by a twentieth.
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(),
+                     [state = QPointer<SettingsState>(this)] {
+                       if (state) {
+                         state->checkAgentStatus();
+                       } else {
+                         static_cast<void>(probeAgentProcess());
+                       }
+                     });
+}
+
+void SettingsState::loadCurrentConfig() {
+  const auto entries = readCurrentConfig();
+  if (entries.apiKey) {
+    setApiKeyInput(QString::fromStdString(*entries.apiKey));
+  }
+  if (entries.serverUrl) {
+    setServerUrl(QString::fromStdString(*entries.serverUrl));
+  }
+}
+
+void SettingsState::saveApiKey() {
+  if (const auto error = saveConfig(serverUrl_.toStdString(), apiKeyInput_.toStdString())) {
+    failWith(error);
+  } else {
+    succeed(QStringLiteral("✅ Config saved! Restart the agent to connect."));
+  }
+}
+
+void SettingsState::openConfigFilePicker() { Q_EMIT pickerRequested(); }
+
+void SettingsState::fileChosen(const QUrl& file) {
+  configPath_ = file.toLocalFile();
+  Q_EMIT configPathChanged();
+  importConfig(configPath_);
+}
+
+void SettingsState::importConfig(const QString& path) {
+  const auto result = importConfigFile(QFile::encodeName(path).toStdString());
+  switch (result.outcome) {
+    case ImportResult::Outcome::imported:
+      succeed(QStringLiteral(
+          "✅ Config imported successfully! Close and reopen the agent to apply changes."));
+      break;
+    case ImportResult::Outcome::missingAgentSection:
+      fail(QStringLiteral("❌ Invalid config: missing [agent] section"));
+      break;
+    case ImportResult::Outcome::failed:
+      failWith(result.error);
+      break;
+  }
+}
+
+void SettingsState::succeed(const QString& message) {
+  statusMessage_ = message;
+  showSuccess_ = true;
+  showError_ = false;
+  Q_EMIT statusChanged();
+}
+
+void SettingsState::fail(const QString& message) {
+  statusMessage_ = message;
+  showSuccess_ = false;
+  showError_ = true;
+  Q_EMIT statusChanged();
+}
+
+void SettingsState::failWith(const boost::system::error_code& error) {
+  fail(QStringLiteral("❌ Error: ") + QString::fromStdString(error.message()));
+}
+
+}  // namespace quillmark

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtTest
+import Quillmark.Controls
+import "../support/qml"
+
+ViewTest {
+    name: "FormField"
+
+    function field(properties) {
+        const view = makeWide(300, component, Object.assign({ label: "Name", placeholder: "Type it", value: "" }, properties));
+        edited.target = view;
+        edited.clear();
+        return view;
+    }
+
+    function inputOf(view) {
+        return itemOfType(view, "Entry");
+    }
+
+    function test_label() {
+        const view = field();
+        const label = labelOf(view, "Name");
+        compareLabel(label, 11, Font.DemiBold, Theme.gray);
+        compare(boxIn(label, view).x, 0);
+        compare(roomBelow(label, itemOfType(view, "Box")), 4);
+        compare(itemOfType(view, "Box").width, 300);
+    }
+
+    function test_text() {
+        const input = inputOf(field({ value: "value" }));
+        compare(input.font.pixelSize, 12);
+        compare(input.font.weight, Font.Normal);
+        compareColor(input.color, Theme.black);
+        compare(input.displayText, "value");
+    }
+
+    function test_border() {
+        const view = field();
+        const border = itemOfType(view, "Box");
+        verify(border.radius > 0);
+        compare(border.borderWidth, 1);
+        compareColor(border.borderColor, Theme.fieldBorder);
+        inputOf(view).forceActiveFocus(Qt.TabFocusReason);
+        compare(border.borderWidth, 2);
+        compareColor(border.borderColor, Theme.blue);
+    }
+
+    function test_placeholderStandsInAnEmptyField() {
+        const view = field();
+        compareLabel(labelOf(view, "Type it"), 12, Font.Normal, Theme.gray);
+        view.value = "x";
+        compare(textsIn(view).includes("Type it"), false);
+    }
+
+    function test_tellsWhatIsTyped() {
+        const view = field();
+        mouseClick(inputOf(view));
+        keyClick("a");
+        compare(edited.count, 1);
+        compare(edited.signalArguments[0][0], "a");
+    }
+
+    function test_maskedFieldShowsDots() {
+        const view = field({ value: "secret", echoMode: TextInput.Password });
+        compare(inputOf(view).displayText, "\u25CF".repeat(6));
+        compare(inputOf(view).text, "\u25CF".repeat(6));
+        verify(inputOf(view).Accessible.passwordEdit);
+    }
+
+    function test_accessible() {
+        const input = inputOf(field());
+        compare(input.Accessible.role, Accessible.EditableText);
+        compare(input.Accessible.name, "Name");
+        compare(input.Accessible.description, "Type it");
+    }
+
+    Component {
+        id: component
+
+        FormField {}
+    }
+
+    SignalSpy {
+        id: edited
+
+        signalName: "edited"
+    }
+}
