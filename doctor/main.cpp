@@ -11,14 +11,36 @@
 #include <unistd.h>
 
 #include "Examination.h"
-#include "Options.h"
 #include "Output.h"
+#include "platform/CommandLine.h"
 
 namespace {
 
 using namespace quillmark::doctor;
 
-enum ExitCode : int { somethingWrong = 1, wrongUsage = 2 };
+enum ExitCode : int { somethingWrong = 1 };
+enum class Format { text, json };
+
+constexpr auto jsonFlag = "json";
+constexpr auto watchFlag = "watch";
+
+const quillmark::CommandLineRules commandLineRules{
+    .program = "quillmark-doctor",
+    .version = QUILLMARK_VERSION,
+    .help =
+        "Usage: quillmark-doctor [--json] [--watch]\n"
+        "\n"
+        "Tells what the Quillmark Agent panel would show on this machine, and why.\n"
+        "Looks only; changes nothing. Run it as the user who runs the panel.\n"
+        "\n"
+        "      --json      one JSON object for each round instead of text\n"
+        "      --watch     look again every 5 seconds until interrupted\n"
+        "  -h, --help      print this and end\n"
+        "  -V, --version   print the version and end\n"
+        "\n"
+        "Ends with 0 when all is well, 1 when something is wrong, 2 for a wrong option.\n",
+    .flags = {jsonFlag, watchFlag},
+    .passedOn = {}};
 
 // As often as the panel asks.
 constexpr timespec pause{5, 0};
@@ -30,15 +52,14 @@ Colour colourForOutput() {
   return isWanted ? Colour::terminal : Colour::none;
 }
 
-int showRound(Options::Format format, Colour colour) {
+int showRound(Format format, Colour colour) {
   const auto report = examine();
-  std::cout << (format == Options::Format::json ? asJson(report) : asText(report, colour))
-            << std::flush;
+  std::cout << (format == Format::json ? asJson(report) : asText(report, colour)) << std::flush;
   return exitCode(report);
 }
 
 /// Until SIGINT or SIGTERM, which lets a round that has begun come to its end.
-int watch(Options::Format format, Colour colour) {
+int watch(Format format, Colour colour) {
   sigset_t ending{};
   sigemptyset(&ending);
   sigaddset(&ending, SIGINT);
@@ -49,38 +70,26 @@ int watch(Options::Format format, Colour colour) {
     if (!std::cout || sigtimedwait(&ending, nullptr, &pause) > 0) {
       return code;
     }
-    if (format == Options::Format::text) {
+    if (format == Format::text) {
       std::cout << '\n';
     }
   }
 }
 
-int run(const Options& options) {
-  switch (options.action) {
-    case Options::Action::help:
-      std::cout << usage();
-      return 0;
-    case Options::Action::version:
-      std::cout << "quillmark-doctor " QUILLMARK_VERSION "\n";
-      return 0;
-    case Options::Action::examine:
-      break;
+int run(const quillmark::CommandLine& line) {
+  if (line.exitCode) {
+    return *line.exitCode;
   }
+  const auto format = line.has(jsonFlag) ? Format::json : Format::text;
   const auto colour = colourForOutput();
-  const auto repetition = options.repetition;
-  return repetition == Options::Repetition::watch ? watch(options.format, colour)
-                                                  : showRound(options.format, colour);
+  return line.has(watchFlag) ? watch(format, colour) : showRound(format, colour);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    const auto options = parseOptions(argc, argv);
-    if (!options) {
-      return wrongUsage;
-    }
-    const int code = run(*options);
+    const int code = run(quillmark::readCommandLine(argc, argv, commandLineRules));
     return std::cout.flush() ? code : somethingWrong;
   } catch (const std::exception& error) {
     std::cerr << "quillmark-doctor: " << error.what() << std::endl;

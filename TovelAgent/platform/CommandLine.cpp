@@ -43,13 +43,14 @@ bool CommandLine::has(const std::string& flag) const {
 
 CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules) {
   const auto table = optionTable(rules);
+  const auto next = rules.passedOn.empty() ? getopt_long : getopt_long_only;
   CommandLine line;
   opterr = 0;
   while (true) {
     // What getopt is about to read: it does not say which word it refused.
     const std::string_view word = optind < argc ? argv[optind] : "";
     int index = 0;
-    switch (getopt_long_only(argc, argv, "+:hV", table.data(), &index)) {
+    switch (next(argc, argv, "+:hV", table.data(), &index)) {
       case -1:
         if (optind < argc) {
           return misused(rules, std::string("unexpected argument '") + argv[optind] + "'");

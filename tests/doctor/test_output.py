@@ -97,7 +97,8 @@ def test_time_that_an_answer_took(backend):
 
 
 def test_help_and_version():
-    for option, begin in (("--help", "Usage: "), ("--version", "")):
+    for option, begin in (("--help", "Usage: "), ("-h", "Usage: "),
+                          ("--version", ""), ("-V", "")):
         done = scene.run(option)
         assert (done.returncode, done.stderr) == (0, "")
         assert done.stdout.startswith(begin + "quillmark-doctor ")
