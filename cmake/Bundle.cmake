@@ -3,14 +3,14 @@
 
 include(Install)
 
-# The application bundle: both programs lie side by side in it, because the
-# panel starts the agent from its own folder.
+# The application bundle: both programs are in the same folder of it, because
+# the panel starts the agent from its own folder.
 set(QUILLMARK_BUNDLE_PROGRAMS "QuillmarkAgent.app/Contents/MacOS")
 
 # quillmark_bundle_program(<target> <file name> [<component>])
 #
-# A program of the bundle, reached by a link among the commands as well. Without
-# a component it is part of the panel's.
+# Adds a program to the bundle, and a link to it in
+# bin/. The component defaults to `panel`.
 function(quillmark_bundle_program target output_name)
   set(component panel)
   if(ARGC GREATER 2)
@@ -23,7 +23,5 @@ function(quillmark_bundle_program target output_name)
   add_dependencies(quillmark_installed ${target})
   set(programs "${QUILLMARK_INSTALL_HOME}/${QUILLMARK_BUNDLE_PROGRAMS}")
   install(TARGETS ${target} RUNTIME DESTINATION "${programs}" COMPONENT ${component})
-  if(NOT APPLE)
-    quillmark_install_link("bin/${output_name}" "../${programs}/${output_name}" ${component})
-  endif()
+  quillmark_install_link("bin/${output_name}" "../${programs}/${output_name}" ${component})
 endfunction()

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# How every target of this project is compiled: `quillmark_library` and
-# `quillmark_options` carry it, nothing else sets flags.
+# How every target of this project is compiled: it gets the common flags from
+# `quillmark_library` or by linking `quillmark_options`.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -17,7 +17,7 @@ endif()
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 include(CheckCXXCompilerFlag)
-# Marks where jumps and returns may go, on processors that know it.
+# Protects jumps and returns, on processors that support it.
 check_cxx_compiler_flag(-fcf-protection=full QUILLMARK_HAS_CF_PROTECTION)
 
 add_library(quillmark_options INTERFACE)
@@ -39,10 +39,10 @@ if(QUILLMARK_SANITIZE)
   target_compile_options(
     quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZE} -fno-omit-frame-pointer
                                 -fno-sanitize-recover=all
-                                # Clang 14 cannot split a coroutine that bears this check's marks.
+                                # Clang 14 cannot split a coroutine that this check instruments.
                                 $<$<CXX_COMPILER_ID:Clang>:-fno-sanitize=function>)
   if(QUILLMARK_SANITIZE STREQUAL "thread")
-    # The check knows atomic operations, but no fences.
+    # ThreadSanitizer supports atomic operations, but not fences.
     target_compile_definitions(
       quillmark_options INTERFACE BOOST_ASIO_DISABLE_STD_ATOMIC BOOST_AC_USE_STD_ATOMIC
                                   BOOST_ASIO_DISABLE_FENCED_BLOCK)
@@ -54,13 +54,11 @@ else()
                                 $<$<BOOL:${QUILLMARK_HAS_CF_PROTECTION}>:-fcf-protection=full>
                                 -D_GLIBCXX_ASSERTIONS
                                 $<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
-  if(NOT APPLE)
-    target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
-  endif()
+  target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
 endif()
 
 if(QUILLMARK_COVERAGE)
-  # Threads that count at once would lose counts, or make them negative.
+  # Without atomic updates, concurrent threads lose counts or make them negative.
   target_compile_options(quillmark_options INTERFACE --coverage -fprofile-update=atomic)
   target_link_options(quillmark_options INTERFACE --coverage)
 endif()
@@ -72,7 +70,8 @@ function(quillmark_library name)
   quillmark_configure(${name})
 endfunction()
 
-# What a library that another function made has in common with the others.
+# quillmark_configure(<name>): the common settings, for a library that another
+# function created.
 function(quillmark_configure name)
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/TovelAgent")
   target_link_libraries(${name} PRIVATE quillmark_options)

@@ -3,21 +3,17 @@
 
 include_guard(GLOBAL)
 
-# How things are installed. Everything belongs to a component, of which each is
-# a package: `panel` or `sample_agent`.
+# How things are installed. Everything belongs to a component, `panel` or
+# `sample_agent`; each component becomes a package.
 
-# Installing shall not build the tests.
+# Otherwise installing would build the tests.
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 
-# Some files name the prefix, and so does the list of what was installed.
+# Makes the prefix absolute: some installed files and the install manifest contain it.
 install(CODE "cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX NORMALIZE)" ALL_COMPONENTS)
 
-# Where the bundle lies below the prefix.
-if(APPLE)
-  set(QUILLMARK_INSTALL_HOME ".")
-else()
-  set(QUILLMARK_INSTALL_HOME "lib/quillmark-agent")
-endif()
+# The bundle's folder, relative to the prefix.
+set(QUILLMARK_INSTALL_HOME "lib/quillmark-agent")
 
 # quillmark_install_link(<path> <goal> <component>): a symbolic link at a path
 # below the prefix.
@@ -29,8 +25,9 @@ function(quillmark_install_link path goal component)
   install(FILES "${link}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
-# quillmark_install_template(<file>.in <folder> <component>): a file that names
-# paths below the prefix, which is known only when it is installed.
+# quillmark_install_template(<file>.in <folder> <component>): a file that
+# contains paths below the prefix. Filled in during installation, because the
+# prefix is known only then.
 function(quillmark_install_template template folder component)
   cmake_path(GET template STEM LAST_ONLY name)
   install(
@@ -46,8 +43,8 @@ function(quillmark_install_template template folder component)
     COMPONENT ${component})
 endfunction()
 
-# quillmark_install_compressed(<file> <folder> <component>): as <file>.gz, made
-# anew when the file changes; always the same bytes for the same file.
+# quillmark_install_compressed(<file> <folder> <component>): as <file>.gz,
+# rebuilt when the file changes; the same file always gives the same bytes.
 function(quillmark_install_compressed file folder component)
   cmake_path(ABSOLUTE_PATH file)
   cmake_path(GET file FILENAME name)
@@ -62,10 +59,11 @@ function(quillmark_install_compressed file folder component)
   install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component} ${ARGN})
 endfunction()
 
-# All that is installed, as one target to build.
+# Builds everything that is installed.
 add_custom_target(quillmark_installed ALL)
 
-# quillmark_installed_file(<file>...): made by a custom command of this folder.
+# quillmark_installed_file(<file>...): files to install that a custom command of
+# this folder creates.
 function(quillmark_installed_file)
   string(SHA1 name "${ARGN}")
   string(SUBSTRING "${name}" 0 12 name)

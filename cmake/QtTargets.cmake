@@ -3,16 +3,16 @@
 
 include_guard(GLOBAL)
 
-# How libraries with Qt in them are made: one QML module each.
+# How libraries that use Qt are built: one QML module each.
 
 set(QUILLMARK_QML_PREFIX "/qt/qml")
-# All of the panel, for whatever shows its window.
+# All of the panel's QML libraries, for programs that show its window.
 set(QUILLMARK_QML_LIBRARIES quillmark_viewmodel quillmark_controls quillmark_views quillmark_main)
 
 # quillmark_qml_library(<name> URI <uri> [DEPENDENCIES <uri>...] [SOURCES <file>...]
 #                       [QML_FILES <file>...])
 #
-# A static library that is a QML module as well. Whoever links <name> also
+# A static library that is also a QML module. A target that links <name> also
 # needs <name>plugin, which `quillmark_use_qml` links.
 function(quillmark_qml_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "URI" "DEPENDENCIES;SOURCES;QML_FILES")
@@ -30,7 +30,7 @@ function(quillmark_qml_library name)
     SOURCES ${arg_SOURCES}
     QML_FILES ${arg_QML_FILES})
   quillmark_configure(${name})
-  # What Qt generates does not hold to our warnings.
+  # Code that Qt generates causes warnings.
   get_target_property(generated ${name} SOURCES)
   list(FILTER generated INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations\\.cpp$")
   set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "-w")
@@ -39,8 +39,8 @@ function(quillmark_qml_library name)
                                              QT_NO_KEYWORDS)
 endfunction()
 
-# quillmark_use_qml(<target> <qml library>...): link QML libraries so that
-# their types and files are there at run time.
+# quillmark_use_qml(<target> <qml library>...): links QML libraries so that
+# their types and files are available at run time.
 function(quillmark_use_qml target)
   foreach(library IN LISTS ARGN)
     target_link_libraries(${target} PRIVATE ${library} ${library}plugin)

@@ -3,16 +3,15 @@
 
 include_guard(GLOBAL)
 
-# How tests are registered. ctest knows every program of tests and, by their own
+# How tests are registered. ctest knows every test program and, by their own
 # names, all cases of the C++ ones. `test` runs the programs, because starting one
-# for each case costs a minute; these write what they ran to
-# test-results/<name>.xml, for the closing count. Whoever calls ctest with a
-# preset runs the cases.
+# program per case costs a minute; they write their results to
+# test-results/<name>.xml, for the final count. ctest with a preset runs the cases.
 #
-# `test` gives ctest twelve places for each core. A test that computes takes six,
-# for now and then it waits, too; one that works a panel takes two, one that waits
-# most of the time one. The time a test may take is one for all and stands in
-# `test`: it ends what hangs.
+# `test` runs ctest with 12 places (parallel slots) per core. A test that computes
+# takes 6, not 12, because at times it waits; one that drives a panel takes 2, one
+# that mostly waits takes 1. All tests have the same time limit, which is set in
+# `test` and ends a test that hangs.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
@@ -22,16 +21,16 @@ set(QUILLMARK_SANDBOX "${PROJECT_SOURCE_DIR}/tests/support/sandbox")
 set(QUILLMARK_TEST_RESULTS "${CMAKE_BINARY_DIR}/test-results")
 file(MAKE_DIRECTORY "${QUILLMARK_TEST_RESULTS}")
 
-# What every test is started with. A sanitizer tells of a crash itself.
+# The prefix of every test's command.
 set(QUILLMARK_LAUNCHER env "QUILLMARK_BUILD_DIR=${CMAKE_BINARY_DIR}")
 if(QUILLMARK_SANITIZE AND QUILLMARK_GUI)
-  # Qt and the libraries below it keep for good what they made once. Leaks are
-  # looked for in the core, without them.
+  # Qt and the libraries below it never free some objects. Leaks are detected in
+  # the core's build, which does not use them.
   list(APPEND QUILLMARK_LAUNCHER "ASAN_OPTIONS=detect_leaks=0")
 endif()
 set(QUILLMARK_DIRECT_LAUNCHER ${QUILLMARK_LAUNCHER})
 if(NOT QUILLMARK_SANITIZE)
-  # As the sandbox does for what runs in there.
+  # The sandbox does the same for its tests. A sanitizer reports crashes itself.
   list(APPEND QUILLMARK_DIRECT_LAUNCHER "QUILLMARK_CRASH_FOLDER=${QUILLMARK_TEST_RESULTS}"
        "LD_PRELOAD=${CMAKE_BINARY_DIR}/tests/support/libcrash_reporter.so")
 endif()
@@ -47,13 +46,13 @@ endfunction()
 #                 [PLACES <number>])
 #
 # SANDBOX is for tests that need the real port, token paths or processes;
-# AS_USER runs there as an ordinary user: for root file modes do not count.
+# AS_USER runs there as an ordinary user, because root ignores file modes.
 function(quillmark_gtest target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "SANDBOX;AS_USER" "PLACES" "LIBRARIES")
   add_executable(${target} ${arg_UNPARSED_ARGUMENTS})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${target} PRIVATE quillmark_options ${arg_LIBRARIES} GTest::gtest_main)
-  # Only the code under test is worth optimising: it halves the build.
+  # Only the code under test is optimised: this halves the build time.
   target_compile_options(${target} PRIVATE -O0 -U_FORTIFY_SOURCE)
 
   if(NOT arg_PLACES)
@@ -72,7 +71,7 @@ function(quillmark_gtest target)
                                 "--gtest_output=xml:${QUILLMARK_TEST_RESULTS}/${name}.xml")
   set_tests_properties(${name} PROPERTIES PROCESSORS ${arg_PLACES} LABELS program)
 
-  # The first name is CMake's before 3.29, the second one's since.
+  # CMake uses the first property before 3.29, the second one since then.
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher}"
                                              TEST_LAUNCHER "${launcher}")
   gtest_discover_tests(
@@ -83,8 +82,8 @@ function(quillmark_gtest target)
     PROPERTIES PROCESSORS ${arg_PLACES} LABELS case)
 endfunction()
 
-# quillmark_pytest(<name> <places> <file> [<word>...]): a file of tests in Python,
-# behind what words of the sandbox's command line are given.
+# quillmark_pytest(<name> <places> <file> [<word>...]): a file of Python tests.
+# The words come before it on the sandbox's command line.
 function(quillmark_pytest name places file)
   quillmark_test(
     ${name}

@@ -3,8 +3,9 @@
 
 # cmake -P Uninstall.cmake, in the build folder
 #
-# Removes what the last installation from there put in place, and the folders
-# that have become empty by it. Those of the system stay, empty or not.
+# Removes the files that the last installation from the build folder
+# installed, and the folders that are empty afterwards. System folders stay, even
+# if empty.
 
 set(manifest "install_manifest.txt")
 if(NOT EXISTS "${manifest}")
@@ -17,7 +18,7 @@ foreach(file IN LISTS files)
     file(REMOVE "$ENV{DESTDIR}${file}")
     message(STATUS "Removed $ENV{DESTDIR}${file}")
   endif()
-  # Up to the first folder that still holds something.
+  # Removes parents up to the first folder that is not empty.
   cmake_path(GET file PARENT_PATH folder)
   while(IS_DIRECTORY "$ENV{DESTDIR}${folder}")
     file(GLOB left LIST_DIRECTORIES true "$ENV{DESTDIR}${folder}/*" "$ENV{DESTDIR}${folder}/.*")

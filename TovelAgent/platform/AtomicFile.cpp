@@ -12,7 +12,6 @@
 #include <unistd.h>
 
 #include "platform/FileError.h"
-#include "platform/OperatingSystem.h"
 #include "platform/SystemError.h"
 
 namespace quillmark {
@@ -28,10 +27,9 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// The file that is to be replaced: behind all links, and what it may look like.
+/// The file to replace, with symbolic links resolved, and the mode of the new file.
 struct Target {
   std::string path;
-  bool exists = false;
   mode_t mode = privateFile;
 };
 
@@ -50,13 +48,12 @@ error_code examine(const std::string& path, Target& target) {
     return FileError::notRegular;
   }
   target.path = real.get();
-  target.exists = true;
   const mode_t mode = status.st_mode & 07777U;
   target.mode = (mode & ~privateFile) == 0 ? mode : privateFile;
   return {};
 }
 
-/// A file beside the target that is gone when this is, whatever became of it.
+/// A file next to the target; the destructor removes it unless it was moved away.
 class TemporaryFile final {
  public:
   explicit TemporaryFile(const Target& target)
@@ -65,7 +62,7 @@ class TemporaryFile final {
     if (descriptor_ >= 0) {
       close(descriptor_);
     }
-    if (made_) {
+    if (isCreated_) {
       unlink(path_.c_str());
     }
   }
@@ -73,12 +70,12 @@ class TemporaryFile final {
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
   [[nodiscard]] const char* path() const { return path_.c_str(); }
-  [[nodiscard]] bool made() const { return made_; }
+  [[nodiscard]] bool isCreated() const { return isCreated_; }
 
-  /// Nothing lies at the path any more.
-  void moved() { made_ = false; }
+  /// Call after the file was renamed: there is nothing left to remove.
+  void markMoved() { isCreated_ = false; }
 
-  /// Everything on the disk, and the file closed.
+  /// Writes `text`, flushes it to the disk and closes the file.
   [[nodiscard]] error_code fill(std::string_view text, mode_t mode) {
     while (!text.empty()) {
       const ssize_t count = write(descriptor_, text.data(), text.size());
@@ -99,7 +96,7 @@ class TemporaryFile final {
  private:
   std::string path_;
   int descriptor_;
-  bool made_ = descriptor_ >= 0;
+  bool isCreated_ = descriptor_ >= 0;
 };
 
 error_code syncFolder(const std::string& path) {
@@ -112,41 +109,13 @@ error_code syncFolder(const std::string& path) {
   return error;
 }
 
-/// Swaps the two files, so that the old one is still there should the folder
-/// not reach the disk.
-error_code swapInto(const TemporaryFile& file, const Target& target) {
-  const auto swapped = [&] { return exchangeFiles(file.path(), target.path.c_str()); };
-  if (!swapped()) {
-    return lastSystemError();
-  }
-  const auto error = syncFolder(folderOf(target.path));
-  if (error) {
-    // Should even this fail, the new file stands, whole.
-    return swapped() ? error : error_code{};
-  }
-  return error;
-}
-
-error_code moveInto(TemporaryFile& file, const Target& target) {
-  if (std::rename(file.path(), target.path.c_str()) != 0) {
-    return lastSystemError();
-  }
-  file.moved();
-  const auto error = syncFolder(folderOf(target.path));
-  if (!error || target.exists) {
-    // Replaced is replaced: there is no old file to go back to.
-    return {};
-  }
-  return unlink(target.path.c_str()) == 0 ? error : error_code{};
-}
-
 }  // namespace
 
 error_code createPrivateFolders(const std::string& path) {
   for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const auto folder = path.substr(0, end);
     if (mkdir(folder.c_str(), privateFolder) == 0) {
-      // Else a loss of power could take the folder with all that is in it.
+      // Otherwise a power loss could remove the folder with everything in it.
       if (const auto error = syncFolder(folderOf(folder))) {
         return error;
       }
@@ -171,20 +140,20 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
     return error;
   }
   TemporaryFile file(target);
-  if (!file.made()) {
+  if (!file.isCreated()) {
     return lastSystemError();
   }
   if (const auto error = file.fill(text, target.mode)) {
     return error;
   }
-  if (target.exists) {
-    const auto error = swapInto(file, target);
-    // Not every file system can exchange.
-    if (error != boost::system::errc::invalid_argument) {
-      return error;
-    }
+  if (std::rename(file.path(), target.path.c_str()) != 0) {
+    return lastSystemError();
   }
-  return moveInto(file, target);
+  file.markMoved();
+  // The new file is in place. If the folder cannot be flushed, a loss of power may
+  // still bring the old one back.
+  static_cast<void>(syncFolder(folderOf(target.path)));
+  return {};
 }
 
 }  // namespace quillmark

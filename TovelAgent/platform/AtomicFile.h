@@ -10,18 +10,19 @@
 
 namespace quillmark {
 
-/// Makes the folder `path` with all folders above it; those it makes are for
-/// the user alone (mode 0700). One that is there already is fine. Any thread.
+/// Creates the folder `path` and all missing folders above it, accessible only
+/// to the user (mode 0700). Existing folders are left as they are. Any thread.
 [[nodiscard]] boost::system::error_code createPrivateFolders(const std::string& path);
 
-/// Puts `text` in place of the file at `path`, or makes it, so that whoever
-/// looks finds the old file or the new one, whole, even after a loss of power.
+/// Replaces the content of the file at `path` with `text`, or creates the file.
+/// Readers see either the complete old file or the complete new one, even after
+/// a power loss.
 ///
-/// The file is for the user alone: 0600, or what stricter mode it had. A
-/// symbolic link to a regular file is followed. On an error the old file is as
-/// it was and nothing else stays behind; on a file system that cannot exchange
-/// two files there is no going back, so a folder that could not be flushed is no
-/// error there. Any thread; waits for the disk.
+/// The file is accessible only to the user: mode 0600, or the old file's mode
+/// if that is stricter. A symbolic link to a regular file is followed. On an
+/// error the old file is unchanged and no other file is left behind. A folder
+/// that cannot be flushed after the replacement is not an error. Any thread;
+/// waits for the disk.
 [[nodiscard]] boost::system::error_code writeFileAtomically(const std::string& path,
                                                             std::string_view text);
 

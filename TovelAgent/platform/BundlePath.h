@@ -7,13 +7,13 @@
 
 namespace quillmark {
 
-/// Where the application bundle of `executable`, an absolute path, lies: `X`
-/// for `X/Contents/MacOS/name`, the executable's folder otherwise. Without a
-/// trailing slash. Any thread.
+/// The path of the application bundle that contains `executable`, an absolute
+/// path: `X` for `X/Contents/MacOS/name`, otherwise the executable's folder.
+/// Without a trailing slash. Any thread.
 [[nodiscard]] std::string bundlePathOf(const std::string& executable);
 
-/// The bundle of the running program, links resolved. Empty when the system
-/// does not tell. Any thread.
+/// The path of the running program's bundle, with symbolic links resolved. Empty
+/// when the system does not report the program's path. Any thread.
 [[nodiscard]] std::string bundlePath();
 
 }  // namespace quillmark

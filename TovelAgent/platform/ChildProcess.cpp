@@ -21,14 +21,14 @@ namespace {
 
 using boost::system::error_code;
 
-/// How a child differs from this process.
+/// The settings of a child process that differ from this process.
 class SpawnSetup final {
  public:
   SpawnSetup() {
     posix_spawn_file_actions_init(&actions_);
     posix_spawnattr_init(&attributes_);
-    // Our sockets and signal habits are none of the child's business.
-    inheritStandardStreamsOnly(actions_, flags_);
+    // The child must not inherit this process's sockets or signal settings.
+    inheritStandardStreamsOnly(actions_);
     sigset_t signals{};
     sigemptyset(&signals);
     posix_spawnattr_setsigmask(&attributes_, &signals);
@@ -67,8 +67,8 @@ class SpawnSetup final {
   short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
-/// Whoever started this program may have had it ignore that children end; then
-/// the system keeps no exit status.
+/// The parent process may have started this program with SIGCHLD ignored; the
+/// system then keeps no exit status of a child.
 void keepExitStatuses() {
   struct sigaction current {};
   if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {
@@ -99,7 +99,7 @@ error_code startDetached(const Command& command) {
   try {
     std::thread([child] { static_cast<void>(waitFor(child)); }).detach();
   } catch (const std::system_error&) {
-    // No thread to be had: what is started here ends at once anyway.
+    // No thread is available. The wait is short: what is started here ends at once.
     static_cast<void>(waitFor(child));
   }
   return {};

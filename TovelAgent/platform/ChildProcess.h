@@ -13,20 +13,20 @@ namespace quillmark {
 
 /// A program and its arguments, without the name of the program itself.
 struct Command {
-  std::string executable;  ///< a path; nothing is searched
+  std::string executable;  ///< a path; PATH is not searched
   std::vector<std::string> arguments;
 
   friend bool operator==(const Command&, const Command&) = default;
 };
 
-/// Starts `command` in a session of its own, with this process's standard
-/// streams, and does not wait; no zombie is left when it ends. An error when
-/// the program could not be started. Any thread.
+/// Starts `command` in its own session, with this process's standard streams,
+/// and does not wait; it leaves no zombie when it ends. Returns an error when the
+/// program could not be started. Any thread.
 [[nodiscard]] boost::system::error_code startDetached(const Command& command);
 
-/// Runs `command` with its output discarded and waits for it to end. Its exit
-/// status, or 128 plus the signal that ended it; an error when it could not be
-/// started or waited for. Blocks the calling thread.
+/// Runs `command` with its output discarded and waits for it to end. Returns its
+/// exit status, or 128 plus the number of the signal that ended it; an error
+/// when it could not be started or waited for. Blocks the calling thread.
 [[nodiscard]] boost::system::result<int> runSilently(const Command& command);
 
 }  // namespace quillmark

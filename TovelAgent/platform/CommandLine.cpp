@@ -12,7 +12,7 @@
 namespace quillmark {
 namespace {
 
-// Beyond the characters, so that they collide with no short option.
+// Above all character values, so that they do not collide with short options.
 enum Meaning : int { flagMeaning = 256, passedOnMeaning };
 
 std::vector<option> optionTable(const CommandLineRules& rules) {
@@ -30,7 +30,7 @@ std::vector<option> optionTable(const CommandLineRules& rules) {
 
 CommandLine done(int exitCode) { return {.exitCode = exitCode, .flags = {}}; }
 
-CommandLine misused(const CommandLineRules& rules, const std::string& reason) {
+CommandLine reportMisuse(const CommandLineRules& rules, const std::string& reason) {
   std::cerr << rules.program << ": " << reason << '\n' << rules.help;
   return done(usageError);
 }
@@ -47,13 +47,13 @@ CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rule
   CommandLine line;
   opterr = 0;
   while (true) {
-    // What getopt is about to read: it does not say which word it refused.
+    // The word that getopt reads next: getopt does not report which word it rejects.
     const std::string_view word = optind < argc ? argv[optind] : "";
     int index = 0;
     switch (next(argc, argv, "+:hV", table.data(), &index)) {
       case -1:
         if (optind < argc) {
-          return misused(rules, std::string("unexpected argument '") + argv[optind] + "'");
+          return reportMisuse(rules, std::string("unexpected argument '") + argv[optind] + "'");
         }
         return line;
       case 'h':
@@ -68,9 +68,9 @@ CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rule
       case passedOnMeaning:
         break;
       case ':':
-        return misused(rules, "a value is missing behind '" + std::string(word) + "'");
+        return reportMisuse(rules, "a value is missing behind '" + std::string(word) + "'");
       default:
-        return misused(rules, "unknown option '" + std::string(word) + "'");
+        return reportMisuse(rules, "unknown option '" + std::string(word) + "'");
     }
   }
 }

@@ -9,35 +9,35 @@
 
 namespace quillmark {
 
-/// What a program takes on its command line beside `--help` and `--version`.
-/// Nothing that is no option is taken.
+/// The options that a program accepts besides `--help` and `--version`.
+/// Arguments that are not options are errors.
 struct CommandLineRules {
   std::string program;
   std::string version;
-  /// All of what `--help` prints.
+  /// The full output of `--help`.
   std::string help;
   /// Options without a value, by their long names.
   std::vector<std::string> flags;
-  /// Options with a value that are for somebody else to read. These may also
-  /// begin with a single dash, as toolkits write them.
+  /// Options with a value that another component reads. They may also begin with
+  /// a single dash, as toolkits write them.
   std::vector<std::string> passedOn;
 };
 
 struct CommandLine {
-  /// Set when the program is done, with everything said that there is to say.
+  /// Set when the program must exit now; all output is already written.
   std::optional<int> exitCode;
-  /// Those of the rules' flags that were given.
+  /// The flags of the rules that were given.
   std::vector<std::string> flags;
 
   [[nodiscard]] bool has(const std::string& flag) const;
 };
 
-/// Exit code of a program that was called wrongly.
+/// Exit code for a wrong command line.
 inline constexpr int usageError = 2;
 
-/// Reads what `main` was given. Answers `--help` and `--version` on standard
-/// output, and what the rules do not know on standard error. Arguments may
-/// change their order. At the start of a program, before its threads.
+/// Parses the arguments of `main`. Answers `--help` and `--version` on standard
+/// output, and reports unknown arguments on standard error. May reorder `argv`.
+/// Call at the start of a program, before it starts threads.
 [[nodiscard]] CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules);
 
 }  // namespace quillmark

@@ -10,7 +10,7 @@
 namespace quillmark {
 
 std::optional<std::string> computerName() {
-  // One byte stays zero: a name that fills the buffer comes unterminated.
+  // Keep the last byte zero: a name that fills the buffer is not terminated.
   std::array<char, 257> name{};
   if (gethostname(name.data(), name.size() - 1) != 0 || name.front() == '\0') {
     return std::nullopt;

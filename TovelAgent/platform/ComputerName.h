@@ -8,8 +8,7 @@
 
 namespace quillmark {
 
-/// The name of this machine as its user knows it; no value when it has none.
-/// Any thread.
+/// The host name of this machine; no value when it has none. Any thread.
 [[nodiscard]] std::optional<std::string> computerName();
 
 }  // namespace quillmark

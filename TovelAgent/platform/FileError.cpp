@@ -10,7 +10,7 @@
 namespace quillmark {
 namespace {
 
-// The base class is never deleted through, so its destructor is not virtual.
+// No category is deleted through the base class, so its destructor is not virtual.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor,*-non-virtual-destructor)
 class Category final : public boost::system::error_category {
  public:

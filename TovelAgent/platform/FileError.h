@@ -7,17 +7,17 @@
 
 namespace quillmark {
 
-/// What can be wrong with a file beside what the system itself objects to.
+/// Errors of files that are not errors of the operating system.
 enum class FileError {
   notRegular = 1,  ///< a folder, FIFO, device or socket
-  tooLarge,        ///< more bytes than its reader takes
+  tooLarge,        ///< more bytes than the reader accepts
   notUtf8,
-  unquotablePath,  ///< a path that would break out of a shell's quotes
+  unquotablePath,  ///< cannot be put in a shell's single quotes
 };
 
-/// The error as a code whose message is for the user to read. It equals the
-/// portable conditions `not_supported`, `file_too_large`,
-/// `illegal_byte_sequence` and `invalid_argument`, in this order.
+/// The error as a code with a message for the user. In the order of the enum,
+/// the codes equal the portable conditions `not_supported`, `file_too_large`,
+/// `illegal_byte_sequence` and `invalid_argument`.
 [[nodiscard]] boost::system::error_code make_error_code(FileError error);
 
 }  // namespace quillmark

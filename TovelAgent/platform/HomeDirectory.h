@@ -8,8 +8,9 @@
 namespace quillmark {
 
 /// The current user's home directory without a trailing slash: `$HOME`, or the
-/// password database's entry where that is unset or empty. Empty when neither
-/// names one. Any thread, as long as none changes the environment meanwhile.
+/// entry in the password database when `$HOME` is unset or empty. Empty when
+/// neither is available. Any thread, as long as no thread changes the
+/// environment at the same time.
 [[nodiscard]] std::string homeDirectory();
 
 }  // namespace quillmark

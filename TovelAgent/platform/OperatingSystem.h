@@ -9,22 +9,19 @@
 
 namespace quillmark {
 
-// What every system calls differently; one source file for each. Any thread.
+// Functions that differ between operating systems: a port replaces their source
+// file. Any thread.
 
-/// The running program's file, absolute, links resolved. Empty when the system
-/// does not tell.
+/// The absolute path of the running program, with symbolic links resolved. Empty
+/// when the system does not report it.
 [[nodiscard]] std::string programPath();
 
-/// Lets two files of one file system change places at once; false with `errno`
-/// set, EINVAL where the file system cannot.
-[[nodiscard]] bool exchangeFiles(const char* one, const char* other);
+/// Adds to `actions` what makes a child inherit only the standard streams and no
+/// other descriptor of this process.
+void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
 
-/// How a child inherits none of this process's descriptors but the standard
-/// streams. Adds to both what is needed.
-void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions, short& flags);
-
-/// Has large blocks of memory go back to the system as soon as they are freed,
-/// whatever was allocated and freed before.
+/// Makes the allocator return large blocks to the system as soon as they are
+/// freed, independent of earlier allocations.
 void returnLargeBlocks();
 
 }  // namespace quillmark

@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// What the last failed system call objected to. Same thread as that call.
+/// The error of the last failed system call. Call on the same thread.
 [[nodiscard]] inline boost::system::error_code lastSystemError() {
   return {errno, boost::system::system_category()};
 }

@@ -22,7 +22,7 @@ namespace {
 
 using boost::system::error_code;
 
-error_code notRegular(int descriptor) {
+error_code checkRegular(int descriptor) {
   struct stat status {};
   if (fstat(descriptor, &status) != 0) {
     return lastSystemError();
@@ -38,7 +38,7 @@ boost::system::result<std::string> readTextFile(const std::string& path, std::si
     return lastSystemError();
   }
   BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
-  if (const auto error = notRegular(descriptor)) {
+  if (const auto error = checkRegular(descriptor)) {
     return error;
   }
 

@@ -10,11 +10,11 @@
 
 namespace quillmark {
 
-/// Reads the whole file at `path` as UTF-8, at most `maxBytes` of it.
+/// Reads the whole file at `path`; it must be UTF-8 and at most `maxBytes` long.
 ///
-/// Only regular files are read, and opening never waits: a FIFO or a device
-/// under that name is an error, not a hang. Errors are the system's own and those
-/// of `FileError`. Any thread; it blocks for as long as the disk takes.
+/// Only regular files are read. Opening never blocks: a FIFO or a device at that
+/// path is an error. Errors are those of the system and of `FileError`. Any
+/// thread; waits for the disk.
 [[nodiscard]] boost::system::result<std::string> readTextFile(const std::string& path,
                                                               std::size_t maxBytes);
 

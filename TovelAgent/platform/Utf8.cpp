@@ -21,7 +21,7 @@ bool isWhiteSpace(utf::code_point c) {
 }
 
 template <class IsSpace>
-std::string_view without(IsSpace isSpace, std::string_view text) {
+std::string_view trimEnds(IsSpace isSpace, std::string_view text) {
   const auto* first = text.end();
   const auto* last = text.end();
   for (const auto* at = text.begin(); at != text.end();) {
@@ -45,8 +45,8 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string_view trimmed(std::string_view text) { return without(isWhiteSpace, text); }
+std::string_view trimmed(std::string_view text) { return trimEnds(isWhiteSpace, text); }
 
-std::string_view trimmedInLine(std::string_view text) { return without(isLineSpace, text); }
+std::string_view trimmedInLine(std::string_view text) { return trimEnds(isLineSpace, text); }
 
 }  // namespace quillmark

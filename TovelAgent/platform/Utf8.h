@@ -16,8 +16,8 @@ namespace quillmark {
 /// A view into `text`. Any thread.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
-/// The same for white space within a line alone: spaces of all kinds and tabs,
-/// but no line breaks. Any thread.
+/// Like `trimmed`, but removes only spaces of all kinds and tabs, not line
+/// breaks. Any thread.
 [[nodiscard]] std::string_view trimmedInLine(std::string_view text);
 
 }  // namespace quillmark

@@ -8,7 +8,6 @@ import scene
 import traced
 
 SCENES = scene.scenes("/tmp/killed")
-NO_EXCHANGE = "error=EINVAL"
 
 
 def kill(_call):
@@ -44,17 +43,3 @@ def test_the_file_changes_once(name):
     states = [check(SCENES[name], case.values[1]) for case in CASES if case.values[0] == name]
     assert states == sorted(states, key=["old", "new"].index)
     assert set(states) == {"old", "new"}
-
-
-@pytest.mark.parametrize("name", ["save-over-old", "import-over-old"])
-def test_killed_where_files_cannot_be_exchanged(name):
-    one = SCENES[name]
-    one.set_up()
-    exchange = traced.Fault(
-        next(c for c in traced.run(one.command, one.home).calls if c.name == "renameat2"),
-        NO_EXCHANGE,
-    )
-    one.set_up()
-    run = traced.run(one.command, one.home, [exchange])
-    for call in run.calls[run.calls.index(exchange.call) + 1 :]:
-        assert check(one, exchange, traced.Fault(call, "signal=SIGKILL")) in ("old", "new")

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <cstdio>
 #include <filesystem>
 
-#include <fcntl.h>
 #include <malloc.h>
 #include <unistd.h>
 
@@ -17,17 +15,14 @@ std::string programPath() {
   return std::filesystem::read_symlink("/proc/self/exe", unknown).string();
 }
 
-bool exchangeFiles(const char* one, const char* other) {
-  return renameat2(AT_FDCWD, one, AT_FDCWD, other, RENAME_EXCHANGE) == 0;
-}
-
-void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions, short& /*flags*/) {
+void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions) {
   posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
 }
 
 void returnLargeBlocks() {
 #ifdef __GLIBC__
-  // Otherwise freeing one block makes all of up to its size stay.
+  // By default, after one large block is freed, later blocks up to its size are not
+  // returned to the system.
   constexpr int smallest = 1 << 20;
   mallopt(M_MMAP_THRESHOLD, smallest);
 #endif
