@@ -8,18 +8,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "FileLook.h"
+#include "FileAccess.h"
 #include "agentctl/AgentProcess.h"
 #include "platform/BundlePath.h"
 
 namespace quillmark::doctor {
 namespace {
 
-void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& harmless) {
+void judgeBundle(Findings& findings, const std::string& bundle, const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "bundle";
-  finding.facts["path"] = harmless(bundle);
-  finding.text = harmless(bundle) + ": ";
+  finding.facts["path"] = sanitize(bundle);
+  finding.text = sanitize(bundle) + ": ";
   if (!staysQuoted(bundle)) {
     finding.say(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
                 "Move the application to a path without an apostrophe.");
@@ -36,20 +36,20 @@ void judgeBundle(Findings& findings, const std::string& bundle, const Harmless& 
   findings.push_back(std::move(finding));
 }
 
-void judgeProgram(Findings& findings, const std::string& bundle, const Harmless& harmless) {
+void judgeProgram(Findings& findings, const std::string& bundle, const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "program";
   std::string path = bundle;
   path.append(programsInBundle).append("/").append(agentFileName);
-  finding.facts["path"] = harmless(path);
-  finding.text = harmless(path) + ": ";
+  finding.facts["path"] = sanitize(path);
+  finding.text = sanitize(path) + ": ";
   const auto mode = modeOf(path);
   if (!mode) {
     finding.say(Mark::wrong, "not there, so Start Agent starts nothing",
-                "Install the agent as " + harmless(path) + ".");
+                "Install the agent as " + sanitize(path) + ".");
   } else if (!S_ISREG(*mode) || !mayAccess(path, X_OK)) {
     finding.say(Mark::wrong, "not executable, so Start Agent starts nothing",
-                "Make " + harmless(path) + " an executable program.");
+                "Make " + sanitize(path) + " an executable program.");
   } else {
     finding.say(Mark::ok, "executable");
   }
@@ -58,10 +58,10 @@ void judgeProgram(Findings& findings, const std::string& bundle, const Harmless&
 
 }  // namespace
 
-void checkBundle(Findings& findings, const Harmless& harmless) {
+void checkBundle(Findings& findings, const TextSanitizer& sanitize) {
   const auto bundle = bundlePath();
-  judgeBundle(findings, bundle, harmless);
-  judgeProgram(findings, bundle, harmless);
+  judgeBundle(findings, bundle, sanitize);
+  judgeProgram(findings, bundle, sanitize);
 }
 
 }  // namespace quillmark::doctor

@@ -4,12 +4,12 @@
 #pragma once
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// Looks at the application bundle, which this program shares with the panel,
-/// and at the agent's program in it.
-void checkBundle(Findings& findings, const Harmless& harmless);
+/// Checks the application bundle, which this program shares with the panel, and
+/// the agent's program in it.
+void checkBundle(Findings& findings, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

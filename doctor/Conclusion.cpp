@@ -13,11 +13,11 @@
 namespace quillmark::doctor {
 namespace {
 
-/// Whatever keeps an agent from starting, in the order in which it does.
-constexpr std::string_view startsNothing[] = {"bundle", "program", "tools",
+/// The checks whose failure keeps an agent from starting, the first to apply first.
+constexpr std::string_view startBlockers[] = {"bundle", "program", "tools",
                                               "home",   "logs",    "config-toml"};
 
-/// The step of the first finding with this mark that has one.
+/// The step of the first accepted finding that has this mark and a step; else empty.
 template <class Accept>
 std::string firstStep(const Findings& findings, Mark mark, Accept accept) {
   const auto found = std::find_if(findings.begin(), findings.end(), [&](const Finding& finding) {
@@ -28,14 +28,14 @@ std::string firstStep(const Findings& findings, Mark mark, Accept accept) {
 
 std::string chooseStep(const Findings& findings, const Port& port) {
   if (!port.isOpen) {
-    for (const auto check : startsNothing) {
+    for (const auto check : startBlockers) {
       auto step = firstStep(findings, Mark::wrong,
                             [&](const Finding& finding) { return finding.check == check; });
       if (!step.empty()) {
         return step;
       }
     }
-    // A missing token comes with the agent.
+    // A missing token needs no step of its own: the agent creates it.
     return startAgentStep;
   }
   const auto any = [](const Finding&) { return true; };

@@ -12,7 +12,7 @@
 
 #include "ConfigToml.h"
 #include "ConfigValues.h"
-#include "FileLook.h"
+#include "FileAccess.h"
 #include "agentctl/ConfigFile.h"
 #include "agentctl/ConfigReadBack.h"
 #include "platform/TextFile.h"
@@ -20,15 +20,16 @@
 namespace quillmark::doctor {
 namespace {
 
-struct ConfigPlace {
+struct ConfigCandidate {
   std::string path;
   boost::system::result<std::string> text;
 };
 
-Finding judge(const ConfigPlace& place, const char* check, bool isTaken, const Harmless& harmless) {
+Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
+              const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = check;
-  const auto path = harmless(place.path);
+  const auto path = sanitize(place.path);
   finding.facts["path"] = path;
   finding.text = path + ": ";
   if (!place.text && meansMissing(place.text.error())) {
@@ -42,7 +43,7 @@ Finding judge(const ConfigPlace& place, const char* check, bool isTaken, const H
         "cannot be read (" + place.text.error().message() + "), the panel passes it over";
     finding.mark = Mark::wrong;
     finding.step = "Make " + path + " a file that the panel's user can read, or remove it.";
-  } else if (isTaken) {
+  } else if (isShadowed) {
     finding.facts["state"] = "not read";
     finding.text += "not read, the other one comes first";
     finding.mark = Mark::note;
@@ -61,44 +62,45 @@ Finding judge(const ConfigPlace& place, const char* check, bool isTaken, const H
   return finding;
 }
 
-/// Every line that could be taken for a key, whole, for the file may be no TOML.
-void hideKeys(std::string_view text, const ConfigToml& toml, Harmless& harmless) {
-  harmless.hide(toml.apiKey.value_or(""));
+/// Hides the key that the TOML parser finds, and the whole value in every line with "api_key",
+/// because the file may not be valid TOML.
+void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sanitize) {
+  sanitize.hide(toml.apiKey.value_or(""));
   while (!text.empty()) {
     const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(text.size(), line.size() + 1));
     if (line.find("api_key") == std::string_view::npos) {
       continue;
     }
-    harmless.hide(readEntries(line).apiKey.value_or(""));
+    sanitize.hide(readEntries(line).apiKey.value_or(""));
     const auto start = line.find_first_not_of(" \t='\"", line.find('='));
     if (start != std::string_view::npos) {
-      harmless.hide(line.substr(start, line.find_last_not_of(" \t\r'\"") + 1 - start));
+      sanitize.hide(line.substr(start, line.find_last_not_of(" \t\r'\"") + 1 - start));
     }
   }
 }
 
 }  // namespace
 
-void checkConfig(Findings& findings, Harmless& harmless) {
+void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"config", "config-old"};
-  std::vector<ConfigPlace> places;
+  std::vector<ConfigCandidate> places;
   for (const auto& path : configFilePaths()) {
     places.push_back({path, readTextFile(path, maxConfigBytes)});
   }
-  const ConfigPlace* taken = nullptr;
+  const ConfigCandidate* chosen = nullptr;
   for (std::size_t i = 0; i < places.size(); ++i) {
-    findings.push_back(judge(places[i], checks.at(i), taken != nullptr, harmless));
-    taken = taken == nullptr && places[i].text ? &places[i] : taken;
+    findings.push_back(judge(places[i], checks.at(i), chosen != nullptr, sanitize));
+    chosen = chosen == nullptr && places[i].text ? &places[i] : chosen;
   }
-  if (taken == nullptr) {
+  if (chosen == nullptr) {
     findings.back().say(Mark::note, "so this machine is not enrolled", enrol);
     return;
   }
-  const auto toml = readToml(*taken->text);
-  const auto entries = readEntries(*taken->text);
-  hideKeys(*taken->text, toml, harmless);
-  findings.push_back(judgeToml(toml, harmless(taken->path)));
+  const auto toml = readToml(*chosen->text);
+  const auto entries = readEntries(*chosen->text);
+  hideKeys(*chosen->text, toml, sanitize);
+  findings.push_back(judgeToml(toml, sanitize(chosen->path)));
   findings.push_back(judgeKey(toml, entries));
   findings.push_back(judgeUrl(toml, entries));
 }

@@ -4,12 +4,12 @@
 #pragma once
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// Looks at the agent's configuration as the Settings tab reads it, and lets
-/// `harmless` hide every key. Keys and URLs are told by their length alone.
-void checkConfig(Findings& findings, Harmless& harmless);
+/// Checks the agent's configuration as the Settings tab reads it, and lets
+/// `sanitize` hide every key. Of keys and URLs, only the length is reported.
+void checkConfig(Findings& findings, TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -16,7 +16,7 @@ ConfigToml readToml(std::string_view text) {
     result.apiKey = agent["api_key"].value_exact<std::string>();
     result.serverUrl = agent["server_url"].value_exact<std::string>();
   } catch (const toml::parse_error& error) {
-    // Its words may quote the text, and with it the key.
+    // Drop the error's message: it may quote the text and with it the key.
     result.error = {error.source().begin.line, error.source().begin.column};
   }
   return result;

@@ -10,13 +10,13 @@
 
 namespace quillmark::doctor {
 
-/// What a reader of TOML finds in a configuration.
+/// What a TOML parser finds in a configuration.
 struct ConfigToml {
   struct Place {
     std::uint32_t line = 0;
     std::uint32_t column = 0;
   };
-  std::optional<Place> error;  ///< where it stops being TOML; then the rest is empty
+  std::optional<Place> error;  ///< of the syntax error, if any; then the rest is empty
   bool hasAgent = false;       ///< whether there is a section [agent]
   std::optional<std::string> apiKey;
   std::optional<std::string> serverUrl;

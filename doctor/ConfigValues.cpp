@@ -8,7 +8,7 @@
 namespace quillmark::doctor {
 namespace {
 
-/// Compares what the file says with what the Settings tab makes of it.
+/// Compares the value in the file with the value that the Settings tab reads from it.
 void sayReadBack(Finding& finding, const std::optional<std::string>& written,
                  const std::optional<std::string>& readBack) {
   if (readBack) {

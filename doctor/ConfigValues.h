@@ -11,14 +11,15 @@
 
 namespace quillmark::doctor {
 
-/// What to do without a key.
+/// The step when the API key or the URL is missing.
 inline constexpr auto enrol =
     "Enter the API key on the panel's Settings tab, press Save & Connect, and restart the agent.";
 
-/// Whether the configuration at `path`, harmless already, is one for the agent.
+/// Whether the configuration is valid TOML with a section [agent]. `path` is already
+/// sanitized.
 [[nodiscard]] Finding judgeToml(const ConfigToml& toml, const std::string& path);
 
-// Whether the Settings tab reads back what is written.
+// Whether the Settings tab reads the value exactly as the file has it.
 [[nodiscard]] Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries);
 [[nodiscard]] Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries);
 

@@ -17,8 +17,8 @@ void count(Contents& contents, const char* fact, std::size_t number, const std::
   contents.entries[fact] = number;
 }
 
-void describe(Contents& contents, const AgentStatus& status, const Harmless& harmless) {
-  contents.status = harmless(status.status, maxStatusCharacters);
+void describe(Contents& contents, const AgentStatus& status, const TextSanitizer& sanitize) {
+  contents.status = sanitize(status.status, maxStatusCharacters);
   contents.summary =
       "status \"" + *contents.status + "\", threats " + std::to_string(status.threat_count);
   contents.entries["threats"] = status.threat_count;
@@ -28,15 +28,15 @@ void describe(Contents& contents, const AgentStatus& status, const Harmless& har
   }
 }
 
-void describe(Contents& contents, const AlertsResponse& body, const Harmless&) {
+void describe(Contents& contents, const AlertsResponse& body, const TextSanitizer&) {
   count(contents, "alerts", body.alerts.size(), "alert");
 }
 
-void describe(Contents& contents, const NetworkResponse& body, const Harmless&) {
+void describe(Contents& contents, const NetworkResponse& body, const TextSanitizer&) {
   count(contents, "connections", body.connections.size(), "connection");
 }
 
-void describe(Contents& contents, const InventoryData& body, const Harmless&) {
+void describe(Contents& contents, const InventoryData& body, const TextSanitizer&) {
   count(contents, "apps", body.apps.size(), "application");
   count(contents, "services", body.services.size(), "service");
   count(contents, "network_interfaces", body.network_interfaces.size(), "interface");
@@ -44,11 +44,11 @@ void describe(Contents& contents, const InventoryData& body, const Harmless&) {
 }
 
 template <Record R>
-Contents read(std::string_view body, const Harmless& harmless) {
+Contents read(std::string_view body, const TextSanitizer& sanitize) {
   Contents contents;
   const auto decoded = decode<R>(std::string(body));
   if (decoded) {
-    describe(contents, *decoded, harmless);
+    describe(contents, *decoded, sanitize);
   } else {
     contents.error = decoded.error();
   }
@@ -57,20 +57,20 @@ Contents read(std::string_view body, const Harmless& harmless) {
 
 }  // namespace
 
-Contents readStatus(std::string_view body, const Harmless& harmless) {
-  return read<AgentStatus>(body, harmless);
+Contents readStatus(std::string_view body, const TextSanitizer& sanitize) {
+  return read<AgentStatus>(body, sanitize);
 }
 
-Contents readAlerts(std::string_view body, const Harmless& harmless) {
-  return read<AlertsResponse>(body, harmless);
+Contents readAlerts(std::string_view body, const TextSanitizer& sanitize) {
+  return read<AlertsResponse>(body, sanitize);
 }
 
-Contents readNetwork(std::string_view body, const Harmless& harmless) {
-  return read<NetworkResponse>(body, harmless);
+Contents readNetwork(std::string_view body, const TextSanitizer& sanitize) {
+  return read<NetworkResponse>(body, sanitize);
 }
 
-Contents readInventory(std::string_view body, const Harmless& harmless) {
-  return read<InventoryData>(body, harmless);
+Contents readInventory(std::string_view body, const TextSanitizer& sanitize) {
+  return read<InventoryData>(body, sanitize);
 }
 
 }  // namespace quillmark::doctor

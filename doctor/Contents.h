@@ -10,24 +10,24 @@
 #include <boost/json/object.hpp>
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 #include "model/DecodeError.h"
 
 namespace quillmark::doctor {
 
-/// What the panel makes of one body.
+/// What the panel reads from one response body.
 struct Contents {
-  std::optional<DecodeError> error;   ///< set when it shows nothing of it
-  std::string summary;                ///< in words, such as "2 alerts"
-  std::optional<std::string> status;  ///< the agent's word for how it is, made harmless
+  std::optional<DecodeError> error;   ///< set when the panel shows nothing of the body
+  std::string summary;                ///< as text, such as "2 alerts"
+  std::optional<std::string> status;  ///< the agent's status text, sanitized
   Mark mark = Mark::ok;
-  boost::json::object entries;  ///< how many of what
+  boost::json::object entries;  ///< number of entries of each kind
 };
 
-// One for each body of the interface.
-[[nodiscard]] Contents readStatus(std::string_view body, const Harmless& harmless);
-[[nodiscard]] Contents readAlerts(std::string_view body, const Harmless& harmless);
-[[nodiscard]] Contents readNetwork(std::string_view body, const Harmless& harmless);
-[[nodiscard]] Contents readInventory(std::string_view body, const Harmless& harmless);
+// One function for each endpoint of the agent.
+[[nodiscard]] Contents readStatus(std::string_view body, const TextSanitizer& sanitize);
+[[nodiscard]] Contents readAlerts(std::string_view body, const TextSanitizer& sanitize);
+[[nodiscard]] Contents readNetwork(std::string_view body, const TextSanitizer& sanitize);
+[[nodiscard]] Contents readInventory(std::string_view body, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

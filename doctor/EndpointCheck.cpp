@@ -6,9 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include "Asking.h"
+#include "AgentQuery.h"
 #include "EndpointVerdict.h"
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 
 namespace quillmark::doctor {
 namespace {
@@ -21,18 +21,19 @@ constexpr Endpoint endpoints[] = {{"status", statusPath, readStatus, "status"},
 }  // namespace
 
 Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& port,
-                     const Harmless& harmless) {
+                     const TextSanitizer& sanitize) {
   std::vector<std::string_view> paths;
   for (const auto& endpoint : endpoints) {
     paths.push_back(endpoint.path);
   }
-  const auto all = inUse.token ? askAll(*inUse.token, paths) : std::vector<Asked>(paths.size());
+  const auto all =
+      inUse.token ? queryAgent(*inUse.token, paths) : std::vector<QueryResult>(paths.size());
 
   Shown shown;
   for (std::size_t i = 0; i < paths.size(); ++i) {
     const auto& endpoint = endpoints[i];
     auto verdict =
-        inUse.token ? judge(endpoint, all[i], port, harmless) : notAsked(endpoint, inUse.refusal);
+        inUse.token ? judge(endpoint, all[i], port, sanitize) : notAsked(endpoint, inUse.refusal);
     if (endpoint.path == statusPath) {
       shown.status = verdict.status;
       shown.offlineBecause = verdict.reason;

@@ -8,21 +8,21 @@
 #include <vector>
 
 #include "Finding.h"
-#include "Harmless.h"
 #include "PortCheck.h"
+#include "TextSanitizer.h"
 #include "TokenCheck.h"
 
 namespace quillmark::doctor {
 
-/// What the panel gets to show of the agent's answers.
+/// What the panel shows of the agent's answers.
 struct Shown {
-  std::optional<std::string> status;  ///< the agent's word, harmless; absent: OFFLINE
-  std::string offlineBecause;         ///< a clause
-  std::vector<std::string> empty;     ///< what else stays empty, such as "alerts"
+  std::optional<std::string> status;  ///< the agent's status text, sanitized; no value: OFFLINE
+  std::string offlineBecause;         ///< the reason, as a clause
+  std::vector<std::string> empty;     ///< the other parts without contents, such as "alerts"
 };
 
-/// Asks the agent all that the panel asks, with the same token.
+/// Sends the panel's requests to the agent, with the same token; none without a token.
 [[nodiscard]] Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& port,
-                                   const Harmless& harmless);
+                                   const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

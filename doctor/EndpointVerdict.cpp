@@ -17,12 +17,12 @@ constexpr unsigned httpOk = 200;
 constexpr unsigned httpUnauthorized = 401;
 constexpr unsigned httpForbidden = 403;
 
-struct Explained {
+struct FailureText {
   const char* fact;
   const char* words;
 };
 
-Explained explained(HttpFailure failure) {
+FailureText textOf(HttpFailure failure) {
   switch (failure) {
     case HttpFailure::notConnected:
       return {"not connected", "no connection"};
@@ -38,14 +38,14 @@ Explained explained(HttpFailure failure) {
   return {"too large", "the answer is larger than the panel takes"};
 }
 
-/// Where to begin when the answer is none of an agent.
-std::string otherwise(const Port& port, const std::string& step) {
+/// The step after a bad answer: `step`, unless a process that is no agent holds the port.
+std::string stepUnlessStranger(const Port& port, const std::string& step) {
   return port.stranger ? "End process " + std::to_string(*port.stranger) +
                              ", which holds the agent's port, and start the agent."
                        : step;
 }
 
-Verdict begun(const Endpoint& endpoint) {
+Verdict newVerdict(const Endpoint& endpoint) {
   Verdict verdict;
   verdict.finding.check = endpoint.check;
   verdict.finding.facts["path"] = std::string(endpoint.path);
@@ -55,27 +55,28 @@ Verdict begun(const Endpoint& endpoint) {
 
 class EndpointJudge final {
  public:
-  EndpointJudge(const Endpoint& endpoint, const Port& port, const Harmless& harmless)
-      : endpoint_(endpoint), port_(port), harmless_(harmless), verdict_(begun(endpoint)) {}
+  EndpointJudge(const Endpoint& endpoint, const Port& port, const TextSanitizer& sanitize)
+      : endpoint_(endpoint), port_(port), sanitize_(sanitize), verdict_(newVerdict(endpoint)) {}
 
-  [[nodiscard]] Verdict operator()(const Asked& asked) {
-    verdict_.finding.facts["milliseconds"] = asked.took.count();
-    if (!asked.result) {
+  [[nodiscard]] Verdict operator()(const QueryResult& query) {
+    verdict_.finding.facts["milliseconds"] = query.took.count();
+    if (!query.result) {
       const auto patience = std::chrono::duration_cast<std::chrono::seconds>(HttpLimits().time);
       verdict_.finding.facts["milliseconds"] = nullptr;
       fail("silent",
-           "no whole answer within " + std::to_string(askingTime.count()) +
+           "no whole answer within " + std::to_string(queryTimeout.count()) +
                " s; the panel would wait for " + std::to_string(patience.count()) + " s",
-           otherwise(port_, "Look into the agent's log (" +
-                                harmless_(homeDirectory() + std::string(agentLogInHome)) +
-                                ") and start the agent again."));
-    } else if (!*asked.result) {
-      const auto [fact, words] = explained(asked.result->error());
-      const bool isDown = asked.result->error() == HttpFailure::notConnected;
+           stepUnlessStranger(port_, "Look into the agent's log (" +
+                                         sanitize_(homeDirectory() + std::string(agentLogInHome)) +
+                                         ") and start the agent again."));
+    } else if (!*query.result) {
+      const auto [fact, words] = textOf(query.result->error());
+      const bool isDown = query.result->error() == HttpFailure::notConnected;
       fail(fact, words,
-           isDown ? startAgentStep : otherwise(port_, "Mend or replace the agent: see its log."));
+           isDown ? startAgentStep
+                  : stepUnlessStranger(port_, "Mend or replace the agent: see its log."));
     } else {
-      answered(**asked.result, asked.took);
+      judgeAnswer(**query.result, query.took);
     }
     return std::move(verdict_);
   }
@@ -89,15 +90,15 @@ class EndpointJudge final {
     verdict_.reason = std::string(endpoint_.path) + " brings nothing to show (" + words + ')';
   }
 
-  void answered(const HttpAnswer& answer, std::chrono::milliseconds took) {
+  void judgeAnswer(const HttpAnswer& answer, std::chrono::milliseconds took) {
     verdict_.finding.facts["http_status"] = answer.status;
     verdict_.finding.facts["bytes"] = answer.body.size();
     verdict_.finding.text += "HTTP " + std::to_string(answer.status) + ", " +
                              counted(answer.body.size(), "byte") + ", " +
                              std::to_string(took.count()) + " ms: ";
-    const auto contents = endpoint_.read(answer.body, harmless_);
+    const auto contents = endpoint_.read(answer.body, sanitize_);
     if (contents.error) {
-      refused(*contents.error, answer.status);
+      judgeDecodeError(*contents.error, answer.status);
       return;
     }
     verdict_.status = contents.status;
@@ -110,9 +111,9 @@ class EndpointJudge final {
     }
   }
 
-  void refused(const DecodeError& error, unsigned httpStatus) {
-    const auto path = harmless_(error.path);
-    const auto detail = harmless_(error.detail);
+  void judgeDecodeError(const DecodeError& error, unsigned httpStatus) {
+    const auto path = sanitize_(error.path);
+    const auto detail = sanitize_(error.detail);
     verdict_.finding.facts["failure_path"] = path;
     verdict_.finding.facts["failure_detail"] = detail;
     const auto fault = (path.empty() ? "the body" : path) + ": " + detail;
@@ -126,32 +127,33 @@ class EndpointJudge final {
 
   [[nodiscard]] std::string stepAfter(unsigned httpStatus, const std::string& fault) const {
     if (httpStatus == httpUnauthorized || httpStatus == httpForbidden) {
-      return otherwise(port_,
-                       "The agent refuses this token: run the agent as this user, or let its token "
-                       "lie where the panel looks; then start the panel again.");
+      return stepUnlessStranger(
+          port_,
+          "The agent refuses this token: run the agent as this user, or let its token "
+          "lie where the panel looks; then start the panel again.");
     }
-    return otherwise(
+    return stepUnlessStranger(
         port_, "Mend the agent's answer to " + std::string(endpoint_.path) + ": " + fault + ".");
   }
 
   const Endpoint& endpoint_;
   const Port& port_;
-  const Harmless& harmless_;
+  const TextSanitizer& sanitize_;
   Verdict verdict_;
 };
 
 }  // namespace
 
 Verdict notAsked(const Endpoint& endpoint, const std::string& why) {
-  auto verdict = begun(endpoint);
+  auto verdict = newVerdict(endpoint);
   verdict.finding.say(Mark::note, "not asked, because " + why);
   verdict.reason = why;
   return verdict;
 }
 
-Verdict judge(const Endpoint& endpoint, const Asked& asked, const Port& port,
-              const Harmless& harmless) {
-  return EndpointJudge(endpoint, port, harmless)(asked);
+Verdict judge(const Endpoint& endpoint, const QueryResult& query, const Port& port,
+              const TextSanitizer& sanitize) {
+  return EndpointJudge(endpoint, port, sanitize)(query);
 }
 
 }  // namespace quillmark::doctor

@@ -7,31 +7,31 @@
 #include <string>
 #include <string_view>
 
-#include "Asking.h"
+#include "AgentQuery.h"
 #include "Contents.h"
 #include "Finding.h"
-#include "Harmless.h"
 #include "PortCheck.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// One of the questions that the panel asks.
+/// One of the panel's requests.
 struct Endpoint {
   const char* check;
   std::string_view path;
-  Contents (*read)(std::string_view body, const Harmless& harmless);
-  const char* shownAs;  ///< what the panel shows of it
+  Contents (*read)(std::string_view body, const TextSanitizer& sanitize);
+  const char* shownAs;  ///< name of what the panel shows from it
 };
 
-/// What an answer comes to.
+/// The result of one request.
 struct Verdict {
   Finding finding;
-  std::optional<std::string> status;  ///< the agent's word, if that is what was asked for
-  std::string reason;  ///< why the panel shows nothing of it, as a clause; empty when it does
+  std::optional<std::string> status;  ///< the agent's status text, if the endpoint has it
+  std::string reason;  ///< why the panel shows nothing of the answer, as a clause; else empty
 };
 
 [[nodiscard]] Verdict notAsked(const Endpoint& endpoint, const std::string& why);
-[[nodiscard]] Verdict judge(const Endpoint& endpoint, const Asked& asked, const Port& port,
-                            const Harmless& harmless);
+[[nodiscard]] Verdict judge(const Endpoint& endpoint, const QueryResult& query, const Port& port,
+                            const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -11,10 +11,10 @@
 #include "ConfigCheck.h"
 #include "EndpointCheck.h"
 #include "FolderCheck.h"
-#include "Harmless.h"
 #include "PanelCheck.h"
 #include "PortCheck.h"
 #include "ProbeCheck.h"
+#include "TextSanitizer.h"
 #include "TokenCheck.h"
 #include "ToolsCheck.h"
 
@@ -23,20 +23,20 @@ namespace quillmark::doctor {
 Report examine() {
   Report report;
   auto& findings = report.findings;
-  Harmless harmless;
-  const auto inUse = checkTokens(findings, harmless);
-  // Told later, but its keys must be hidden before any command line is shown.
+  TextSanitizer sanitize;
+  const auto inUse = checkTokens(findings, sanitize);
+  // Reported later, but its keys must be hidden before any command line is shown.
   Findings config;
-  checkConfig(config, harmless);
+  checkConfig(config, sanitize);
 
-  const auto port = checkPort(findings, harmless);
-  const auto shown = checkEndpoints(findings, inUse, port, harmless);
+  const auto port = checkPort(findings, sanitize);
+  const auto shown = checkEndpoints(findings, inUse, port, sanitize);
   findings.insert(findings.end(), std::make_move_iterator(config.begin()),
                   std::make_move_iterator(config.end()));
-  checkFolders(findings, harmless);
-  checkBundle(findings, harmless);
+  checkFolders(findings, sanitize);
+  checkBundle(findings, sanitize);
   checkTools(findings);
-  checkProbe(findings, port, harmless);
+  checkProbe(findings, port, sanitize);
   checkPanels(findings, inUse);
   report.conclusion = conclude(findings, shown, port);
   return report;

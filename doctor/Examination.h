@@ -7,7 +7,7 @@
 
 namespace quillmark::doctor {
 
-/// Runs every check once; takes no longer than `askingTime` and a little.
+/// Runs every check once; takes little longer than `queryTimeout` at most.
 /// Changes nothing and starts nothing.
 [[nodiscard]] Report examine();
 

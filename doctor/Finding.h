@@ -11,29 +11,29 @@
 
 namespace quillmark::doctor {
 
-/// How much a finding matters, the least first.
+/// Severity of a finding, in ascending order.
 enum class Mark {
   ok,
-  note,   ///< nothing to worry about, but good to know
-  wrong,  ///< keeps something from working, or a secret from being one
+  note,   ///< harmless, but good to know
+  wrong,  ///< something cannot work, or a secret is exposed
 };
 
-/// What one check found: one line for a person, and the same as facts.
+/// What one check found: one line of text for a person, and the same as JSON facts.
 struct Finding {
   std::string check;  ///< a fixed name, such as "token-home"
   Mark mark = Mark::ok;
-  std::string text;  ///< harmless on a terminal
+  std::string text;  ///< sanitized, safe on a terminal
   std::string step;  ///< what to do about it; empty when there is nothing to do
   boost::json::object facts;
 
-  /// Adds a sentence behind those that are there, or behind "subject: ". The mark becomes the worse
-  /// of both, and the step is that of the worst sentence so far.
+  /// Appends a sentence to `text`, which may be only "subject: " so far. `mark` becomes the worse
+  /// of both marks; `step` is the step of the worst sentence so far.
   void say(Mark how, const std::string& sentence, const std::string& whatToDo = {});
 };
 
 using Findings = std::vector<Finding>;
 
-/// What all findings come to.
+/// The summary of all findings.
 struct Conclusion {
   bool isOnline = false;  ///< whether a panel that starts now shows a status
   std::string text;

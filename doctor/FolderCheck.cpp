@@ -10,34 +10,34 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "FileLook.h"
+#include "FileAccess.h"
 #include "agentctl/AgentProcess.h"
 #include "platform/HomeDirectory.h"
 
 namespace quillmark::doctor {
 namespace {
 
-constexpr auto startOtherwise =
+constexpr auto startByService =
     "Start the agent by its own service: Start Agent cannot cope with this home path.";
 
-/// Whether a shell would take `c` for more than a character of a file's name.
-bool breaksAWord(char c) {
-  constexpr std::string_view meant = " |&;<>()$`\\\"'*?[]{}";
+/// Whether a shell does not take an unquoted `c` literally.
+bool isShellSpecial(char c) {
+  constexpr std::string_view special = " |&;<>()$`\\\"'*?[]{}";
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-         meant.find(c) != std::string_view::npos;
+         special.find(c) != std::string_view::npos;
 }
 
-void judgeHome(Findings& findings, const std::string& home, const Harmless& harmless) {
+void judgeHome(Findings& findings, const std::string& home, const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "home";
-  finding.facts["path"] = harmless(home);
-  finding.text = (home.empty() ? "/" : harmless(home)) + ": ";
-  const auto odd = std::find_if(home.begin(), home.end(), breaksAWord);
+  finding.facts["path"] = sanitize(home);
+  finding.text = (home.empty() ? "/" : sanitize(home)) + ": ";
+  const auto odd = std::find_if(home.begin(), home.end(), isShellSpecial);
   if (odd != home.end()) {
     finding.say(Mark::wrong,
-                "holds \"" + harmless({&*odd, 1}) +
+                "holds \"" + sanitize({&*odd, 1}) +
                     "\", which breaks Start Agent: the path of the log is not quoted",
-                startOtherwise);
+                startByService);
   } else if (!home.starts_with('/') && !home.empty()) {
     finding.say(Mark::wrong, "is no absolute path", "Set HOME to an absolute path.");
   } else {
@@ -46,26 +46,26 @@ void judgeHome(Findings& findings, const std::string& home, const Harmless& harm
   findings.push_back(std::move(finding));
 }
 
-void judgeLogs(Findings& findings, const std::string& home, const Harmless& harmless) {
+void judgeLogs(Findings& findings, const std::string& home, const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "logs";
   const std::string file = home + std::string(agentLogInHome);
   const std::string folder = file.substr(0, file.rfind('/'));
-  finding.facts["path"] = harmless(folder);
-  finding.text = harmless(folder) + ": ";
+  finding.facts["path"] = sanitize(folder);
+  finding.text = sanitize(folder) + ": ";
   const auto mode = modeOf(folder);
   if (!mode) {
     finding.say(Mark::wrong, "not there, and without it Start Agent starts nothing",
-                "Make the folder " + harmless(folder) + ".");
+                "Make the folder " + sanitize(folder) + ".");
   } else if (!S_ISDIR(*mode)) {
     finding.say(Mark::wrong, "no folder, so Start Agent starts nothing",
-                "Put a folder in place of " + harmless(folder) + ".");
+                "Put a folder in place of " + sanitize(folder) + ".");
   } else if (!mayAccess(folder, W_OK | X_OK)) {
     finding.say(Mark::wrong, "not writable, so Start Agent starts nothing",
-                "Let the panel's user write to " + harmless(folder) + ".");
+                "Let the panel's user write to " + sanitize(folder) + ".");
   } else if (modeOf(file) && !mayAccess(file, W_OK)) {
     finding.say(Mark::wrong, "the log in it is not writable, so Start Agent starts nothing",
-                "Let the panel's user write to " + harmless(file) + ", or remove it.");
+                "Let the panel's user write to " + sanitize(file) + ", or remove it.");
   } else {
     finding.say(Mark::ok, "writable");
   }
@@ -74,10 +74,10 @@ void judgeLogs(Findings& findings, const std::string& home, const Harmless& harm
 
 }  // namespace
 
-void checkFolders(Findings& findings, const Harmless& harmless) {
+void checkFolders(Findings& findings, const TextSanitizer& sanitize) {
   const auto home = homeDirectory();
-  judgeHome(findings, home, harmless);
-  judgeLogs(findings, home, harmless);
+  judgeHome(findings, home, sanitize);
+  judgeLogs(findings, home, sanitize);
 }
 
 }  // namespace quillmark::doctor

@@ -4,12 +4,12 @@
 #pragma once
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// Looks at what Start Agent needs of the home directory: a path that a shell
-/// takes for one word, and the folder of the log.
-void checkFolders(Findings& findings, const Harmless& harmless);
+/// Checks what Start Agent needs of the home directory: a path that a shell reads
+/// as one word without quotes, and the folder of the log.
+void checkFolders(Findings& findings, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -16,12 +16,12 @@ constexpr int schemaVersion = 1;
 constexpr std::size_t markWidth = 5;
 constexpr std::size_t checkWidth = 12;
 
-struct Look {
+struct Style {
   const char* sign;
   const char* colour;
 };
 
-Look lookOf(Mark mark) {
+Style styleOf(Mark mark) {
   switch (mark) {
     case Mark::ok:
       return {"✓", "\x1B[32m"};
@@ -39,7 +39,7 @@ std::string padded(std::string text, std::size_t width) {
 }
 
 std::string line(const Finding& finding, Colour colour) {
-  const auto [sign, paint] = lookOf(finding.mark);
+  const auto [sign, paint] = styleOf(finding.mark);
   const bool isPlain = colour == Colour::none;
   return (isPlain ? "" : paint) + std::string(sign) + ' ' +
          padded(nameOf(finding.mark), markWidth) + (isPlain ? "" : "\x1B[0m") + "  " +

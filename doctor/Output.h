@@ -11,7 +11,7 @@ namespace quillmark::doctor {
 
 enum class Colour { none, terminal };
 
-/// For a person: one line a check, then what they come to and what to do.
+/// For a person: one line per finding, then the conclusion and the next step.
 [[nodiscard]] std::string asText(const Report& report, Colour colour);
 
 /// For a program: one JSON object on one line. docs/doctor.md describes it.

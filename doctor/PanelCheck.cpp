@@ -26,7 +26,7 @@ Seconds now(clockid_t clock) {
   return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-/// Since the epoch.
+/// The start time, since the epoch.
 Seconds startOf(const Process& process) {
   const Seconds age = now(CLOCK_BOOTTIME) - Seconds(static_cast<double>(process.startTicks) /
                                                     static_cast<double>(sysconf(_SC_CLK_TCK)));

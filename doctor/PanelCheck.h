@@ -8,8 +8,8 @@
 
 namespace quillmark::doctor {
 
-/// Looks for panels that were started before the token's file was written. A
-/// panel reads the token when a window opens, and never again.
+/// Checks for panels that were started before the token's file was written. A
+/// panel reads the token only when a window opens.
 void checkPanels(Findings& findings, const TokenInUse& inUse);
 
 }  // namespace quillmark::doctor

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Program.h"
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 #include "procfs/Processes.h"
 #include "procfs/Sockets.h"
 
@@ -24,9 +24,9 @@ bool answersAt(const Socket& socket, const boost::asio::ip::tcp::endpoint& serve
           reachOf(socket) == Reach::allInterfaces);
 }
 
-void sayOwner(Finding& finding, Port& port, const Process& owner, const Harmless& harmless) {
+void sayOwner(Finding& finding, Port& port, const Process& owner, const TextSanitizer& sanitize) {
   const auto process = readProcessCommand(procRoot, owner.pid);
-  const auto command = harmless(process.text);
+  const auto command = sanitize(process.text);
   finding.facts["pid"] = owner.pid;
   finding.facts["command"] = command;
   const auto who = "process " + std::to_string(owner.pid);
@@ -41,7 +41,7 @@ void sayOwner(Finding& finding, Port& port, const Process& owner, const Harmless
 
 }  // namespace
 
-Port checkPort(Findings& findings, const Harmless& harmless) {
+Port checkPort(Findings& findings, const TextSanitizer& sanitize) {
   Port port;
   Finding finding;
   finding.check = "port";
@@ -63,7 +63,7 @@ Port checkPort(Findings& findings, const Harmless& harmless) {
   const auto processes = readProcesses(procRoot);
   const auto owners = socketOwners(processes);
   if (const auto owner = owners.find(socket->inode); owner != owners.end()) {
-    sayOwner(finding, port, *owner->second, harmless);
+    sayOwner(finding, port, *owner->second, sanitize);
   } else {
     finding.say(Mark::note, "only root or its owner may see which process has it");
   }

@@ -7,20 +7,20 @@
 #include <string>
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// Who takes the panel's questions.
+/// Which process, if any, receives the panel's requests.
 struct Port {
   bool isOpen = false;
   std::optional<int> stranger;  ///< the process that holds the port and is no agent
 };
 
-/// What a person can do when nothing listens.
+/// The step when nothing listens on the port.
 inline constexpr auto startAgentStep =
     "Start the agent: Start Agent on the panel's Settings tab, or its own service.";
 
-[[nodiscard]] Port checkPort(Findings& findings, const Harmless& harmless);
+[[nodiscard]] Port checkPort(Findings& findings, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -23,7 +23,7 @@ std::vector<ProcessCommand> matches() {
   return found;
 }
 
-Finding none(const Port& port) {
+Finding noMatch(const Port& port) {
   Finding finding;
   finding.check = "probe";
   finding.say(Mark::note, std::string("finds no agent, so the Settings tab says \"not running\"") +
@@ -47,14 +47,14 @@ const char* factOf(Kind kind) {
 
 class ProcessJudge final {
  public:
-  ProcessJudge(bool anyAgent, const Harmless& harmless)
-      : anyAgent_(anyAgent), harmless_(harmless) {}
+  ProcessJudge(bool anyAgent, const TextSanitizer& sanitize)
+      : anyAgent_(anyAgent), sanitize_(sanitize) {}
 
   Finding operator()(const ProcessCommand& process) {
     Finding finding;
     finding.check = "probe";
     const auto who = "process " + std::to_string(process.pid);
-    const auto command = harmless_(process.text);
+    const auto command = sanitize_(process.text);
     const auto kind = kindOf(process);
     finding.facts["pid"] = process.pid;
     finding.facts["command"] = command;
@@ -67,11 +67,11 @@ class ProcessJudge final {
     } else if (kind == Kind::starter) {
       finding.say(Mark::ok, who + " is the shell in which Start Agent started one: " + command);
     } else if (kind == Kind::ended) {
-      finding.say(otherwiseMark(), who + " has ended and still counts as an agent: " + command,
+      finding.say(falseMatchMark(), who + " has ended and still counts as an agent: " + command,
                   "End the program that started process " + std::to_string(process.pid) +
                       " and takes no notice of its end.");
     } else {
-      finding.say(otherwiseMark(),
+      finding.say(falseMatchMark(),
                   who + " is no agent, but counts as one and Stop Agent would end it: " + command,
                   "Close process " + std::to_string(process.pid) +
                       ", or take the agent's name off its command line.");
@@ -80,26 +80,26 @@ class ProcessJudge final {
   }
 
  private:
-  // With a true agent the tab is right to say that one runs.
-  [[nodiscard]] Mark otherwiseMark() const { return anyAgent_ ? Mark::note : Mark::wrong; }
+  // While a real agent runs, the tab is right to say so: a false match is only a note.
+  [[nodiscard]] Mark falseMatchMark() const { return anyAgent_ ? Mark::note : Mark::wrong; }
 
   bool anyAgent_;
-  const Harmless& harmless_;
+  const TextSanitizer& sanitize_;
   int agents_ = 0;
 };
 
 }  // namespace
 
-void checkProbe(Findings& findings, const Port& port, const Harmless& harmless) {
+void checkProbe(Findings& findings, const Port& port, const TextSanitizer& sanitize) {
   const auto found = matches();
   if (found.empty()) {
-    findings.push_back(none(port));
+    findings.push_back(noMatch(port));
     return;
   }
   const bool anyAgent = std::any_of(found.begin(), found.end(), [](const ProcessCommand& process) {
     return kindOf(process) == Kind::agent;
   });
-  ProcessJudge judge(anyAgent, harmless);
+  ProcessJudge judge(anyAgent, sanitize);
   for (const auto& process : found) {
     findings.push_back(judge(process));
   }

@@ -4,14 +4,14 @@
 #pragma once
 
 #include "Finding.h"
-#include "Harmless.h"
 #include "PortCheck.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// Looks for what the Settings tab takes for an agent, and what Stop Agent would
-/// end: every process with the agent's file name anywhere on its command line,
-/// as `pgrep -f` and `pkill -f` find them. Neither is run.
-void checkProbe(Findings& findings, const Port& port, const Harmless& harmless);
+/// Reports every process that the Settings tab takes for an agent and that Stop
+/// Agent would end: those with the agent's file name anywhere on the command line,
+/// as `pgrep -f` and `pkill -f` match. Runs neither of the two.
+void checkProbe(Findings& findings, const Port& port, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -30,7 +30,7 @@ std::string programName(const ProcessCommand& process) {
   if (!path) {
     return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
   }
-  // After an update the program still runs.
+  // The kernel's mark for a removed file: after an update the old program still runs.
   constexpr std::string_view deleted = " (deleted)";
   if (path->ends_with(deleted)) {
     path->resize(path->size() - deleted.size());

@@ -9,18 +9,18 @@
 
 namespace quillmark::doctor {
 
-/// What a process is to the panel's way of finding the agent.
+/// What a process is that the panel's search for the agent matches.
 enum class Kind {
   agent,    ///< runs a program with the agent's file name
   starter,  ///< the shell of Start Agent, which waits for its agent to end
-  ended,    ///< ended, but its parent has not taken notice
+  ended,    ///< a zombie: ended, but its parent has not waited for it
   other,
 };
 
 [[nodiscard]] Kind kindOf(const ProcessCommand& process);
 
-/// The file name of the program that the process runs; by its own account where
-/// the system does not tell.
+/// The file name of the program that the process runs; taken from its command line
+/// where the link /proc/PID/exe cannot be read.
 [[nodiscard]] std::string programName(const ProcessCommand& process);
 
 inline constexpr auto procRoot = "/proc";

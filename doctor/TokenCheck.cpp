@@ -8,7 +8,7 @@
 
 #include <boost/system/result.hpp>
 
-#include "FileLook.h"
+#include "FileAccess.h"
 #include "client/AccessToken.h"
 
 namespace quillmark::doctor {
@@ -20,9 +20,10 @@ struct TokenPlace {
   enum class Owner { system, user } owner;
 };
 
-enum class Turn { counts, comesLater, passedOver };
+enum class FileUse { tried, notReached, noneReadable };
 
-constexpr auto makeOne = "Start the agent, which makes its token, then start the panel again.";
+constexpr auto makeTokenStep =
+    "Start the agent, which makes its token, then start the panel again.";
 
 void sayMode(Finding& finding, const TokenPlace& place, const std::string& shownPath) {
   const auto mode = modeOf(place.path);
@@ -34,7 +35,8 @@ void sayMode(Finding& finding, const TokenPlace& place, const std::string& shown
     return;
   }
   const auto fault = "mode " + modeText(*mode) + " lets every user read it";
-  // Root's agent may have to open its token to the panel's user; nobody's own has to.
+  // Root's agent may have to let the panel's user read its token; a user's own token needs no
+  // other reader.
   if (place.owner == TokenPlace::Owner::system) {
     finding.say(Mark::note, fault,
                 "Open " + shownPath + " to the panel's user alone, by a group (mode 0640).");
@@ -58,10 +60,11 @@ std::string sayContents(Finding& finding, const std::string& token, const std::s
   return "usable";
 }
 
-Finding judge(const TokenPlace& place, Turn turn, const char* check, const Harmless& harmless) {
+Finding judge(const TokenPlace& place, FileUse use, const char* check,
+              const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = check;
-  const std::string path = harmless(place.path);
+  const std::string path = sanitize(place.path);
   finding.facts["path"] = path;
   finding.text = path + ": ";
   if (!place.token) {
@@ -71,7 +74,7 @@ Finding judge(const TokenPlace& place, Turn turn, const char* check, const Harml
       finding.text += "not there";
     } else {
       finding.text += "cannot be read (" + place.token.error().message() + ")";
-      finding.mark = turn == Turn::passedOver ? Mark::wrong : Mark::note;
+      finding.mark = use == FileUse::noneReadable ? Mark::wrong : Mark::note;
       finding.step = "Let the panel's user read " + path + ", then start the panel again.";
       sayMode(finding, place, path);
     }
@@ -79,7 +82,7 @@ Finding judge(const TokenPlace& place, Turn turn, const char* check, const Harml
   }
   finding.text += counted(place.token->size(), "byte");
   finding.facts["length"] = place.token->size();
-  if (turn == Turn::comesLater) {
+  if (use == FileUse::notReached) {
     finding.facts["state"] = "not read";
     finding.say(Mark::ok, "not read, the system-wide one comes first");
   } else {
@@ -103,7 +106,7 @@ TokenInUse choose(const std::vector<TokenPlace>& places) {
 }
 
 Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
-                const Harmless& harmless) {
+                const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "token";
   if (inUse.path.empty()) {
@@ -112,40 +115,40 @@ Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
       allMissing = allMissing && meansMissing(place.token.error());
     }
     finding.say(Mark::wrong, "none that can be read, so the panel asks the agent nothing",
-                allMissing ? makeOne : "");
+                allMissing ? makeTokenStep : "");
   } else if (!inUse.token) {
     finding.say(Mark::wrong,
-                "the panel takes that of " + harmless(inUse.path) + " and cannot send it");
+                "the panel takes that of " + sanitize(inUse.path) + " and cannot send it");
   } else {
-    finding.say(Mark::ok, "the panel uses that of " + harmless(inUse.path));
+    finding.say(Mark::ok, "the panel uses that of " + sanitize(inUse.path));
   }
-  finding.facts["path"] = inUse.path.empty() ? boost::json::value() : harmless(inUse.path).c_str();
+  finding.facts["path"] = inUse.path.empty() ? boost::json::value() : sanitize(inUse.path).c_str();
   return finding;
 }
 
 }  // namespace
 
-TokenInUse checkTokens(Findings& findings, Harmless& harmless) {
+TokenInUse checkTokens(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"token-system", "token-home"};
   std::vector<TokenPlace> places;
   for (const auto& path : accessTokenPaths()) {
     places.push_back({path, readTokenFile(path),
                       places.empty() ? TokenPlace::Owner::system : TokenPlace::Owner::user});
     if (places.back().token) {
-      harmless.hide(*places.back().token);
+      sanitize.hide(*places.back().token);
     }
   }
 
   auto inUse = choose(places);
   bool isChosen = false;
   for (std::size_t i = 0; i < places.size(); ++i) {
-    const auto turn = inUse.path.empty() ? Turn::passedOver
-                      : isChosen         ? Turn::comesLater
-                                         : Turn::counts;
-    findings.push_back(judge(places[i], turn, checks.at(i), harmless));
+    const auto use = inUse.path.empty() ? FileUse::noneReadable
+                     : isChosen         ? FileUse::notReached
+                                        : FileUse::tried;
+    findings.push_back(judge(places[i], use, checks.at(i), sanitize));
     isChosen = isChosen || places[i].path == inUse.path;
   }
-  findings.push_back(summary(inUse, places, harmless));
+  findings.push_back(summary(inUse, places, sanitize));
   return inUse;
 }
 

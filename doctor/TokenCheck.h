@@ -7,18 +7,18 @@
 #include <string>
 
 #include "Finding.h"
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 namespace quillmark::doctor {
 
-/// The token that a panel which starts now would use.
+/// The token that a panel started now would use.
 struct TokenInUse {
-  std::optional<std::string> token;  ///< without one the panel asks the agent nothing
-  std::string path;                  ///< the file that it comes from, if there is one
-  std::string refusal;               ///< why there is none to be sent, as a clause
+  std::optional<std::string> token;  ///< no value: the panel sends no requests
+  std::string path;                  ///< the file that it comes from; empty if none can be read
+  std::string refusal;               ///< why no token can be sent, as a clause
 };
 
-/// Looks at every place of the token, and lets `harmless` hide what it finds.
-[[nodiscard]] TokenInUse checkTokens(Findings& findings, Harmless& harmless);
+/// Checks every token file, and lets `sanitize` hide the tokens in them.
+[[nodiscard]] TokenInUse checkTokens(Findings& findings, TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -14,15 +14,15 @@
 
 #include <unistd.h>
 
-#include "FileLook.h"
+#include "FileAccess.h"
 #include "agentctl/AgentProcess.h"
 #include "procfs/Text.h"
 
 namespace quillmark::doctor {
 namespace {
 
-/// Whether a shell finds the program `name`, or the one at that path.
-bool isThere(const std::string& name) {
+/// Whether a shell could run `name`: a path, or a program to find in PATH.
+bool isRunnable(const std::string& name) {
   if (name.find('/') != std::string::npos) {
     return mayAccess(name, X_OK);
   }
@@ -43,7 +43,7 @@ void checkTools(Findings& findings) {
                                           stopCommand().executable};
   std::vector<std::string> missing;
   std::copy_if(tools.begin(), tools.end(), std::back_inserter(missing),
-               [](const std::string& tool) { return !isThere(tool); });
+               [](const std::string& tool) { return !isRunnable(tool); });
 
   Finding finding;
   finding.check = "tools";

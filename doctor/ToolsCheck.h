@@ -7,8 +7,8 @@
 
 namespace quillmark::doctor {
 
-/// Looks for the programs by which the Settings tab starts, stops and finds an
-/// agent. Without them it does nothing, or finds none, and does not say why.
+/// Checks for the programs with which the Settings tab starts, stops and finds an
+/// agent. Without them the tab does nothing or finds no agent, and does not say why.
 void checkTools(Findings& findings);
 
 }  // namespace quillmark::doctor

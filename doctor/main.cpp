@@ -42,7 +42,7 @@ const quillmark::CommandLineRules commandLineRules{
     .flags = {jsonFlag, watchFlag},
     .passedOn = {}};
 
-// As often as the panel asks.
+// The panel's polling interval.
 constexpr timespec pause{5, 0};
 
 Colour colourForOutput() {
@@ -58,16 +58,16 @@ int showRound(Format format, Colour colour) {
   return exitCode(report);
 }
 
-/// Until SIGINT or SIGTERM, which lets a round that has begun come to its end.
+/// Repeats until SIGINT or SIGTERM, or until output fails. A round that has begun is completed.
 int watch(Format format, Colour colour) {
-  sigset_t ending{};
-  sigemptyset(&ending);
-  sigaddset(&ending, SIGINT);
-  sigaddset(&ending, SIGTERM);
-  sigprocmask(SIG_BLOCK, &ending, nullptr);
+  sigset_t endSignals{};
+  sigemptyset(&endSignals);
+  sigaddset(&endSignals, SIGINT);
+  sigaddset(&endSignals, SIGTERM);
+  sigprocmask(SIG_BLOCK, &endSignals, nullptr);
   for (;;) {
     const int code = showRound(format, colour);
-    if (!std::cout || sigtimedwait(&ending, nullptr, &pause) > 0) {
+    if (!std::cout || sigtimedwait(&endSignals, nullptr, &pause) > 0) {
       return code;
     }
     if (format == Format::text) {

@@ -10,8 +10,8 @@
 
 namespace quillmark {
 
-/// The number that `text` is, from its first character to its last; no value
-/// for anything else, a number out of range included.
+/// Parses all of `text` as one number; no value for anything else, including a
+/// number that is out of range.
 template <class Number>
 [[nodiscard]] std::optional<Number> parseNumber(std::string_view text, int base = 10) {
   Number value{};

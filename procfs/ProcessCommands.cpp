@@ -12,28 +12,29 @@ namespace quillmark {
 
 ProcessCommand readProcessCommand(const std::string& procRoot, int pid) {
   const std::string folder = pathIn(procRoot, std::to_string(pid));
-  ProcessCommand line{pid, readSystemFile(folder + "/cmdline").value_or("")};
-  if (line.text.empty()) {
-    line.arguments = ProcessCommand::Arguments::none;
-    line.text = readSystemFile(folder + "/comm").value_or("");
-    line.text.erase(line.text.find_last_not_of('\n') + 1);
-    return line;
+  ProcessCommand command{pid, readSystemFile(folder + "/cmdline").value_or("")};
+  if (command.text.empty()) {
+    command.arguments = ProcessCommand::Arguments::none;
+    command.text = readSystemFile(folder + "/comm").value_or("");
+    command.text.erase(command.text.find_last_not_of('\n') + 1);
+    return command;
   }
-  // A program that rewrites its title pads the rest with zeros.
-  line.text.erase(line.text.find_last_not_of('\0') + 1);
-  std::replace(line.text.begin(), line.text.end(), '\0', ' ');
-  return line;
+  // A program that overwrites its title fills the rest with zeros.
+  command.text.erase(command.text.find_last_not_of('\0') + 1);
+  std::replace(command.text.begin(), command.text.end(), '\0', ' ');
+  return command;
 }
 
 std::vector<ProcessCommand> readProcessCommands(const std::string& procRoot) {
-  std::vector<ProcessCommand> lines;
+  std::vector<ProcessCommand> commands;
   for (const auto& name : namesIn(procRoot)) {
     if (const auto pid = parseNumber<int>(name)) {
-      lines.push_back(readProcessCommand(procRoot, *pid));
+      commands.push_back(readProcessCommand(procRoot, *pid));
     }
   }
-  std::sort(lines.begin(), lines.end(), [](const auto& a, const auto& b) { return a.pid < b.pid; });
-  return lines;
+  std::sort(commands.begin(), commands.end(),
+            [](const auto& a, const auto& b) { return a.pid < b.pid; });
+  return commands;
 }
 
 }  // namespace quillmark

@@ -8,19 +8,20 @@
 
 namespace quillmark {
 
-/// What a search of whole command lines, such as `pgrep -f`, looks at.
+/// A process's command line as a search such as `pgrep -f` sees it.
 struct ProcessCommand {
   int pid = 0;
-  /// The arguments as bytes, joined by blanks; the bare name of a process that
-  /// has none: a thread of the kernel, or one that ended and was not collected.
+  /// The arguments as bytes, joined by spaces; the program's name for a process
+  /// without arguments: a kernel thread or a zombie.
   std::string text;
   enum class Arguments { present, none } arguments = Arguments::present;
 };
 
-/// Those of all processes under `procRoot`, ascending by pid.
+/// The command lines of all processes under `procRoot`, ascending by pid.
 [[nodiscard]] std::vector<ProcessCommand> readProcessCommands(const std::string& procRoot);
 
-/// That of one process; without text when it is gone or closed to this user.
+/// The command line of one process; the text is empty if the process has ended or
+/// this user may not read it.
 [[nodiscard]] ProcessCommand readProcessCommand(const std::string& procRoot, int pid);
 
 }  // namespace quillmark

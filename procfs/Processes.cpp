@@ -14,14 +14,14 @@
 namespace quillmark {
 namespace {
 
-// The kernel keeps this many bytes of a program's name.
-constexpr std::size_t keptNameLength = 15;
+// The kernel truncates a program's name to this many bytes.
+constexpr std::size_t maxNameLength = 15;
 
-// The kernel's own flag; in a container, process 2 is one like any other.
-constexpr unsigned long kernelThread = 0x00200000;
+// PF_KTHREAD. Process 2 is no criterion: in a container, it is an ordinary process.
+constexpr unsigned long kernelThreadFlag = 0x00200000;
 
-/// Fills what /proc/PID/stat tells; false when there is nothing to list. The
-/// name stands in parentheses and may hold any byte, parentheses included.
+/// Fills the fields from /proc/PID/stat; false if the process is not to be listed.
+/// The name is in parentheses and may contain any byte, even a parenthesis.
 bool readStat(const std::string& folder, Process& process) {
   const auto text = readSystemFile(folder + "/stat");
   if (!text) {
@@ -45,12 +45,12 @@ bool readStat(const std::string& folder, Process& process) {
   if (fields.size() > start) {
     process.startTicks = parseNumber<std::uint64_t>(fields[start]).value_or(0);
   }
-  return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThread) == 0;
+  return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThreadFlag) == 0;
 }
 
-/// The whole name where the kernel has cut it off, if the command line has it.
+/// The full name, from the command line, if the kernel truncated it; else `kept`.
 std::string wholeName(const std::string& folder, const std::string& kept) {
-  if (kept.size() < keptNameLength) {
+  if (kept.size() < maxNameLength) {
     return kept;
   }
   const auto commandLine = readSystemFile(folder + "/cmdline").value_or("");

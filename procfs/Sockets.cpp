@@ -29,8 +29,8 @@ constexpr Table tables[] = {{"tcp", Transport::tcp},
                             {"udp", Transport::udp},
                             {"udp6", Transport::udp}};
 
-/// An address as the kernel prints it: 32-bit words in the machine's own byte
-/// order, one for IPv4, four for IPv6.
+/// Converts an address as the kernel prints it: 32-bit words in host byte order,
+/// one for IPv4, four for IPv6.
 std::optional<std::string> addressText(std::string_view hex) {
   constexpr std::size_t digitsPerWord = 8;
   std::array<std::uint32_t, 4> network{};

@@ -31,15 +31,15 @@ struct Socket {
 };
 
 /// All sockets in `procRoot`/net/{tcp,tcp6,udp,udp6}, in the kernel's order.
-/// A line that does not read is left out.
+/// Malformed lines are skipped.
 [[nodiscard]] std::vector<Socket> readSockets(const std::string& procRoot);
 
 /// The state's name: for TCP as the kernel calls it, for UDP "ESTABLISHED" or
 /// "UNCONNECTED".
 [[nodiscard]] std::string stateName(const Socket& socket);
 
-/// Whether others may open a conversation: TCP in state LISTEN, UDP with no
-/// fixed other end.
+/// Whether the socket accepts traffic from any peer: TCP in state LISTEN, UDP that
+/// is not connected.
 [[nodiscard]] bool isListening(const Socket& socket);
 
 [[nodiscard]] Reach reachOf(const Socket& socket);

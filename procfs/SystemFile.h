@@ -10,8 +10,8 @@
 
 namespace quillmark {
 
-// The readers below answer with nothing for whatever cannot be read: processes
-// end between two looks at them, and much is closed to an ordinary user.
+// The readers below return no value, or an empty list, for what cannot be read: a
+// process may end at any time, and an ordinary user may not read everything.
 
 /// The bytes of a regular file, such as one under /proc.
 [[nodiscard]] std::optional<std::string> readSystemFile(const std::string& path);
@@ -19,7 +19,7 @@ namespace quillmark {
 /// The text of a symbolic link.
 [[nodiscard]] std::optional<std::string> readLink(const std::string& path);
 
-/// The names in a folder, without "." and "..", in no order.
+/// The names in a folder, without "." and "..", in no particular order.
 [[nodiscard]] std::vector<std::string> namesIn(const std::string& folder);
 
 /// The path of the file called `name` in `folder`.

@@ -27,7 +27,7 @@ std::string asUtf8(std::string_view bytes) {
       text.append(at, next);
       at = next;
     } else {
-      // One byte only: what a cut-off character swallowed may be good text.
+      // Skip one byte only: what an incomplete character consumed may be valid text.
       text += replacementCharacter;
       ++at;
     }

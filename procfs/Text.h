@@ -21,7 +21,7 @@ namespace quillmark {
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, char separator);
 std::vector<std::string_view> split(std::string&& text, char separator) = delete;
 
-/// The runs of `line` between blanks and tabs; views into it.
+/// The words of `line`, separated by spaces and tabs; views into it.
 [[nodiscard]] std::vector<std::string_view> words(std::string_view line);
 
 /// What follows the last slash of `path`; a view into it.

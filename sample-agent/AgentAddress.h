@@ -8,13 +8,12 @@
 
 namespace quillmark::sample {
 
-// Where the interface is served. Loopback only: nothing here is meant for
-// another machine.
+// Where the interface is served. Loopback only: other machines must not reach it.
 inline constexpr std::string_view agentAddress = "127.0.0.1";
 inline constexpr std::uint16_t agentPort = 7823;
 
-// The Host fields under which a client may ask for it. Any other name means
-// that a web page has pointed its own name at this machine.
+// The accepted Host fields. Any other one indicates DNS rebinding: a web page whose
+// domain name resolves to this machine.
 inline constexpr std::string_view agentHosts[] = {"127.0.0.1:7823", "localhost:7823"};
 
 }  // namespace quillmark::sample

@@ -26,7 +26,7 @@ std::string placeText(const std::string& path, const toml::source_region& region
   return text.str();
 }
 
-/// Fills `flag` where the key is present; the failure if it is no boolean.
+/// Sets `flag` if the key is present; a failure if its value is not a boolean.
 std::optional<Failure> readFlag(const toml::table& config, const std::string& path,
                                 std::string_view section, std::string_view key, bool& flag) {
   const auto* const found = config[section][key].node();

@@ -12,23 +12,23 @@
 
 namespace quillmark::sample {
 
-/// What the sample agent heeds of config.toml; every other key is for the
-/// product's agent and is passed over.
+/// The keys of config.toml that the sample agent reads. It ignores all others,
+/// which are for the product's agent.
 struct AgentConfig {
   bool detection = true;        ///< [detection] enabled: whether the checks run
-  bool protection = false;      ///< [protection] enabled: reported only, nothing is acted on
+  bool protection = false;      ///< [protection] enabled: reported only, has no effect
   bool collectNetwork = true;   ///< [telemetry] collect_network
   bool collectServices = true;  ///< [telemetry] collect_services
 
   friend bool operator==(const AgentConfig&, const AgentConfig&) = default;
 };
 
-/// Where config.toml may lie, the first one that exists is taken.
+/// The possible paths of config.toml; the first that exists is used.
 [[nodiscard]] std::vector<std::string> configPaths(const std::string& home);
 
-/// Reads the first of `paths` that exists, the defaults when none does. A file
-/// that exists but cannot be read, is no TOML, or holds another type than a
-/// boolean under a key above, is a failure that names the place.
+/// Reads the first of `paths` that exists; returns the defaults if none does. A
+/// failure, which names the place, if the file cannot be read, is not TOML, or has
+/// a value other than a boolean for a key above.
 [[nodiscard]] boost::system::result<AgentConfig, Failure> loadConfig(
     const std::vector<std::string>& paths);
 

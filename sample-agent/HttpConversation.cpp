@@ -33,14 +33,14 @@ using Message = http::request<http::empty_body>;
 using Parser = http::request_parser<http::empty_body>;
 using Response = http::response<http::span_body<const char>>;
 
-std::string_view standard(beast::string_view text) { return {text.data(), text.size()}; }
-beast::string_view beasts(std::string_view text) { return {text.data(), text.size()}; }
+std::string_view toStandard(beast::string_view text) { return {text.data(), text.size()}; }
+beast::string_view toBeast(std::string_view text) { return {text.data(), text.size()}; }
 
 std::vector<std::string_view> valuesOf(const Message& message, std::string_view name) {
   std::vector<std::string_view> values;
-  const auto [begin, end] = message.equal_range(beasts(name));
+  const auto [begin, end] = message.equal_range(toBeast(name));
   for (auto field = begin; field != end; ++field) {
-    values.push_back(standard(field->value()));
+    values.push_back(toStandard(field->value()));
   }
   return values;
 }
@@ -49,8 +49,8 @@ Request requestOf(const Parser& parser) {
   const Message& message = parser.get();
   const bool hasBody = parser.chunked() || parser.content_length().value_or(0) > 0;
   Request request;
-  request.method = standard(message.method_string());
-  request.target = standard(message.target());
+  request.method = toStandard(message.method_string());
+  request.target = toStandard(message.target());
   request.hosts = valuesOf(message, "Host");
   request.tokens = valuesOf(message, "X-Agent-Token");
   request.body = hasBody ? Request::Body::present : Request::Body::absent;
@@ -65,7 +65,7 @@ Response responseOf(const Answer& answer) {
   response.set(http::field::cache_control, "no-store");
   response.set(http::field::connection, "close");
   if (!answer.fieldName.empty()) {
-    response.set(beasts(answer.fieldName), beasts(answer.fieldValue));
+    response.set(toBeast(answer.fieldName), toBeast(answer.fieldValue));
   }
   response.body() = {answer.body.data(), answer.body.size()};
   response.prepare_payload();
@@ -76,24 +76,24 @@ bool isTooLarge(const ErrorCode& error) {
   return error == http::error::header_limit || error == http::error::buffer_overflow;
 }
 
-/// Whether bytes came, but made no request; else the client is gone.
-bool isFaultOfRequest(const ErrorCode& error) {
+/// Whether the client sent bytes that are no valid request; else it has disconnected.
+bool isInvalidRequest(const ErrorCode& error) {
   static const auto& httpErrors = http::make_error_code(http::error::bad_version).category();
   return error.category() == httpErrors && error != http::error::end_of_stream &&
          error != http::error::partial_message;
 }
 
-/// Lets the client take in the whole answer: closing a socket on unread bytes
-/// would make the system drop what is still under way to the client.
-asio::awaitable<void> finish(tcp::socket& socket) {
-  constexpr std::size_t mostUnreadBytes = std::size_t{64} * 1024;
+/// Lets the client receive the whole answer: closing a socket with unread bytes
+/// would make the system drop what is still in flight to the client.
+asio::awaitable<void> drain(tcp::socket& socket) {
+  constexpr std::size_t maxUnreadBytes = std::size_t{64} * 1024;
   std::array<char, 4096> unread;
   const auto buffer = asio::buffer(unread);
   ErrorCode error;
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   socket.shutdown(tcp::socket::shutdown_send, error);
   std::size_t total = 0;
-  while (!error && total < mostUnreadBytes) {
+  while (!error && total < maxUnreadBytes) {
     total += co_await socket.async_read_some(buffer, completion);
   }
 }
@@ -109,7 +109,7 @@ asio::awaitable<void> converse(tcp::socket& socket, std::uint32_t headerBytes, A
   parser.header_limit(headerBytes);
   parser.body_limit(boost::none);
   co_await http::async_read_header(socket, buffer, parser, completion);
-  if (error && !isFaultOfRequest(error)) {
+  if (error && !isInvalidRequest(error)) {
     co_return;
   }
 
@@ -123,8 +123,8 @@ asio::awaitable<void> converse(tcp::socket& socket, std::uint32_t headerBytes, A
   }
   co_await http::async_write(socket, response, completion);
   if (!error) {
-    auto finishing = finish(socket);
-    co_await std::move(finishing);
+    auto draining = drain(socket);
+    co_await std::move(draining);
   }
 }
 

@@ -13,14 +13,14 @@
 
 namespace quillmark::sample {
 
-/// Decides about a request that was read; its texts live as long as the call.
+/// Chooses the answer to a request, whose strings are valid only during the call.
 using AnswerRule = std::function<Answer(const Request&)>;
 
-/// Reads one HTTP request of `socket`, answers it by `rule`, and waits until
-/// the client has taken the answer. Reads no body and at most `headerBytes` of
-/// header; a request that breaks these bounds or the protocol is answered
-/// without the rule. Ends early, without an error, when the socket is closed
-/// meanwhile: by the client, or by whoever limits the time.
+/// Reads one HTTP request from `socket`, answers it by `rule`, and waits until
+/// the client has received the answer. Reads no body and at most `headerBytes` of
+/// header; a request that exceeds the limit or violates the protocol is answered
+/// without calling `rule`. Ends early, without an error, if the socket is closed
+/// meanwhile, by the client or by the caller's time limit.
 [[nodiscard]] boost::asio::awaitable<void> converse(boost::asio::ip::tcp::socket& socket,
                                                     std::uint32_t headerBytes, AnswerRule rule);
 

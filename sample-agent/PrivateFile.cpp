@@ -34,14 +34,14 @@ error_code writeAll(int descriptor, std::string_view text) {
   return {};
 }
 
-/// A new file whose contents are on the disk when this returns.
+/// Creates a file. Its contents are on the disk when this returns.
 error_code writeNewFile(const std::string& path, std::string_view text) {
   const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ownerOnly);
   if (descriptor < 0) {
     return lastError();
   }
   BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
-  // The umask may have taken away what the owner needs.
+  // The umask may have removed the owner's rights.
   if (fchmod(descriptor, ownerOnly) != 0) {
     return lastError();
   }
@@ -51,7 +51,7 @@ error_code writeNewFile(const std::string& path, std::string_view text) {
   return fsync(descriptor) == 0 ? error_code{} : lastError();
 }
 
-/// So that the name, too, is on the disk; the file serves without it.
+/// Writes the file's name to the disk, too. Errors do not matter: the file is usable anyway.
 void syncFolder(const std::string& folder) {
   const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor >= 0) {
@@ -66,7 +66,7 @@ std::string randomHex(std::size_t count) {
   constexpr std::string_view digits = "0123456789abcdef";
   std::array<unsigned char, 256> bytes{};
   count = std::min(count, bytes.size());
-  // So few bytes come whole, or not at all while the machine boots.
+  // So few bytes are returned all at once, or none of them while the machine boots.
   while (getrandom(bytes.data(), count, 0) != static_cast<ssize_t>(count)) {
   }
   std::string text;
@@ -87,7 +87,7 @@ error_code makePrivateFile(const std::string& path, std::string_view text) {
   if (const auto error = writeNewFile(temporary, text)) {
     return error;
   }
-  // A link, unlike a renaming, does not replace what is already there.
+  // link(), unlike rename(), does not replace an existing file.
   if (link(temporary.c_str(), path.c_str()) != 0) {
     return lastError();
   }

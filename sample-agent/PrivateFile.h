@@ -13,15 +13,15 @@
 
 namespace quillmark::sample {
 
-/// The mode of a file that nobody but its owner reads.
+/// The mode of a file that only its owner may read and write.
 inline constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
 /// `count` random bytes (256 at most) as lower-case hexadecimal digits.
 [[nodiscard]] std::string randomHex(std::size_t count);
 
-/// Makes the file `path` with `text` in it, readable for this user alone, and
-/// its folder as well where that is missing. It appears whole or not at all,
-/// and never in the place of another: then the error is `file_exists`.
+/// Creates the file `path` with the contents `text`, readable by this user only,
+/// and its folder if that is missing. The file appears complete or not at all, and
+/// never replaces another: then the error is `file_exists`.
 [[nodiscard]] boost::system::error_code makePrivateFile(const std::string& path,
                                                         std::string_view text);
 

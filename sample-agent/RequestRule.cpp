@@ -25,7 +25,7 @@ bool equalInConstantTime(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) {
     return false;
   }
-  // Volatile, so that no compiler leaves the loop at the first difference.
+  // Volatile keeps a compiler from leaving the loop at the first difference.
   volatile unsigned char difference = 0;
   for (std::size_t i = 0; i < a.size(); ++i) {
     difference = static_cast<unsigned char>(difference | (a[i] ^ b[i]));
@@ -33,7 +33,7 @@ bool equalInConstantTime(std::string_view a, std::string_view b) {
   return difference == 0;
 }
 
-/// The body under `target`, or nothing.
+/// The body for `target`, or null.
 const std::string* bodyOf(std::string_view target, const Snapshot& snapshot) {
   const auto path = target.substr(0, target.find('?'));
   if (path == "/api/status") {

@@ -10,7 +10,7 @@
 
 namespace quillmark::sample {
 
-/// What the rule looks at of a request.
+/// The parts of a request that decide its answer.
 struct Request {
   std::string_view method;
   std::string_view target;
@@ -19,26 +19,27 @@ struct Request {
   enum class Body { absent, present } body = Body::absent;
 };
 
-/// What to answer; the texts are literals or lie in the snapshot.
+/// An answer; its strings are literals or point into the snapshot.
 struct Answer {
   unsigned status = 200;
   std::string_view body;       ///< JSON
-  std::string_view fieldName;  ///< a header field that the status asks for, or empty
+  std::string_view fieldName;  ///< a header field that the status requires, or empty
   std::string_view fieldValue;
 };
 
-/// Decides in this order, the first that applies: 400 for anything but one Host
-/// field, 421 for a foreign host, 401 for anything but the one right token, 404
-/// for an unknown path (a query is not looked at), 405 for another method than
-/// GET, 413 for a request with a body; else 200 with the path's body.
+/// Checks in this order and answers by the first that applies: 400 unless there is
+/// exactly one Host field, 421 for a foreign host, 401 unless there is exactly one
+/// token and it is right, 404 for an unknown path (the query is ignored), 405 for a
+/// method other than GET, 413 for a request with a body; else 200 with the path's
+/// body.
 ///
-/// The host comes before all, so that a web page under a name of its own cannot
-/// even learn whether its token is right. How long the comparison of the token
-/// takes depends on its length only.
+/// The host is checked before the token, so that a web page under its own domain
+/// name cannot even learn whether its token is right. The time of the token's
+/// comparison depends only on the token's length.
 [[nodiscard]] Answer answerTo(const Request& request, std::string_view token,
                               const Snapshot& snapshot);
 
-// What is answered to bytes that make no request.
+// The answers to bytes that are no valid request.
 [[nodiscard]] Answer malformedAnswer();
 [[nodiscard]] Answer headerTooLargeAnswer();
 

@@ -36,13 +36,13 @@ void ScanLoop::scanOnce(const std::stop_token& stop) {
       report(std::move(result.notes));
     }
   } catch (const std::exception& error) {
-    // Clients keep the last snapshot; its last_scan tells them how old it is.
+    // Clients still get the last snapshot; its last_scan shows its age.
     report({std::string("scan failed: ") + error.what()});
   }
 }
 
 void ScanLoop::report(std::vector<std::string> notes) {
-  // A note that stands in every scan is worth one line, not one a minute.
+  // Notes that repeat in every scan are logged once, not once a minute.
   if (notes != lastNotes_) {
     for (const auto& note : notes) {
       log_ << note << std::endl;

@@ -17,14 +17,14 @@
 
 namespace quillmark::sample {
 
-/// Scans at once and then at a fixed interval, on a thread of its own. Its
-/// destruction stops a scan that is under way and waits for the thread.
+/// Scans immediately and then at a fixed interval, on its own thread. The
+/// destructor stops a running scan and waits for the thread.
 class ScanLoop final {
  public:
-  /// Takes each new snapshot; called on the scanning thread.
+  /// Receives each new snapshot; called on the scanning thread.
   using Publish = std::function<void(std::shared_ptr<const Snapshot>)>;
 
-  /// Writes to `log`, a line each, what scans could not do.
+  /// Writes what scans could not do to `log`, one line each.
   ScanLoop(Scanner& scanner, std::chrono::milliseconds interval, Publish publish,
            std::ostream& log);
   ScanLoop(const ScanLoop&) = delete;
@@ -40,7 +40,7 @@ class ScanLoop final {
   const Publish publish_;
   std::ostream& log_;
   std::vector<std::string> lastNotes_;
-  std::jthread thread_;  // last, so that it finds all the others alive
+  std::jthread thread_;  // last, because it uses the other members
 };
 
 }  // namespace quillmark::sample

@@ -26,17 +26,17 @@ struct ScanResult {
   std::vector<std::string> notes;  ///< what the scan could not do, for the log
 };
 
-/// Looks at the machine once per call, and remembers between the calls what
-/// was seen before. One thread at a time.
+/// Scans the machine once per call, and remembers between calls what was found
+/// before. One thread at a time.
 class Scanner final {
  public:
   Scanner(SystemPaths paths, const AgentConfig& config, const WalkLimits& limits = {});
   Scanner(const Scanner&) = delete;
   Scanner& operator=(const Scanner&) = delete;
 
-  /// Reads processes, sockets, packages and folders; takes from some tens of
-  /// milliseconds to some seconds. `stop` makes it end early with a result that
-  /// is not worth publishing.
+  /// Reads processes, sockets, packages and folders; takes from tens of
+  /// milliseconds to some seconds. `stop` ends it early, with an incomplete result
+  /// that is not to be published.
   [[nodiscard]] ScanResult scan(std::chrono::system_clock::time_point now,
                                 const std::stop_token& stop);
 

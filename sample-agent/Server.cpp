@@ -24,7 +24,7 @@ namespace asio = boost::asio;
 using asio::ip::tcp;
 using ErrorCode = boost::system::error_code;
 
-/// The open connections by their number, and so the oldest first.
+/// The open connections by number: the oldest is first.
 using Connections = std::map<std::uint64_t, std::shared_ptr<tcp::socket>>;
 
 void hangUp(tcp::socket& socket) {
@@ -35,8 +35,8 @@ void hangUp(tcp::socket& socket) {
 }  // namespace
 
 struct Server::State {
-  State(tcp::acceptor listener, std::string secret, ServerLimits costs)
-      : acceptor(std::move(listener)), token(std::move(secret)), limits(costs) {}
+  State(tcp::acceptor listener, std::string secret, ServerLimits serverLimits)
+      : acceptor(std::move(listener)), token(std::move(secret)), limits(serverLimits) {}
 
   tcp::acceptor acceptor;
   const std::string token;
@@ -49,8 +49,8 @@ struct Server::State {
   static asio::awaitable<void> serve(std::shared_ptr<State> state,
                                      std::shared_ptr<tcp::socket> socket);
 
-  /// Whoever sends the request slowly, or takes the answer slowly, is the one
-  /// that has been here for longest.
+  /// Closes the oldest connections, because a client that sends its request or reads
+  /// its answer slowly is the oldest.
   void makeRoom() {
     while (connections.size() >= limits.connections) {
       hangUp(*connections.begin()->second);
@@ -91,7 +91,7 @@ asio::awaitable<void> Server::State::serve(std::shared_ptr<State> state,
     }
   });
 
-  // Held here, because the answer lies in it until all of it is sent.
+  // Keeps the snapshot alive: the answer points into it until all of it is sent.
   const auto snapshot = state->snapshot;
   AnswerRule rule = [&](const Request& request) {
     return answerTo(request, state->token, *snapshot);
@@ -120,8 +120,8 @@ boost::system::result<tcp::acceptor> listenForClients(asio::io_context& context)
   const tcp::endpoint address(asio::ip::make_address_v4(agentAddress), agentPort);
   tcp::acceptor acceptor(context);
   ErrorCode error;
-  // Connections that linger from an earlier run are no hindrance; another
-  // listener still is one.
+  // Allows binding while connections of an earlier run are in TIME_WAIT; another
+  // listener is still an error.
   if (acceptor.open(address.protocol(), error) ||
       acceptor.set_option(tcp::acceptor::reuse_address(true), error) ||
       acceptor.bind(address, error) ||

@@ -17,24 +17,24 @@
 
 namespace quillmark::sample {
 
-/// What clients may cost, each and all together.
+/// Limits for each client and for all clients together.
 struct ServerLimits {
   std::uint32_t headerBytes = 8 * 1024;
-  std::size_t connections = 64;  ///< beyond it the oldest is closed for the newest
+  std::size_t connections = 64;  ///< beyond this the oldest is closed
   std::chrono::steady_clock::duration deadline = std::chrono::seconds(10);  ///< of a connection
 };
 
-/// A socket that listens on the agent's address; the error when it is taken.
+/// A socket that listens on the agent's address; an error if, say, it is in use.
 [[nodiscard]] boost::system::result<boost::asio::ip::tcp::acceptor> listenForClients(
     boost::asio::io_context& context);
 
-/// Answers HTTP requests from the last published snapshot, one request to a
-/// connection. Clients that come before the first snapshot wait for it. All of
-/// it belongs to the one thread that runs the acceptor's context.
+/// Answers HTTP requests from the last published snapshot, one request per
+/// connection. Clients that connect before the first snapshot wait for it. For use
+/// on the one thread that runs the acceptor's context.
 class Server final {
  public:
   Server(boost::asio::ip::tcp::acceptor acceptor, std::string token, ServerLimits limits = {});
-  ~Server();  ///< takes no more clients; those that are there are served to the end
+  ~Server();  ///< accepts no more clients; open connections are still served
   Server(const Server&) = delete;
   Server& operator=(const Server&) = delete;
 

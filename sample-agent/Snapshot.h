@@ -7,8 +7,8 @@
 
 namespace quillmark::sample {
 
-/// The answers to the four requests as one scan found them, ready to be sent.
-/// Shared between threads as an immutable value.
+/// The JSON bodies of the four endpoints from one scan. Immutable, shared between
+/// threads.
 struct Snapshot {
   std::string status;
   std::string alerts;

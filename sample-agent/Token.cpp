@@ -41,8 +41,8 @@ bool isToken(std::string_view text) {
          text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
 }
 
-/// What is wrong with the open file as a place for a secret.
-std::optional<Failure> unsafe(int descriptor, const std::string& path) {
+/// Closes the open file to other users; returns why it is no safe place for a secret, if so.
+std::optional<Failure> secureFile(int descriptor, const std::string& path) {
   struct stat status {};
   if (fstat(descriptor, &status) != 0) {
     return lastError(path);
@@ -60,7 +60,7 @@ std::optional<Failure> unsafe(int descriptor, const std::string& path) {
   return std::nullopt;
 }
 
-/// No value when there is no such file.
+/// No value if the file does not exist.
 std::optional<TokenResult> readToken(const std::string& path) {
   const int descriptor =
       open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -71,12 +71,12 @@ std::optional<TokenResult> readToken(const std::string& path) {
     return errno == ELOOP ? Failure{path + ": not a regular file"} : lastError(path);
   }
   BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
-  if (auto reason = unsafe(descriptor, path)) {
+  if (auto reason = secureFile(descriptor, path)) {
     return std::move(*reason);
   }
 
-  // Room for a token, the line break that an editor leaves, and more that then
-  // shows that the file is something else.
+  // Large enough for a token and an editor's line break, and for more bytes, which
+  // show that the file is something else.
   std::array<char, 2 * tokenBytes + 16> buffer{};
   const ssize_t count = read(descriptor, buffer.data(), buffer.size());
   if (count < 0) {
@@ -106,7 +106,7 @@ TokenResult loadOrMakeToken(const std::string& path) {
   if (error && error != errc::file_exists) {
     return failure(path, error);
   }
-  // Also after having made it: whichever agent came first, both use what is there.
+  // Read even a file just created: of two agents started at once, both use the same token.
   if (auto token = readToken(path)) {
     return std::move(*token);
   }

@@ -59,8 +59,8 @@ int run() {
     return fail(badConfiguration, config.error().text);
   }
 
-  // The port before the token: of two agents started at once only the one that
-  // is going to serve makes a token.
+  // Open the port before the token: of two agents started at once, only the one that
+  // will serve creates a token.
   boost::asio::io_context context(1);
   auto acceptor = listenForClients(context);
   const std::string address = std::string(agentAddress) + ':' + std::to_string(agentPort);

@@ -22,7 +22,7 @@ constexpr std::size_t uuidCharactersInId = 8;
 
 std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 
-/// An error when the system gives no random bytes.
+/// Returns an error when the system provides no random bytes.
 boost::system::result<std::string> newAgentId() {
   try {
     return "macos-" + computerName().value_or("device") + "-" +

@@ -13,8 +13,8 @@
 namespace quillmark {
 namespace {
 
-/// What stands between the first and the second "=", or the line's end, less
-/// white space and then quotes at both ends; empty when there is no "=".
+/// The text between the first "=" and the second "=" or the end of the line,
+/// without white space and then quotes at both ends; empty when there is no "=".
 std::string valueOf(std::string_view line) {
   const auto start = line.find('=');
   if (start == std::string_view::npos) {

@@ -10,24 +10,24 @@
 
 namespace quillmark {
 
-/// What a configuration says of the two values the user types.
+/// The two values of a configuration that the user types.
 struct ConfigEntries {
-  std::optional<std::string> apiKey;     ///< absent also for a placeholder
-  std::optional<std::string> serverUrl;  ///< absent also when empty
+  std::optional<std::string> apiKey;     ///< also absent when empty or a placeholder
+  std::optional<std::string> serverUrl;  ///< also absent when empty
 
   friend bool operator==(const ConfigEntries&, const ConfigEntries&) = default;
 };
 
-/// Looks through the lines of `text` for these two, whatever section they are
-/// in; the last one of each counts. A line counts by how it starts, and a value
-/// ends at its first "=". Any thread.
+/// Finds the two values in the lines of `text`, in any section; the last usable
+/// one of each is taken. Only the start of a line is compared with the key, and a
+/// value ends at its first "=". Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);
 
-/// Whether a key only stands where one is to be put; it is not read back.
+/// Whether `key` is a placeholder for a real key; placeholders are not read back.
 [[nodiscard]] bool isPlaceholderKey(std::string_view key);
 
-/// Where the agent's configuration may lie, in the order in which it is looked
-/// for. Any thread, as long as none changes the environment meanwhile.
+/// The files that may contain the agent's configuration, in search order. Any
+/// thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::vector<std::string> configFilePaths();
 
 /// The entries of the first of the agent's configuration files that can be

@@ -7,7 +7,7 @@
 
 namespace quillmark {
 
-/// What of the agent's configuration file differs from machine to machine.
+/// The values in the agent's configuration file that differ between machines.
 struct ConfigValues {
   std::string agentId;
   std::string machineIdentifier;
@@ -16,8 +16,8 @@ struct ConfigValues {
   std::string home;  ///< without a trailing slash
 };
 
-/// The whole `config.toml`, without a final line feed. Values go in as they
-/// are: nothing is trimmed, escaped or checked. Any thread.
+/// The whole `config.toml`, without a final line feed. Values are inserted
+/// unchanged: nothing is trimmed, escaped or checked. Any thread.
 [[nodiscard]] std::string configText(const ConfigValues& values);
 
 }  // namespace quillmark

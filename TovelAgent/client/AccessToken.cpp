@@ -17,8 +17,8 @@ namespace {
 constexpr auto systemTokenPath = "/var/run/quillmark/token";
 constexpr auto tokenPathInHome = "/.quillmark/token";
 
-// A token is a line of text; whatever is larger is not one, and reading it
-// would only cost memory.
+// A token is one line of text. A larger file is not a token file, and reading it
+// would only use memory.
 constexpr std::size_t maxTokenFileBytes = std::size_t{1} << 20;
 
 }  // namespace

@@ -12,22 +12,23 @@
 
 namespace quillmark {
 
-/// Where the agent's access token may lie; the first that can be read counts.
-/// Any thread, as long as none changes the environment meanwhile.
+/// The files that may contain the agent's access token; the first readable one is
+/// used. Any thread, as long as no thread changes the environment at the same
+/// time.
 [[nodiscard]] std::vector<std::string> accessTokenPaths();
 
-/// The token in the file at `path`, white space at both ends dropped; the
-/// errors are those of `readTextFile`. Any thread; it reads a file.
+/// The token in the file at `path`, without white space at both ends; the errors
+/// are those of `readTextFile`. Any thread; it reads a file.
 [[nodiscard]] boost::system::result<std::string> readTokenFile(const std::string& path);
 
-/// Reads the agent's access token: the system-wide file if it can be read,
-/// even if it is blank, else the one in the user's home directory. White space
-/// at both ends is dropped. No value when neither file can be read as UTF-8
-/// text. Any thread; it reads files.
+/// Reads the agent's access token: from the system-wide file if that can be read,
+/// even if it is blank, otherwise from the file in the user's home directory.
+/// White space at both ends is removed. No value when neither file can be read as
+/// UTF-8 text. Any thread; it reads files.
 [[nodiscard]] std::optional<std::string> readAccessToken();
 
-/// Whether `token` can travel in an HTTP header field as it is: it holds no
-/// control character (a tab apart), which would end or forge the header.
+/// Whether `token` can be sent unchanged in an HTTP header field: it contains no
+/// control character except tab. Others could end the header or forge a field.
 [[nodiscard]] bool fitsHeaderField(std::string_view token);
 
 }  // namespace quillmark

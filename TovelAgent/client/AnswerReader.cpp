@@ -15,9 +15,9 @@ using ErrorCode = boost::system::error_code;
 
 constexpr int maxInterimAnswers = 16;
 
-// A chunked body always ends with as many bytes that only make sense together.
-// The parser must not see fewer: it counts on them once it has met the last
-// chunk's size.
+// Every chunked body ends with at least this many bytes, which belong together.
+// Never give the parser fewer: after the last chunk's size it assumes that the
+// rest has arrived.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
 
 bool exceedsLimit(const ErrorCode& error) {
@@ -28,7 +28,7 @@ bool exceedsLimit(const ErrorCode& error) {
 
 AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
 
-// One byte more than may stand there unparsed shows that it is too much.
+// One byte more than may be unparsed, so that an excess is noticed.
 boost::asio::mutable_buffer AnswerReader::space() {
   return buffer_.prepare(limits_.headerBytes + std::size_t{1} - buffer_.size());
 }
@@ -42,7 +42,7 @@ void AnswerReader::received(std::size_t count) {
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
-    // What is left then is a piece of the header, or of a chunk's or trailer's line.
+    // These bytes are part of the header, or of a chunk's size line or a trailer line.
     const std::size_t unparsed = needsMore ? buffer_.size() : 0;
     if (headerSize_ + unparsed > limits_.headerBytes || exceedsLimit(error)) {
       failure_ = HttpFailure::tooLarge;

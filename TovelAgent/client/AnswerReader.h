@@ -14,27 +14,27 @@
 
 namespace quillmark {
 
-/// Reads the final answer from the bytes of one connection, however they are cut
-/// into pieces; interim answers are passed over. Knows no socket.
+/// Parses the final answer from the bytes of one connection, which may arrive in
+/// pieces of any size; interim (1xx) answers are skipped. Does not use a socket.
 ///
-/// Beast's own `async_read` is not enough (1.81): its limit of a header does not
-/// hold for lines that come one by one, it asserts that the end of a chunked body
-/// comes in one piece, and what a growing body throws for want of memory ends the
-/// process, since it reaches the executor and not the awaiting coroutine.
+/// Beast's own `async_read` (1.81) is not enough. Its header limit is not applied
+/// to lines that arrive one by one. It asserts that the end of a chunked body
+/// arrives in one piece. When a growing body runs out of memory, the exception
+/// reaches the executor instead of the awaiting coroutine and ends the process.
 class AnswerReader final {
  public:
   explicit AnswerReader(const HttpLimits& limits);
 
   /// Where the next bytes of the connection go.
   [[nodiscard]] boost::asio::mutable_buffer space();
-  /// Takes `count` bytes that were written to `space()`. Throws `std::bad_alloc`.
+  /// Parses `count` bytes that were written to `space()`. Throws `std::bad_alloc`.
   void received(std::size_t count);
-  /// The server will send nothing more.
+  /// Call when the server will send no more bytes.
   void ended();
 
-  /// Whether the answer has come, or cannot come any more.
+  /// Whether the answer is complete or has failed.
   [[nodiscard]] bool isOver() const { return isDone_ || failure_; }
-  /// The answer, or what kept it from coming, when the reading is over; once.
+  /// The answer, or why it failed. Call once, when `isOver()`.
   [[nodiscard]] HttpResult takeResult();
 
  private:

@@ -28,11 +28,11 @@ HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
   return error == beast::error::timeout ? HttpFailure::timedOut : otherwise;
 }
 
-/// `exchange`, on an executor that runs one handler at a time: a stream whose
-/// time runs out closes itself, wherever the coroutine is at that moment.
+/// `exchange` on an executor that runs one handler at a time. It needs that because
+/// a stream closes itself on timeout, at any point of the coroutine.
 asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits limits) {
   ErrorCode error;
-  // A named token: GCC 12 destroys temporaries inside a co_await twice.
+  // A named variable, because GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   const auto executor = co_await asio::this_coro::executor;
   beast::tcp_stream stream(executor);
@@ -68,7 +68,7 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
 }  // namespace
 
 std::string requestText(const HttpRequest& request) {
-  // A client that keeps no connection owes the server the last field.
+  // HTTP requires "Connection: close" from a client without persistent connections.
   return request.method + ' ' + request.target + " HTTP/1.1\r\nHost: " + request.host +
          "\r\nX-Agent-Token: " + request.token + "\r\nConnection: close\r\n\r\n";
 }

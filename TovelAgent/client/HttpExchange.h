@@ -22,7 +22,7 @@ struct HttpRequest {
   std::string token;   ///< the X-Agent-Token field, sent also when empty
 };
 
-/// What an exchange may cost. Beyond any of these there is no answer.
+/// The limits of one exchange. An exchange that exceeds one of them fails.
 struct HttpLimits {
   /// From connecting to the answer's last byte.
   std::chrono::steady_clock::duration time = std::chrono::seconds(60);
@@ -37,23 +37,23 @@ struct HttpAnswer {
 
 /// Why there is no answer.
 enum class HttpFailure {
-  notConnected,  ///< nobody takes connections at the address
-  timedOut,      ///< the answer was not whole within `HttpLimits::time`
-  brokenOff,     ///< the connection ended before the answer did
-  malformed,     ///< what came is no HTTP answer
-  tooLarge,      ///< more came than `HttpLimits` allows
+  notConnected,  ///< no connection to the address is possible
+  timedOut,      ///< the answer was not complete within `HttpLimits::time`
+  brokenOff,     ///< the connection ended before the answer was complete
+  malformed,     ///< the received bytes are not an HTTP answer
+  tooLarge,      ///< the answer is larger than `HttpLimits` allows
 };
 
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 
-/// What `request` looks like on the wire. Any thread.
+/// The bytes that are sent for `request`. Any thread.
 [[nodiscard]] std::string requestText(const HttpRequest& request);
 
-/// Sends `request` over a connection of its own and completes with the answer,
-/// whatever its status is, or with what kept it from coming whole. Follows no
-/// redirect, asks for no compression, keeps nothing. Runs on the awaiting
-/// coroutine's executor, which may have several threads, and blocks none of them.
-/// Throws `std::bad_alloc` only.
+/// Sends `request` over a new connection and completes with the answer, with any
+/// status, or with the reason why there is no complete answer. Does not follow
+/// redirects, ask for compression or store anything. Runs on the awaiting
+/// coroutine's executor, which may have several threads, and does not block them.
+/// Throws only `std::bad_alloc`.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

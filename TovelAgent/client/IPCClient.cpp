@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "client/AccessToken.h"
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 #include "client/HttpExchange.h"
 #include "model/Codec.h"
 
@@ -73,7 +73,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Above all, memory that ran out.
+    // Mainly `std::bad_alloc`.
     co_return std::nullopt;
   }
 }

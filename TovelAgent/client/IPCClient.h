@@ -10,7 +10,7 @@
 
 #include <boost/asio/awaitable.hpp>
 
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 #include "model/AgentStatus.h"
 #include "model/InventoryData.h"
 #include "model/NetworkConnection.h"
@@ -18,17 +18,19 @@
 
 namespace quillmark {
 
-/// The one connection to the agent: four reads over its loopback interface.
-/// Shared by whoever asks the same agent with the same token; never copied.
+/// The only access to the agent: four read operations over its loopback
+/// interface. Callers with the same agent and token share one client; it cannot
+/// be copied.
 ///
-/// Every operation completes exactly once, with a value or with no value; the
-/// reason for no value (no token, no agent, silence, a body that does not
-/// decode) is told to nobody. An empty list is a value. The client is
-/// immutable once constructed, so all operations may run at once, from any
-/// thread, as long as it outlives them; each runs on its caller's executor.
+/// Every operation completes exactly once, with a value or with no value. The
+/// reason for no value (no token, no agent, no answer, a body that cannot be
+/// decoded) is not reported. An empty list is a value. The client is immutable
+/// after construction, so all operations may run at the same time, from any
+/// thread, as long as the client outlives them; each runs on its caller's
+/// executor.
 class IPCClient final {
  public:
-  /// Reads the access token, once for the client's life.
+  /// Reads the access token; it is not read again later.
   IPCClient();
   IPCClient(const IPCClient&) = delete;
   IPCClient& operator=(const IPCClient&) = delete;
@@ -42,7 +44,7 @@ class IPCClient final {
  private:
   void loadAuthToken();
 
-  /// Both texts must be literals: they are read while the request runs.
+  /// Both arguments must be string literals: they are read while the request runs.
   template <class R>
   [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,
                                                                      std::string_view method) const;

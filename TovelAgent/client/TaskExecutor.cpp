@@ -10,8 +10,8 @@
 namespace quillmark {
 namespace {
 
-// Tasks wait without a thread, so two serve: while one decodes a large body,
-// the other keeps everything else moving.
+// A waiting task uses no thread, so two threads are enough: while one decodes a
+// large body, the other runs all other tasks.
 constexpr std::size_t threadCount = 2;
 
 std::atomic<boost::asio::thread_pool*> currentPool = nullptr;

@@ -10,9 +10,9 @@ namespace quillmark {
 
 /// The process's general-purpose executor, on which all network work runs.
 ///
-/// Exactly one lives at a time: the entry point makes it before anything that
-/// starts tasks, and destroys it after. Its destruction waits for the handlers
-/// that are running at that moment and drops every task that is waiting.
+/// Only one instance exists at a time: the entry point creates it before anything
+/// that starts tasks, and destroys it after that. The destructor waits for the
+/// handlers that are running and drops every waiting task.
 class TaskExecutor final {
  public:
   TaskExecutor();
@@ -20,10 +20,10 @@ class TaskExecutor final {
   TaskExecutor(const TaskExecutor&) = delete;
   TaskExecutor& operator=(const TaskExecutor&) = delete;
 
-  /// Whether the one instance lives. Any thread.
+  /// Whether the instance exists. Any thread.
   [[nodiscard]] static bool exists();
 
-  /// The executor of the one instance, which must exist. Any thread.
+  /// The executor of the instance, which must exist. Any thread.
   [[nodiscard]] static boost::asio::any_io_executor current();
 
  private:

@@ -4,8 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A filled button with an icon and a text. Disabled, it is out of the
-/// keyboard's way too.
+/// A filled button with an icon and a text. When disabled, the keyboard skips it.
 Pressable {
     id: button
 

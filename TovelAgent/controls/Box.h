@@ -9,9 +9,9 @@
 
 namespace quillmark {
 
-/// A box with round corners, drawn in the display's own pixels: at every scale
-/// its corners are alike, and so are the lines of its border. Qt's software
-/// renderer knows whole units of the scene alone and draws them uneven. UI
+/// A box with round corners, drawn in device pixels: at every scale its corners
+/// are equal, and its border has the same thickness on all sides. Qt's software
+/// renderer aligns to whole units of the scene only and draws them unequal. UI
 /// thread only.
 class Box : public QQuickItem {
   Q_OBJECT
@@ -20,8 +20,8 @@ class Box : public QQuickItem {
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY lookChanged)
   Q_PROPERTY(qreal borderWidth MEMBER borderWidth_ NOTIFY lookChanged)
   Q_PROPERTY(QColor borderColor MEMBER borderColor_ NOTIFY lookChanged)
-  /// Above 0 the shadow of such a box is drawn instead, blurred by this radius.
-  /// It reaches beyond the item by twice as much.
+  /// The blur radius, in scene units. Above 0, the box's shadow is drawn instead
+  /// of the box. It extends beyond the item by twice this radius.
   Q_PROPERTY(qreal softness MEMBER softness_ NOTIFY lookChanged)
 
  public:

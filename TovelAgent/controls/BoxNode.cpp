@@ -8,7 +8,7 @@
 namespace quillmark {
 namespace {
 
-/// Where the nodes above `node` put its origin in the scene.
+/// The scene position of `node`'s origin, given by its parent nodes.
 QPointF origin(const QSGNode& node) {
   QPointF point;
   for (const auto* above = node.parent(); above != nullptr; above = above->parent()) {
@@ -23,7 +23,7 @@ QPointF origin(const QSGNode& node) {
 
 BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNinePatchNode()) {
   setFlag(UsePreprocess);
-  // Where OpenGL draws, it has none of its own accord.
+  // With OpenGL the node has no device pixel ratio by default.
   patch_->setDevicePixelRatio(1);
   appendChildNode(patch_);
 }

@@ -11,14 +11,14 @@
 
 namespace quillmark {
 
-/// Shows a box at whole device pixels, wherever the nodes above it move it to.
-/// Render thread only.
+/// Draws a box aligned to whole device pixels, whatever offset its parent nodes
+/// add. Render thread only.
 class BoxNode final : public QSGTransformNode {
  public:
   explicit BoxNode(QQuickWindow& window);
 
-  /// `box` and `look` are in device pixels, of which `ratio` make one unit of
-  /// the scene.
+  /// `box` and `look` are in device pixels; `ratio` is the number of device
+  /// pixels per scene unit.
   void show(QSize box, const BoxLook& look, qreal ratio);
 
   void preprocess() override;
@@ -27,7 +27,7 @@ class BoxNode final : public QSGTransformNode {
   void draw(const BoxPicture& picture);
 
   QQuickWindow& window_;
-  QSGNinePatchNode* const patch_;  ///< a child, which the nodes own
+  QSGNinePatchNode* const patch_;  ///< owned by this node, as a child
   BoxLook look_;
   QSize drawn_;
   qreal ratio_ = 1;

@@ -13,8 +13,8 @@
 namespace quillmark {
 namespace {
 
-// How much of a shadow each of its outlines adds, from the box's edge outwards.
-// Each is half the blur radius larger than the one before it.
+// The opacity that each layer of a shadow adds, from the box's edge outwards.
+// Each layer extends beyond the previous one by half the blur radius.
 constexpr std::array shadowSteps{0.22, 0.17, 0.1, 0.05};
 
 qreal spread(const BoxLook& look, std::size_t step) {
@@ -33,7 +33,7 @@ void drawShadow(QPainter& painter, const BoxLook& look, const QRectF& box) {
 }
 
 void drawPlain(QPainter& painter, const BoxLook& look, const QRectF& box) {
-  // A line runs along the middle of its pen.
+  // QPainter centres the pen on the outline: inset it by half the border.
   const auto in = look.borderWidth / 2.0;
   if (look.borderWidth > 0) {
     painter.setPen(QPen(look.borderColor, look.borderWidth));

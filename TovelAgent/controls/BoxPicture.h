@@ -21,14 +21,14 @@ struct BoxLook {
   bool operator==(const BoxLook&) const = default;
 };
 
-/// The smallest picture of a box that grows to any size by stretching what lies
-/// between its corners.
+/// The smallest nine-patch picture of a box: stretching the part between its
+/// corners gives any larger size. All lengths are device pixels.
 struct BoxPicture {
   BoxPicture(const BoxLook& look, QSize box);
 
   QSize size;
-  QMargins corners;  ///< what must not be stretched
-  int reach = 0;     ///< how far the picture goes beyond the box on each side
+  QMargins corners;  ///< the parts that must not be stretched
+  int reach = 0;     ///< how far the picture extends beyond the box on each side
 };
 
 /// Draws `look` as a picture of `picture`'s size.

@@ -9,12 +9,12 @@ namespace quillmark {
 
 ClickArea::ClickArea(QQuickItem* parent) : QQuickItem(parent) {
   setAcceptedMouseButtons(Qt::LeftButton);
-  // A Flickable asks for this before it takes a drag over.
+  // Keeps a Flickable from taking over the drag.
   setKeepMouseGrab(true);
   setKeepTouchGrab(true);
 }
 
-// Accepted, or the release would go to somebody else.
+// Without this, the release would go to another item.
 void ClickArea::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void ClickArea::mouseReleaseEvent(QMouseEvent* event) {
@@ -23,7 +23,7 @@ void ClickArea::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-// It follows the second press of two; accepted, so that this press stays here.
+// Sent after the second press of a double click; accepting it keeps that press here.
 void ClickArea::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 }  // namespace quillmark

@@ -8,10 +8,10 @@
 
 namespace quillmark {
 
-/// Takes clicks by the left button or a finger: each press inside that is let go
-/// inside, however long it is held and however far it drifts meanwhile, also in
-/// a view that scrolls. Of Qt's own, TapHandler drops presses that are held or
-/// drift, MouseArea the second of two quick taps. UI thread only.
+/// Reports clicks of the left button or a finger: every press inside that is
+/// released inside, no matter how long it is held or how far it moves, also in a
+/// view that scrolls. Of Qt's own types, TapHandler drops presses that are held
+/// or that move, and MouseArea drops the second of two quick taps. UI thread only.
 class ClickArea : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT

@@ -8,7 +8,7 @@
 namespace quillmark {
 namespace {
 
-// What stays between the item and the edge, so that its label shows as well.
+// The distance between the item and the edge, so that its label is visible as well.
 constexpr qreal margin = 32;
 
 }  // namespace
@@ -21,7 +21,7 @@ void FocusFollower::setTarget(QQuickItem* target) {
   if (target_) {
     connect(target_, &QQuickItem::windowChanged, this, &FocusFollower::watch);
     connect(target_, &QQuickItem::heightChanged, this, &FocusFollower::keepInView);
-    // A Flickable's own signal: its class is not public.
+    // Connected by name, because Flickable's C++ class is not public.
     connect(target_, SIGNAL(contentHeightChanged()), this, SLOT(keepInView()));
     watch(target_->window());
   }

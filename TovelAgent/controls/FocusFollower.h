@@ -11,9 +11,9 @@
 
 namespace quillmark {
 
-/// Scrolls a Flickable so that what matters in it is in view: the item with the
-/// keyboard focus, or one that was revealed since. It stays so when the view or
-/// what is in it changes its size. UI thread only.
+/// Scrolls a Flickable to keep one item in view: the item with the keyboard
+/// focus, or one passed to `reveal` since. Scrolls again when the view or its
+/// content changes size. UI thread only.
 class FocusFollower : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -25,7 +25,7 @@ class FocusFollower : public QObject {
   [[nodiscard]] QQuickItem* target() const { return target_; }
   void setTarget(QQuickItem* target);
 
-  /// Brings `item`, which lies in the target, into view.
+  /// Scrolls until `item`, which must be inside the target, is in view.
   Q_INVOKABLE void reveal(QQuickItem* item);
 
  private Q_SLOTS:

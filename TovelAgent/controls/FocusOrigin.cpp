@@ -8,7 +8,7 @@
 namespace quillmark {
 namespace {
 
-/// The focus only comes back then, as it was before.
+/// Whether the focus only returns to the item: its origin stays the same then.
 bool isReturn(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
          reason == Qt::OtherFocusReason;

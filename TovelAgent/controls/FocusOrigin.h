@@ -10,8 +10,8 @@
 
 namespace quillmark {
 
-/// Whether the pointer gave its target the keyboard focus. Whoever clicked
-/// knows where the focus is; a ring would only distract. UI thread only.
+/// Whether the target got the keyboard focus from the pointer. After a click the
+/// user knows where the focus is; a ring would only distract. UI thread only.
 class FocusOrigin : public QObject {
   Q_OBJECT
   QML_ELEMENT

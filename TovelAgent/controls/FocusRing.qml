@@ -4,17 +4,17 @@
 import QtQuick
 import Quillmark.Controls
 
-/// Shows where the keyboard is, at the edge of its parent, unless the pointer
-/// brought it there.
+/// Marks the keyboard focus along the edge of its parent, unless the focus came
+/// from the pointer.
 Box {
     id: ring
 
     required property Item target
-    /// How far from its parent's edge, inwards.
+    /// The distance from its parent's edge; positive is inwards.
     property int inset: 1
 
     anchors.fill: parent
-    // Whole pixels of the screen, or it would be nearer to one side than another.
+    // Whole device pixels, or the margins would differ from side to side.
     anchors.margins: Math.round(inset * Screen.devicePixelRatio) / Screen.devicePixelRatio
     visible: target.activeFocus && !origin.isPointer
     color: "transparent"

@@ -42,8 +42,8 @@ Column {
         Entry {
             id: input
 
-            // Qt hands assistive technology whatever `text` is, also of a masked
-            // field. There it shall be what everyone sees.
+            // Qt exposes `text` to assistive technology, even in a masked field.
+            // This property shadows it with the displayed text.
             property string text: displayText
 
             anchors.fill: parent

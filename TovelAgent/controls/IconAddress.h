@@ -10,8 +10,9 @@
 
 namespace quillmark {
 
-/// Where `IconProvider` serves an icon. In C++, because Qt 6.4 crashes when a
-/// QML binding turns a colour into text while garbage is collected.
+/// Builds the URL under which `IconProvider` serves an icon. In C++, because Qt
+/// 6.4 crashes when a QML binding converts a colour to text during garbage
+/// collection.
 class IconAddress : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -20,7 +21,7 @@ class IconAddress : public QObject {
  public:
   using QObject::QObject;
 
-  /// The address of the icon `name` in `color`; empty without a name. Any thread.
+  /// The URL of the icon `name` in `color`; empty if `name` is empty. Any thread.
   [[nodiscard]] Q_INVOKABLE static QString of(const QString& name, const QColor& color);
 };
 

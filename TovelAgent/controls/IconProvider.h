@@ -8,8 +8,9 @@
 namespace quillmark {
 
 /// Draws the icons of symbolic names. The id is the name followed by the
-/// colour, as in `gear#0b5fd9`; the picture has exactly the size asked for, in
-/// device pixels. An unknown name gives no picture, and QML a warning.
+/// colour, as in `gear#0b5fd9`; the image has exactly the requested size, in
+/// device pixels. For an unknown name the image is null, and QML prints a
+/// warning.
 class IconProvider final : public QQuickImageProvider {
  public:
   IconProvider() : QQuickImageProvider(Image) {}

@@ -3,8 +3,8 @@
 
 import QtQuick
 
-/// A text exactly as it is given: never read as rich text, whoever wrote it. It
-/// goes on in the next line where the width that it is given ends.
+/// A plain text: markup in it is never interpreted, wherever the text comes from.
+/// It wraps at the label's width.
 Text {
     id: label
 

@@ -6,16 +6,16 @@
 namespace quillmark {
 namespace {
 
-bool tellsText(const QAccessibleEvent& event) {
+bool isTextEvent(const QAccessibleEvent& event) {
   return event.type() == QAccessible::TextInserted || event.type() == QAccessible::TextRemoved ||
          event.type() == QAccessible::TextUpdated;
 }
 
-void passOn(QAccessibleEvent* event) {
+void forwardUnlessMasked(QAccessibleEvent* event) {
   if (tellsMaskedText(*event)) {
     return;
   }
-  // Without a handler Qt tells the platform, which is what we want of it now.
+  // Without a handler Qt forwards the event to the platform.
   const auto self = QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(event);
   QAccessible::installUpdateHandler(self);
@@ -24,13 +24,13 @@ void passOn(QAccessibleEvent* event) {
 }  // namespace
 
 bool tellsMaskedText(const QAccessibleEvent& event) {
-  if (!tellsText(event)) {
+  if (!isTextEvent(event)) {
     return false;
   }
   const auto* const source = event.accessibleInterface();
   return source != nullptr && source->state().passwordEdit;
 }
 
-void silenceMaskedText() { QAccessible::installUpdateHandler(passOn); }
+void silenceMaskedText() { QAccessible::installUpdateHandler(forwardUnlessMasked); }
 
 }  // namespace quillmark

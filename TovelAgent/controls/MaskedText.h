@@ -7,12 +7,12 @@
 
 namespace quillmark {
 
-/// Whether the event tells what is in a masked field. UI thread.
+/// Whether `event` contains the text of a masked field. UI thread.
 [[nodiscard]] bool tellsMaskedText(const QAccessibleEvent& event);
 
-/// Keeps what is in masked fields from assistive technology: Qt announces a
-/// change of text with the text itself, also where everyone else sees dots.
-/// For the life of the program; UI thread.
+/// Hides the text of masked fields from assistive technology: Qt's text events
+/// contain the text itself, even if the field shows dots. In effect until the
+/// program ends; UI thread.
 void silenceMaskedText();
 
 }  // namespace quillmark

@@ -4,8 +4,8 @@
 import QtQuick
 
 /// A text that knows how wide it would be without wrapping. The `implicitWidth` of a
-/// text that wraps changes a little with its width, so that a width bound to that
-/// would be a binding loop.
+/// text that wraps changes a little with its width, so a width bound to it would be a
+/// binding loop.
 Label {
     id: label
 
@@ -21,8 +21,8 @@ Label {
         textFormat: label.textFormat
         text: label.text
         font: label.font
-        // An empty text that has none asks the input method for it, where Qt 6.4
-        // crashes on a Wayland desktop without a keyboard.
+        // Without an alignment, an empty text asks the input method for one. Qt 6.4
+        // crashes in that call on a Wayland desktop without a keyboard.
         horizontalAlignment: Text.AlignLeft
     }
 }

@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A line with an icon on a tint: something went well, or did not.
+/// A line with an icon on a tinted background: reports success or failure.
 Box {
     id: notice
 

@@ -16,7 +16,7 @@ ListView {
     pixelAligned: true
     reuseItems: true
     activeFocusOnTab: true
-    // Rows are read, not chosen; and a highlight would cost frames at start.
+    // Rows cannot be selected, and a highlight would cost frames at start.
     keyNavigationEnabled: false
     currentIndex: -1
 
@@ -36,7 +36,7 @@ ListView {
         color: Theme.listGround
     }
 
-    // When every row in view goes, the view would start again near the top.
+    // When every row in view is removed, ListView would jump to near the top.
     Connections {
         property bool allGone: false
 
@@ -52,7 +52,7 @@ ListView {
         }
     }
 
-    // Later: the list itself has yet to hear of it.
+    // Deferred, because ListView has not processed the removal yet.
     Timer {
         id: goToEnd
 

@@ -3,8 +3,8 @@
 
 import QtQuick
 
-/// One row of a `PlainList`: the insets and the line under it, round whatever
-/// the row shows.
+/// One row of a `PlainList`: adds the insets and the line below to the row's
+/// content.
 Item {
     id: row
 
@@ -14,10 +14,10 @@ Item {
     readonly property real pixel: 1 / Screen.devicePixelRatio
 
     width: ListView.view ? ListView.view.width : 0
-    // Whole pixels of the screen, or the lines under rows differ in thickness.
+    // Whole device pixels, or the lines below the rows differ in thickness.
     height: Math.ceil((holder.childrenRect.height + 2 * Theme.listRowInset) / pixel) * pixel
 
-    // Until it is used again, a row that scrolled away is nobody's to read.
+    // Hides a pooled row from assistive technology until it is reused.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
@@ -34,14 +34,14 @@ Item {
 
     Rectangle {
         anchors.bottom: parent.bottom
-        // Off the middle of a pixel, where it is left to chance how it is rounded.
+        // Moves the edge off a pixel's middle, where rounding is unpredictable.
         anchors.bottomMargin: row.pixel / 8
         x: Theme.listInset
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
-        // Not to be seen. A box without it counts for the renderer as hiding every
-        // pixel it touches, and what it only touches stays unpainted.
+        // The difference to 1 is invisible. The renderer assumes that an opaque box
+        // covers every pixel it touches, and leaves partly covered ones unpainted.
         opacity: 0.999
     }
 }

@@ -4,26 +4,26 @@
 import QtQuick
 import Quillmark.Controls
 
-/// What can be pressed, by pointer, keyboard or assistive technology.
+/// An item that can be pressed by pointer, keyboard or assistive technology.
 Item {
     id: pressable
 
     required property string label
     property int focusInset: 1
-    /// Not for what stands in for a part of the desktop: using that shall not
-    /// take the keyboard from where the user was.
+    /// Whether a click takes the keyboard focus. False for controls that replace a
+    /// part of the desktop: a click on one must leave the focus where it was.
     property bool takesFocus: true
     readonly property bool hovered: hover.hovered
 
     signal pressed
 
-    // A key that is held repeats, and would start one agent after the other.
+    // A held key repeats, and would start one agent after the other.
     function pressBy(key) {
         if (!key.isAutoRepeat)
             pressed();
     }
 
-    // Qt counts on it for assistive technology, enabled or not.
+    // Qt reports this value to assistive technology even for a disabled item.
     activeFocusOnTab: enabled
 
     Keys.onSpacePressed: event => pressBy(event)
@@ -32,11 +32,11 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: label
-    // Qt has no word to assistive technology for what is disabled.
+    // Qt does not report the disabled state to assistive technology.
     Accessible.description: enabled ? "" : "Unavailable"
     Accessible.focusable: enabled
     Accessible.focused: activeFocus
-    // Assistive technology presses what is disabled, too.
+    // Assistive technology can also press a disabled item.
     Accessible.onPressAction: if (enabled) pressed()
 
     ClickArea {

@@ -4,14 +4,14 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A slim bar at the right that can be dragged; there only when there is
-/// something to scroll. What it does, the keyboard does at what it scrolls.
+/// A slim scroll bar at the right that can be dragged; visible only when there
+/// is something to scroll. Pointer only: the target itself handles the keyboard.
 MouseArea {
     id: bar
 
     required property Flickable target
 
-    // Where on the thumb it was taken.
+    // The distance from the thumb's top to the point where the pointer holds it.
     property real grip: 0
     readonly property int margin: 3
 
@@ -33,7 +33,7 @@ MouseArea {
             thumb.moveTo(mouse.y - grip);
     }
     onReleased: target.returnToBounds()
-    // The wheel belongs to what lies below.
+    // The item below handles the wheel.
     onWheel: wheel => wheel.accepted = false
 
     Accessible.ignored: true
@@ -49,7 +49,7 @@ MouseArea {
             bar.target.contentY = bar.target.originY + share * (bar.target.contentHeight - bar.target.height);
         }
 
-        // At the window's edge, where the pointer resizes, it could not be held.
+        // Stays clear of the window's edge, where a drag resizes the window.
         x: bar.margin
         width: bar.width - bar.margin - 5
         y: bar.margin + Math.max(0, Math.min(1, share)) * way

@@ -11,10 +11,10 @@ namespace quillmark {
 namespace {
 
 constexpr qreal lineStep = 40;
-// What stays in view from one page to the next, to find the place again.
+// The part of a page that stays in view, so that the reader finds the place again.
 constexpr qreal pageOverlap = 40;
 
-qreal number(const QQuickItem& item, const char* property) {
+qreal realProperty(const QQuickItem& item, const char* property) {
   return item.property(property).toReal();
 }
 
@@ -57,7 +57,7 @@ bool ScrollKeys::scroll(int key) {
       scrollPages(1);
       return true;
     case Qt::Key_Home:
-      target_->setProperty("contentY", number(*target_, "originY"));
+      target_->setProperty("contentY", realProperty(*target_, "originY"));
       return true;
     case Qt::Key_End:
       scrollToEnd();
@@ -74,18 +74,19 @@ void ScrollKeys::scrollPages(int count) {
 }
 
 void ScrollKeys::scrollBy(qreal distance) {
-  const qreal top = number(*target_, "originY");
-  const qreal bottom = std::max(top, top + number(*target_, "contentHeight") - target_->height());
+  const qreal top = realProperty(*target_, "originY");
+  const qreal bottom =
+      std::max(top, top + realProperty(*target_, "contentHeight") - target_->height());
   target_->setProperty("contentY",
-                       std::clamp(number(*target_, "contentY") + distance, top, bottom));
+                       std::clamp(realProperty(*target_, "contentY") + distance, top, bottom));
 }
 
 void ScrollKeys::scrollToEnd() {
-  // A list only estimates the height of rows it never built.
+  // A list view only estimates the height of rows that it has not created yet.
   if (target_->inherits("QQuickItemView")) {
     QMetaObject::invokeMethod(target_, "positionViewAtEnd");
   } else {
-    scrollBy(number(*target_, "contentHeight"));
+    scrollBy(realProperty(*target_, "contentHeight"));
   }
 }
 

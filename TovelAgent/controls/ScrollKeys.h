@@ -12,7 +12,7 @@ namespace quillmark {
 
 /// Lets the keyboard scroll a Flickable or list that has the focus: arrows by
 /// a step, Page Up and Page Down by a page, Home and End to the ends. A click
-/// into it gives it the focus. UI thread only.
+/// on the target gives it the focus. UI thread only.
 class ScrollKeys : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -24,7 +24,7 @@ class ScrollKeys : public QObject {
   [[nodiscard]] QQuickItem* target() const { return target_; }
   void setTarget(QQuickItem* target);
 
-  /// By steps or pages; downwards when positive, and never past an end.
+  /// Scroll by steps or pages: down if `count` is positive, never past an end.
   Q_INVOKABLE void scrollLines(int count);
   Q_INVOKABLE void scrollPages(int count);
 

@@ -13,7 +13,7 @@ Flickable {
     property int padding: 20
     property alias spacing: column.spacing
 
-    /// Scrolls until `item`, which lies in the page, is in view.
+    /// Scrolls until `item`, which must be inside the page, is in view.
     function reveal(item: Item) {
         follower.reveal(item);
     }
@@ -23,7 +23,7 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     flickableDirection: Flickable.VerticalFlick
     pixelAligned: true
-    // What has the focus keeps it, also when nothing is left to scroll.
+    // A page with the focus keeps it, even when nothing is left to scroll.
     activeFocusOnTab: activeFocus || contentHeight > height
 
     Accessible.role: Accessible.Pane

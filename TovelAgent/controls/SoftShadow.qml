@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// The shadow of a box of corner radius `radius` that fills the same place.
+/// The shadow of a box with the same geometry and corner radius.
 Box {
     color: Qt.alpha(Theme.shadow, Theme.shadowOpacity)
     softness: Theme.shadowRadius

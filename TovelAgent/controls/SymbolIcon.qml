@@ -4,8 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// The icon of a symbolic name, as large as symbols stand beside text of
-/// `size`. Decoration: what it means is said by the text it goes with.
+/// The icon of a symbolic name, sized to match text of pixel size `size`.
+/// Decoration only: the text beside it carries the meaning.
 Image {
     id: icon
 

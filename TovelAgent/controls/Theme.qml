@@ -5,9 +5,9 @@ pragma Singleton
 
 import QtQuick
 
-/// The look: every colour, radius and size that more than one view shares.
-/// Each text colour has a contrast of at least 4.5 to 1 on every ground it
-/// stands on, each icon colour 3 to 1.
+/// The colours, radii and sizes that several views share. Each text colour has
+/// a contrast of at least 4.5 to 1 on every background it is used on, each icon
+/// colour at least 3 to 1.
 QtObject {
     readonly property color blue: "#0B5FD9"
     readonly property color gray: "#656B75"

@@ -9,9 +9,9 @@
 
 namespace quillmark {
 
-/// The whole device pixels nearest to a length or place. At scales like 1.5 many
-/// lie in the middle of two but for an error of calculation: those all go up, so
-/// that what belongs together stays together.
+/// Rounds a length or position to the nearest whole device pixel. At scales like
+/// 1.5 many values are halfway between two pixels, plus or minus a floating-point
+/// error. All of these round up, so that edges at the same place stay together.
 [[nodiscard]] inline int wholePixels(qreal pixels) {
   constexpr qreal middle = 0.5 + 1.0 / 64;
   return static_cast<int>(std::floor(pixels + middle));

@@ -5,12 +5,12 @@
 
 namespace quillmark {
 
-/// What happens once, when launching has finished, and nothing else: the
-/// toolkit's defaults hold for everything after. UI thread only.
+/// Acts only once, when launching has finished; the toolkit's defaults apply to
+/// everything after that. UI thread only.
 class AppDelegate final {
  public:
-  /// Gives the first of the application's windows, which must not have been
-  /// shown yet, its light, non-opaque background. Without a window, nothing.
+  /// Gives the application's first window its light, non-opaque background. The
+  /// window must not have been shown yet. Does nothing if there is no window.
   void applicationDidFinishLaunching() const;
 };
 

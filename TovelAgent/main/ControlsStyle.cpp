@@ -8,7 +8,8 @@
 namespace quillmark {
 
 void fixControlsStyle() {
-  // Not by QQuickStyle: a library more at each start, for a dialog few open.
+  // QQuickStyle would load one more library at each start, for a dialog that few
+  // users open.
   qputenv("QT_QUICK_CONTROLS_STYLE", "Fusion");
   qunsetenv("QT_QUICK_CONTROLS_CONF");
 }

@@ -5,9 +5,9 @@
 
 namespace quillmark {
 
-/// Keeps the look of Qt's own file dialog, whatever style of controls the
-/// environment asks for: others mix badly with the panel, dark on dark.
-/// To be called before any view is made; UI thread.
+/// Fixes the style of Qt's own file dialog, whatever style the environment asks
+/// for: other styles mix badly with the panel, as dark on dark. Call before any
+/// view is created; UI thread.
 void fixControlsStyle();
 
 }  // namespace quillmark

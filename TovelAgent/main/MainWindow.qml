@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.Views
 
-/// The window: no title bar of the desktop's, the content from edge to edge.
+/// The window, without the desktop's title bar: its content fills it completely.
 Window {
     id: window
 
@@ -15,10 +15,10 @@ Window {
     height: 700
     minimumWidth: 1000
     minimumHeight: 700
-    // Qt's own file dialog lays this colour, meant for a strong ground, onto a
-    // pale one: its chosen row would be white on light blue.
+    // Qt's own file dialog uses this colour, meant for a strong background, on a
+    // pale one: its selected row would be white on light blue.
     palette.highlightedText: Theme.text
-    // And what it disables would be a light gray on a lighter one.
+    // And its disabled controls would be light gray on a lighter gray.
     palette.disabled.buttonText: Theme.gray
 
     ContentView {

@@ -15,7 +15,7 @@ class RefusingManager final : public QNetworkAccessManager {
 
  protected:
   QNetworkReply* createRequest(Operation, const QNetworkRequest&, QIODevice*) override {
-    // A request to nowhere fails as any other does, and touches no network.
+    // A request without a URL fails like any other, and does not use the network.
     return QNetworkAccessManager::createRequest(GetOperation, QNetworkRequest());
   }
 };

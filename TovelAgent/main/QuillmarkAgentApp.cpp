@@ -22,16 +22,16 @@ int QuillmarkAgentApp::run() {
     return 0;
   }
 
-  // Reading what fonts there are takes a fifth of the start, and the first date is
-  // slow too. Both are done beside the reading of the views, which need the fonts at
+  // Listing the fonts takes a fifth of the start time, and formatting the first date
+  // is slow too. Both run in parallel with loading the views, which need the fonts at
   // their first text and a date after the first poll.
-  const std::jthread reading([] {
+  const std::jthread warmUp([] {
     static_cast<void>(QFontDatabase::families());
     static_cast<void>(formatDate(QStringLiteral("2000-01-01T00:00:00Z")));
   });
 
   QGuiApplication::setDesktopFileName(SingleInstance::applicationId);
-  // Without a window the panel goes on, and a second launch opens one.
+  // Without a window the panel keeps running, and a second launch opens one.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 
   QQmlEngine engine;
@@ -40,7 +40,7 @@ int QuillmarkAgentApp::run() {
 
   WindowGroup windows(engine);
   QObject::connect(&instance, &SingleInstance::activated, &windows, &WindowGroup::present);
-  // Queued, so that whoever asks gets an answer first.
+  // Queued, so that the caller gets its reply first.
   QObject::connect(&instance, &SingleInstance::quitAsked, qGuiApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
 

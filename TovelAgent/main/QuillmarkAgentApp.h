@@ -8,11 +8,11 @@
 namespace quillmark {
 
 /// The panel as an application: one group of windows, and a delegate that is
-/// told when launching has finished. UI thread only.
+/// called when launching has finished. UI thread only.
 class QuillmarkAgentApp final {
  public:
-  /// Opens the first window and runs the event loop; gives its exit code. If
-  /// the user's panel runs already, asks that one to come forward and gives 0.
+  /// Opens the first window and runs the event loop; returns its exit code. If
+  /// a panel already runs in the session, brings that one forward and returns 0.
   [[nodiscard]] int run();
 
  private:

@@ -5,14 +5,14 @@
 
 namespace quillmark {
 
-/// Chooses how windows are drawn: in software, which is there at once and
-/// works everywhere, unless `QT_QUICK_BACKEND` or `QSG_RHI_BACKEND` asks for
-/// something else. Before the first window; UI thread.
+/// Chooses how windows are drawn: in software, which starts at once and works
+/// everywhere, unless `QT_QUICK_BACKEND` or `QSG_RHI_BACKEND` asks for
+/// something else. Call before the first window is created; UI thread.
 void chooseRenderer();
 
-/// Starts this program again, drawing in software. For when what the user
-/// asked for cannot be had; does not return, and ends the program if the
-/// start fails.
+/// Restarts this program with software rendering, for when the renderer that the
+/// user asked for does not work. Does not return; ends the program if the restart
+/// fails.
 [[noreturn]] void restartInSoftware();
 
 }  // namespace quillmark

@@ -54,7 +54,7 @@ void ResizeBorder::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); 
 
 void ResizeBorder::hoverMoveEvent(QHoverEvent* event) {
   setCursor(cursorFor(edgesAt(event->position())));
-  // What lies below is under the pointer, too.
+  // The items below need the hover events, too.
   event->ignore();
 }
 

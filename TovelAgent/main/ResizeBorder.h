@@ -8,12 +8,12 @@
 
 namespace quillmark {
 
-/// The edges and corners of the window that it fills, which the pointer resizes
-/// it by. What lies further in belongs to what is below. UI thread only.
+/// Fills a window; dragging its edges or corners resizes the window. Pointer
+/// events further inside go to the items below. UI thread only.
 class ResizeBorder : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
-  /// How far an edge reaches inwards.
+  /// How far an edge extends inwards.
   Q_PROPERTY(qreal thickness MEMBER thickness_ REQUIRED)
   /// The side of the square at each corner.
   Q_PROPERTY(qreal corner MEMBER corner_ REQUIRED)

@@ -18,18 +18,18 @@ constexpr unsigned long pauseUs = 100;
 
 const auto objectPath = QStringLiteral("/org/quillmark/Agent");
 const auto interfaceName = QStringLiteral("org.freedesktop.Application");
-/// As the desktop entry names it.
+/// The name in the desktop entry.
 const auto quitAction = QStringLiteral("quit");
 const auto activationToken = QStringLiteral("activation-token");
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
 
-/// Asking for a bus where there is none would start one.
+/// Checked first, because connecting without a running bus would start one.
 bool hasSessionBus() {
   return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
          QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
-/// A call to the panel that holds the name; never a reason to start one.
+/// A call to the panel that owns the name; does not start one if there is none.
 QDBusMessage callTo(const QString& method) {
   auto call = QDBusMessage::createMethodCall(SingleInstance::applicationId, objectPath,
                                              interfaceName, method);
@@ -37,9 +37,9 @@ QDBusMessage callTo(const QString& method) {
   return call;
 }
 
-/// What comes back, whatever its type; invalid if nothing does. Qt's own
-/// blocking call waits for ever when the bus is lost in the midst of it, and an
-/// event loop would let calls in that nobody listens to yet.
+/// The reply, of any type; invalid if none arrives in time. Qt's own blocking
+/// call waits forever when the bus is lost meanwhile, and an event loop would
+/// deliver incoming calls before their signals are connected.
 QDBusMessage answerTo(const QDBusMessage& call, const QDBusConnection& bus) {
   const auto pending = bus.asyncCall(call, answerTimeoutMs);
   const QDeadlineTimer deadline(answerTimeoutMs);
@@ -53,10 +53,10 @@ bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus) {
   return answerTo(call, bus).type() == QDBusMessage::ReplyMessage;
 }
 
-/// Whether another panel holds the name; if none does, this one from now on.
-/// False as well when the bus does not say.
+/// Whether another panel owns the name; if none does, this one owns it from now
+/// on. Also false when the bus does not answer.
 bool isTaken(const QDBusConnection& bus) {
-  // As the bus numbers them.
+  // Numbers of the D-Bus protocol.
   constexpr uint doNotQueue = 4;
   constexpr uint exists = 3;
   auto request = QDBusMessage::createMethodCall(
@@ -96,7 +96,7 @@ bool SingleInstance::quitRunning() {
 }
 
 void SingleInstance::Activate(const QVariantMap& platformData) {
-  // Leave from the desktop to take the focus, passed on by the other launch.
+  // The desktop's permission to take the focus, passed on by the other launch.
   const auto token = platformData.value(activationToken).toByteArray();
   if (!token.isEmpty()) {
     qputenv(activationVariable, token);

@@ -10,9 +10,9 @@
 
 namespace quillmark {
 
-/// One panel per session: the first holds the application's name on the
-/// session bus, and later launches hand over to it there. Without a bus every
-/// launch is a first one, and nothing is said about it. UI thread only.
+/// One panel per session: the first owns the application's name on the session
+/// bus, and later launches hand over to it there. Without a bus every launch is
+/// a first one, and no error is reported. UI thread only.
 class SingleInstance final : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -24,8 +24,8 @@ class SingleInstance final : public QObject {
   /// later launches from now on.
   [[nodiscard]] bool handOver();
 
-  /// Asks the session's panel to end. False if there is none, or it does not
-  /// answer; none is started for it.
+  /// Asks the session's panel to end. False if there is none, or if it does not
+  /// answer. Does not start one.
   [[nodiscard]] static bool quitRunning();
 
  public Q_SLOTS:
@@ -39,7 +39,7 @@ class SingleInstance final : public QObject {
   /// Another launch asks the panel to come forward.
   void activated();
 
-  /// Somebody asks the panel to end.
+  /// Another process asks the panel to end.
   void quitAsked();
 };
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// One of the window's own glyphs.
+/// One of the window's own buttons, such as Close.
 Pressable {
     id: button
 

@@ -3,7 +3,8 @@
 
 import QtQuick
 
-/// Minimise, maximise or restore, and close, in the top padding of the header.
+/// The buttons to minimise, maximise or restore, and close the window, in the
+/// top padding of the header.
 Row {
     id: controls
 

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.Main
 
-/// What a title bar and a frame would do: drag the window at its header band,
+/// Replaces the title bar and the frame: drag the window at its header band,
 /// resize it at its edges, minimise, maximise and close it.
 Item {
     id: frame
@@ -17,9 +17,9 @@ Item {
                                         || window.visibility === Window.FullScreen
     readonly property int corner: 12
 
-    // A MouseArea, since a handler waits for ever for the release that the
-    // window manager keeps. The drag starts with the movement: a press alone
-    // may become a double click.
+    // A MouseArea, because a pointer handler waits forever for the release, which
+    // only the window manager gets. The drag starts with the movement, because a
+    // press alone may become a double click.
     MouseArea {
         property point pressedAt
         property bool isMoving

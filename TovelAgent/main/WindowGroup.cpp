@@ -15,8 +15,8 @@ namespace quillmark {
 namespace {
 
 /// Qt's own file dialog is a child of the window, not of the view that opened
-/// it. Destroying one crashes Qt 6.4 while assistive technology listens, so it
-/// is left to itself: closed, and no more than a few hundred kilobytes.
+/// it. Destroying one crashes Qt 6.4 while assistive technology is connected, so
+/// it is leaked: it is closed and takes at most a few hundred kilobytes.
 void destroy(QQuickWindow* window) {
   const auto children = window->children();
   for (auto* const child : children) {
@@ -54,19 +54,19 @@ void WindowGroup::open() {
   if (window == nullptr) {
     qFatal("The main window cannot be built: %s", qUtf8Printable(component_.errorString()));
   }
-  // Not in QML, whose engine would first have to learn all of Qt's enumerations.
+  // Not in QML, whose engine would first have to load all of Qt's enumerations.
   window->setFlags(Qt::Window | Qt::FramelessWindowHint);
   // Qt's X11 platform reads the window's role from here; other platforms have none.
   window->setProperty("_q_xcb_wm_window_role", window->objectName());
   windows_.append(window);
   isUnfinished_ = true;
   connect(window, &QQuickWindow::sceneGraphError, this, &restartInSoftware);
-  // Nothing but closing hides a window.
+  // A window is hidden only when it is closed.
   connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
     if (!visible) {
       windows_.removeOne(window);
       closed_.append(window);
-      // Not now, for the window is in the midst of it.
+      // Queued, because the window is still being closed.
       QMetaObject::invokeMethod(this, &WindowGroup::destroyClosed, Qt::QueuedConnection);
     }
   });
@@ -82,14 +82,14 @@ void WindowGroup::present() {
   window->setVisible(true);
   window->raise();
   window->requestActivate();
-  // Only now, while the desktop makes room for the window.
+  // Last, so that the layout runs while the desktop maps the window.
   finish();
 }
 
-/// Lays out the latest window's content, if that was not done yet.
+/// Lays out the latest window's content, if this has not been done yet.
 void WindowGroup::finish() {
   if (std::exchange(isUnfinished_, false)) {
-    // Or else QML, whose own `visible` has not heard of ours, would hide the window.
+    // QML's own `visible` does not follow ours, and would hide the window otherwise.
     auto* const window = windows_.last();
     window->setProperty("visible", window->isVisible());
     component_.completeCreate();

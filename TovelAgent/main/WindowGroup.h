@@ -12,7 +12,7 @@ class QQuickWindow;
 namespace quillmark {
 
 /// The panel's windows, each with a content view and view model of its own.
-/// A window that is closed is gone. UI thread only.
+/// A closed window is destroyed. UI thread only.
 class WindowGroup final : public QObject {
   Q_OBJECT
 
@@ -20,10 +20,11 @@ class WindowGroup final : public QObject {
   explicit WindowGroup(QQmlEngine& engine);
   ~WindowGroup() override;
 
-  /// Makes a window, not yet shown. Its content is laid out when it is presented.
+  /// Creates a window, not yet shown. Its content is laid out when it is presented.
+  /// Ends the program if the window cannot be built.
   void open();
 
-  /// Brings the latest window forward; makes one first if none is there.
+  /// Brings the latest window forward; creates one first if there is none.
   void present();
 
  private:
@@ -32,8 +33,8 @@ class WindowGroup final : public QObject {
 
   QQmlComponent component_;
   QList<QQuickWindow*> windows_;
-  bool isUnfinished_ = false;    ///< the latest window's content is made, but not laid out
-  QList<QQuickWindow*> closed_;  ///< hidden and about to go
+  bool isUnfinished_ = false;    ///< the latest window's content is created, but not laid out
+  QList<QQuickWindow*> closed_;  ///< hidden, to be destroyed
 };
 
 }  // namespace quillmark

@@ -31,11 +31,11 @@ quillmark::CommandLineRules commandLineRules() {
               "  -h, --help      print this and end\n"
               "  -V, --version   print the version and end\n",
           .flags = {quitFlag},
-          // What a session manager adds when it starts the panel again.
+          // The option that a session manager adds when it restarts the panel.
           .passedOn = {"session"}};
 }
 
-/// 1 when no panel is there to end.
+/// Returns the exit code: 1 when no panel is open.
 int quitOpenPanel(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
   if (quillmark::SingleInstance::quitRunning()) {
@@ -45,9 +45,9 @@ int quitOpenPanel(int argc, char* argv[]) {
   return 1;
 }
 
-/// A core dump would hold the access token and the API key that is being typed.
-/// Only the soft limit goes: what the panel starts may raise it for itself.
-void leaveNoCoreDump() {
+/// A core dump would contain the access token and the API key that is being typed.
+/// Sets only the soft limit, so that programs the panel starts may raise it again.
+void disableCoreDumps() {
   rlimit limit{};
   if (getrlimit(RLIMIT_CORE, &limit) == 0) {
     limit.rlim_cur = 0;
@@ -58,8 +58,8 @@ void leaveNoCoreDump() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  leaveNoCoreDump();
-  // Before all else, because it needs no display and should cost nothing.
+  disableCoreDumps();
+  // Before the rest, because it needs no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {
     return *commandLine.exitCode;

@@ -11,13 +11,13 @@
 
 namespace quillmark {
 
-/// How the agent is doing; the body of "/api/status".
+/// The agent's status; the body of "/api/status".
 struct AgentStatus {
   bool protection_enabled = false;  ///< whether the agent acts on what it finds
-  std::int64_t threat_count = 0;    ///< as the agent counts; may be negative
+  std::int64_t threat_count = 0;    ///< the agent's own count; may be negative
   std::string last_alert;           ///< free text
-  std::string status;               ///< "ok" is the one healthy word
-  std::string last_scan;            ///< by custom an RFC 3339 time, shown as it is otherwise
+  std::string status;               ///< only "ok" means healthy
+  std::string last_scan;            ///< usually an RFC 3339 time; other text is shown unchanged
 
   static constexpr auto fields = std::tuple{
       Field{"protection_enabled", &AgentStatus::protection_enabled},

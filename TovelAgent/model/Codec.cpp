@@ -20,11 +20,11 @@ namespace dom = simdjson::dom;
 constexpr std::size_t maxNesting = 512;
 // The parser counts the document itself as a level.
 constexpr std::size_t parserDepth = maxNesting + 1;
-// Below this the parser would allocate anew, and forget the limit of nesting.
+// With a smaller capacity the parser allocates again and loses the nesting limit.
 constexpr std::size_t minCapacity = 64;
 
 /// Parses `json` into `document`. The text and the parser, which take twice as
-/// much memory, are gone before the records are made.
+/// much memory, are freed before the records are created.
 simdjson::simdjson_result<dom::element> parse(std::string json, dom::document& document) {
   // Some versions of simdjson skip a byte order mark.
   if (json.starts_with("\xEF\xBB\xBF")) {

@@ -19,20 +19,21 @@ namespace quillmark {
 template <Record R>
 using Decoded = boost::system::result<R, DecodeError>;
 
-/// Reads one JSON object into a record by the record's field table: the whole
-/// record, or the first failure in table order. A text that is not JSON fails
-/// before anything else. Keys outside the table are ignored, and of a key that is
-/// there twice the last value counts. Throws `std::bad_alloc` only. Any thread.
+/// Decodes one JSON object into a record, using the record's field table. Returns
+/// the whole record or the first failure in table order; text that is not JSON
+/// fails before any field is read. Keys that are not in the table are ignored.
+/// For a duplicate key the last value is used. Throws only `std::bad_alloc`. Any
+/// thread.
 template <Record R>
 [[nodiscard]] Decoded<R> decode(std::string json);
 
-/// The record as a JSON object, its keys in table order; an optional without
-/// a value is left out. Strings are written as they are, so they must be
-/// UTF-8 for the result to be JSON. Any thread.
+/// Encodes the record as a JSON object with its keys in table order; an optional
+/// without a value is left out. Strings are not checked, so they must be UTF-8
+/// for the result to be valid JSON. Any thread.
 template <Record R>
 [[nodiscard]] std::string encode(const R& record);
 
-// The codec is defined for these seven, and for no other.
+// The codec is defined only for these seven records.
 #define QUILLMARK_FOR_EACH_RECORD(X) \
   X(AgentStatus)                     \
   X(ThreatAlert)                     \

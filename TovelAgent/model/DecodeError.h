@@ -8,15 +8,15 @@
 
 namespace quillmark {
 
-/// What kept a body from becoming a record.
+/// Why a body cannot be decoded into a record.
 enum class DecodeFailure {
   keyNotFound,    ///< a required key is missing
-  valueNotFound,  ///< a required key or a text in an array is null
-  typeMismatch,   ///< a value of another JSON type
-  dataCorrupted,  ///< no JSON, or a number out of its field's range
+  valueNotFound,  ///< the value of a required key, or a string in an array, is null
+  typeMismatch,   ///< a value has the wrong JSON type
+  dataCorrupted,  ///< not JSON, or a number outside its field's range
 };
 
-/// In words, such as "type mismatch". Any thread.
+/// The kind as text, such as "type mismatch". Any thread.
 [[nodiscard]] constexpr std::string_view nameOf(DecodeFailure kind) {
   switch (kind) {
     case DecodeFailure::keyNotFound:
@@ -35,7 +35,7 @@ enum class DecodeFailure {
 struct DecodeError {
   DecodeFailure kind = DecodeFailure::dataCorrupted;
   std::string path;    ///< keys to the value, as in `connections[3].local_port`; empty for the body
-  std::string detail;  ///< in words, as in "string expected, number found"
+  std::string detail;  ///< such as "string expected, number found"
 
   friend bool operator==(const DecodeError&, const DecodeError&) = default;
 };

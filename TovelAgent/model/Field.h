@@ -7,12 +7,11 @@
 
 namespace quillmark {
 
-/// One line of a record's field table: the JSON key and the member it fills.
+/// One entry of a record's field table: the JSON key and the member it fills.
 ///
-/// The member's type says the rest: `std::optional` is a key that may be absent
-/// or null, every other type is a required key. A record lists its lines, in
-/// the order in which they are encoded, in a `static constexpr` tuple named
-/// `fields`.
+/// A key whose member is a `std::optional` may be absent or null; every other key
+/// is required. A record lists its entries in encoding order, in a
+/// `static constexpr` tuple named `fields`.
 template <class Owner, class Value>
 struct Field {
   std::string_view key;

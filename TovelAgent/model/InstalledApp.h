@@ -17,13 +17,13 @@ struct InstalledApp {
   std::string name;
   std::optional<std::string> version;    ///< without a leading "v"
   std::optional<std::string> publisher;  ///< who made or maintains it
-  std::optional<std::string> path;       ///< where it lies
+  std::optional<std::string> path;       ///< where it is installed
 
   static constexpr auto fields =
       std::tuple{Field{"name", &InstalledApp::name}, Field{"version", &InstalledApp::version},
                  Field{"publisher", &InstalledApp::publisher}, Field{"path", &InstalledApp::path}};
 
-  /// A fresh random identity at every read. Any thread.
+  /// A new random id at every call. Any thread.
   [[nodiscard]] Uuid id() const { return randomUuid(); }
 
   friend bool operator==(const InstalledApp&, const InstalledApp&) = default;

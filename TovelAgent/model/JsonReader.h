@@ -21,9 +21,9 @@
 
 namespace quillmark {
 
-/// Fills a value from parsed JSON by the value's type; records by their field
-/// table. Every `read` returns false at the first failure, which `failure()`
-/// then tells.
+/// Fills a value from parsed JSON according to the value's type, and a record
+/// according to its field table. Every `read` returns false at the first failure;
+/// `takeFailure()` then returns that failure.
 class JsonReader final {
  public:
   using Element = simdjson::dom::element;
@@ -76,8 +76,8 @@ class JsonReader final {
     if (json.get(number) == simdjson::SUCCESS) {
       return true;
     }
-    // 2.0 and 1e3 are integers as well. Between -2^63 and 2^63 the conversion is
-    // exact; -2^63 itself may be a rounded number below it.
+    // 2.0 and 1e3 are integers too. Between -2^63 and 2^63 the conversion is exact;
+    // a double of -2^63 is rejected because it may be a smaller number, rounded.
     constexpr double limit = 9223372036854775808.0;
     double value = 0;
     if (json.get(value) == simdjson::SUCCESS && value > -limit && value < limit &&
@@ -88,18 +88,18 @@ class JsonReader final {
     return fail(DecodeFailure::dataCorrupted, "a whole number of 64 bits expected");
   }
 
-  /// The first failure; once.
+  /// The first failure. Call once, after a `read` returned false.
   [[nodiscard]] DecodeError takeFailure() { return std::move(failure_); }
 
  private:
-  /// The values of a record's keys, in the order of its table. Of a key that is
-  /// there twice the last value counts.
+  /// The values of a record's keys, in table order. For a duplicate key the last
+  /// value is used.
   template <Record R>
   static auto valuesOf(simdjson::dom::object object) {
     static constexpr auto keys =
         std::apply([](const auto&... field) { return std::array{field.key...}; }, R::fields);
     std::array<std::optional<Element>, keys.size()> values;
-    std::size_t next = 0;  // Most agents keep to the table's order.
+    std::size_t next = 0;  // Fast path: most agents send keys in table order.
     for (const auto [key, value] : object) {
       for (std::size_t i = 0; i < keys.size(); ++i) {
         const std::size_t index = (next + i) % keys.size();
@@ -138,7 +138,7 @@ class JsonReader final {
     return false;
   }
 
-  /// The failure's path, seen from one step further out.
+  /// Puts the enclosing key or index `step` in front of the failure's path.
   bool failWithin(std::string_view step) {
     const bool separate = !failure_.path.empty() && failure_.path.front() != '[';
     failure_.path.insert(0, std::string(step) + (separate ? "." : ""));

@@ -15,7 +15,7 @@
 
 namespace quillmark {
 
-/// Turns a value into JSON by its type; records by their field table.
+/// Converts a value to JSON according to its type, and a record according to its field table.
 class JsonWriter final {
  public:
   template <Record R>

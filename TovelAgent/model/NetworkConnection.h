@@ -13,9 +13,9 @@
 namespace quillmark {
 
 /// One open socket of the machine; an element of `NetworkResponse::connections`.
-/// Ports and the process id are text on the wire, and a number there is an error.
+/// Ports and the process id are strings in JSON; a number there is an error.
 struct NetworkConnection {
-  std::string connectionProtocol;  ///< "protocol" on the wire
+  std::string connectionProtocol;  ///< "protocol" in JSON
   std::string local_address;
   std::string local_port;
   std::string remote_address;
@@ -34,7 +34,7 @@ struct NetworkConnection {
                  Field{"pid", &NetworkConnection::pid},
                  Field{"risk_level", &NetworkConnection::risk_level}};
 
-  /// A fresh random identity at every read. Any thread.
+  /// A new random id at every call. Any thread.
   [[nodiscard]] Uuid id() const { return randomUuid(); }
 
   friend bool operator==(const NetworkConnection&, const NetworkConnection&) = default;

@@ -15,11 +15,11 @@ namespace quillmark {
 /// One finding of the agent; an element of `AlertsResponse::alerts`.
 struct ThreatAlert {
   std::string alert_type;                  ///< free text, the row's headline
-  std::string severity;                    ///< free text; how it is read is the view model's rule
+  std::string severity;                    ///< free text; the view model interprets it
   std::optional<std::string> title;        ///< free text
   std::optional<std::string> description;  ///< free text
-  std::optional<std::string> file_path;    ///< the file it is about
-  std::optional<std::string> timestamp;    ///< when it was found, as the agent writes it
+  std::optional<std::string> file_path;    ///< the affected file
+  std::optional<std::string> timestamp;    ///< when it was found, in the agent's format
 
   static constexpr auto fields = std::tuple{Field{"alert_type", &ThreatAlert::alert_type},
                                             Field{"severity", &ThreatAlert::severity},
@@ -28,8 +28,8 @@ struct ThreatAlert {
                                             Field{"file_path", &ThreatAlert::file_path},
                                             Field{"timestamp", &ThreatAlert::timestamp}};
 
-  /// A fresh random identity at every read, in canonical text form: no alert
-  /// can be told to be that of an earlier poll. Any thread.
+  /// A new random id at every call, in canonical text form: an alert cannot be
+  /// matched with an alert of an earlier poll. Any thread.
   [[nodiscard]] std::string id() const { return canonicalText(randomUuid()); }
 
   friend bool operator==(const ThreatAlert&, const ThreatAlert&) = default;

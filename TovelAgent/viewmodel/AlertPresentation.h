@@ -23,15 +23,17 @@ struct AlertPresentation {
 
  public:
   QString severityIcon;   ///< symbolic icon name
-  QString severityColor;  ///< the theme's name of the icon's colour
+  QString severityColor;  ///< the icon's colour, by its name in the theme
   QString alertType;
-  bool hasDescription = false;  ///< an empty description is one too
+  bool hasDescription = false;  ///< true also for an empty description
   QString description;
-  QString accessibleName;  ///< the row read aloud, the severity first: the icon is its only sign
+  /// The row's text for screen readers. Begins with the severity, which the row shows
+  /// only as an icon.
+  QString accessibleName;
 };
 
-/// The severity is compared without regard to case, and not trimmed; whatever
-/// is not "critical", "high" or "medium" counts as information.
+/// The severity is compared case-insensitively and is not trimmed; every value
+/// except "critical", "high" and "medium" is treated as information.
 [[nodiscard]] AlertPresentation present(const ThreatAlert& alert);
 
 }  // namespace quillmark

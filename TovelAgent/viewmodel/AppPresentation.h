@@ -21,9 +21,9 @@ struct AppPresentation {
 
  public:
   QString name;
-  bool hasVersion = false;  ///< an empty version is one too
-  QString version;          ///< with a "v" in front
-  QString accessibleName;   ///< the row read aloud
+  bool hasVersion = false;  ///< true also for an empty version
+  QString version;          ///< with a leading "v"
+  QString accessibleName;   ///< the row's text for screen readers
 };
 
 [[nodiscard]] AppPresentation present(const InstalledApp& app);

@@ -21,12 +21,12 @@ struct ConnectionPresentation {
 
  public:
   QString localEndpoint;   ///< address and port, as received
-  QString remoteEndpoint;  ///< the same with an arrow before it
+  QString remoteEndpoint;  ///< the same, with a leading arrow
   QString state;
-  QString accessibleName;  ///< the row read aloud
+  QString accessibleName;  ///< the row's text for screen readers
 };
 
-/// Joins the texts as they are; brackets round an IPv6 address are not added.
+/// Joins the texts unchanged; no brackets are added around an IPv6 address.
 [[nodiscard]] ConnectionPresentation present(const NetworkConnection& connection);
 
 }  // namespace quillmark

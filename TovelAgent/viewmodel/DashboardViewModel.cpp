@@ -24,9 +24,9 @@ constexpr auto pollInterval = 5s;
 constexpr std::size_t maxAlertRows = 100;
 constexpr std::size_t maxAppRows = 50;
 
-/// Leaves `snapshot` as it is where there was no answer.
+/// Without an answer, `snapshot` is unchanged.
 template <class T>
-void take(std::optional<T> answer, Snapshot<T>& snapshot) {
+void storeAnswer(std::optional<T> answer, Snapshot<T>& snapshot) {
   if (answer) {
     snapshot = std::make_shared<const T>(std::move(*answer));
   }
@@ -48,8 +48,8 @@ DashboardViewModel::DashboardViewModel()
 
 void DashboardViewModel::startPolling() {
   updateData();
-  // The event loop owns the timer and the timer the model. A timer of an
-  // earlier call goes on: who appears twice is polled for twice.
+  // The application owns the timer, and the timer keeps the model alive. The timer of
+  // an earlier call keeps running: a view that appears twice polls twice.
   timer_ = new QTimer(QCoreApplication::instance());
   timer_->setTimerType(Qt::PreciseTimer);
   timer_->callOnTimeout([self = shared_from_this()] { self->updateData(); });
@@ -65,11 +65,11 @@ boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardV
   try {
     result.status = co_await self->client_->getStatus();
     auto alerts = co_await self->client_->getAlerts();
-    take(std::move(alerts), result.alerts);
+    storeAnswer(std::move(alerts), result.alerts);
     auto connections = co_await self->client_->getNetwork();
-    take(std::move(connections), result.networkConnections);
+    storeAnswer(std::move(connections), result.networkConnections);
     auto inventory = co_await self->client_->getInventory();
-    take(std::move(inventory), result.inventory);
+    storeAnswer(std::move(inventory), result.inventory);
   } catch (const std::bad_alloc&) {
     result = {};
   }
@@ -88,14 +88,14 @@ void DashboardViewModel::assign(PollResult result) {
           &DashboardViewModel::networkConnectionsChanged);
   publish(inventory_, result.inventory, &DashboardViewModel::inventoryChanged);
   showLists();
-  // `result` now holds the old values. Long lists take longer to free than the window
-  // may take to answer. At the very end a poll may arrive after the executor has gone.
+  // `result` now holds the old values; free them off the UI thread, because long lists
+  // take too long. At shutdown a result may arrive after the executor is destroyed.
   if (TaskExecutor::exists()) {
-    boost::asio::post(TaskExecutor::current(), [before = std::move(result)] {});
+    boost::asio::post(TaskExecutor::current(), [oldValues = std::move(result)] {});
   }
 }
 
-/// Leaves the field's old value in `value`.
+/// After the call, `value` holds the field's old value.
 template <class Value>
 void DashboardViewModel::publish(Value& field, Value& value,
                                  void (DashboardViewModel::*changed)()) {

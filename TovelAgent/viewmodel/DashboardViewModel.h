@@ -25,16 +25,16 @@
 
 namespace quillmark {
 
-/// What the panel knows of the agent: the last completed poll, whole.
+/// The panel's data about the agent: the complete result of the last finished poll.
 ///
 /// Four published fields (`status`, `alerts`, `networkConnections`,
 /// `inventory`) are assigned together after every poll, changed or not. Each
 /// assignment first emits `objectWillChange`, while the old value can still be
-/// read, then stores, then emits the field's own signal. After the fourth the list
-/// models take the same values, in the shape views read.
+/// read, then stores the value, then emits the field's own signal. After the fourth
+/// field the list models get the same values, in the form that views read.
 ///
-/// Everything here is called on the UI thread; only the polls' network work
-/// runs on the task executor, which must exist.
+/// Call everything here on the UI thread; only the polls' network work runs on the
+/// task executor, which must exist.
 class DashboardViewModel final : public QObject,
                                  public std::enable_shared_from_this<DashboardViewModel> {
   Q_OBJECT
@@ -48,22 +48,22 @@ class DashboardViewModel final : public QObject,
   Q_PROPERTY(quillmark::ListModel* statsCards READ cardRows CONSTANT)
 
  public:
-  /// A model that has not polled yet. Its client reads the access token now.
+  /// Creates a model that has not polled yet. Its client reads the access token now.
   [[nodiscard]] static std::shared_ptr<DashboardViewModel> create();
 
-  /// Polls once, and every 5 seconds from then on until the process ends; that
-  /// keeps the model alive as long. Each call adds a timer, stopping none.
+  /// Polls at once, then every 5 seconds until the process ends, which keeps the model
+  /// alive until then. Each call adds a timer and stops no earlier one.
   Q_INVOKABLE void startPolling();
 
-  /// No value before the first poll and after one whose request failed.
+  /// No value before the first poll, and after a poll whose request failed.
   [[nodiscard]] const std::optional<AgentStatus>& status() const { return status_; }
-  /// Empty where there is no value.
+  /// Empty when there is no value.
   [[nodiscard]] const std::vector<ThreatAlert>& alerts() const { return *alerts_; }
-  /// Empty where there is no value.
+  /// Empty when there is no value.
   [[nodiscard]] const std::vector<NetworkConnection>& networkConnections() const {
     return *networkConnections_;
   }
-  /// Null where there is no value.
+  /// Null when there is no value.
   [[nodiscard]] const InventoryData* inventory() const { return inventory_.get(); }
 
   [[nodiscard]] StatusPresentation statusPresentation() const { return present(status_); }
@@ -81,7 +81,7 @@ class DashboardViewModel final : public QObject,
   void inventoryChanged();
 
  private:
-  /// What one poll brought: no values at first.
+  /// The result of one poll; without values at first.
   struct PollResult {
     std::optional<AgentStatus> status;
     Snapshot<std::vector<ThreatAlert>> alerts = emptyList<ThreatAlert>();

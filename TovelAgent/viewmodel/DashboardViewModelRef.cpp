@@ -7,7 +7,7 @@ namespace quillmark {
 
 DashboardViewModelRef::DashboardViewModelRef(QObject* parent)
     : QObject(parent), model_(DashboardViewModel::create()) {
-  // QML must neither adopt the model nor the lists inside it.
+  // QML must not take ownership of the model or of the lists inside it.
   for (QObject* const object :
        {static_cast<QObject*>(model_.get()), static_cast<QObject*>(model_->alertRows()),
         static_cast<QObject*>(model_->connectionRows()), static_cast<QObject*>(model_->appRows()),

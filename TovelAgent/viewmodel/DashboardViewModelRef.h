@@ -12,8 +12,8 @@
 
 namespace quillmark {
 
-/// A view's hold on a view model of its own: made with the view, given up with
-/// it. The model itself lives on once it polls. UI thread only.
+/// A view's reference to its own view model, created and released with the view.
+/// A model that has started to poll outlives the view. UI thread only.
 class DashboardViewModelRef : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -9,19 +9,19 @@
 namespace quillmark {
 namespace {
 
-// No honest text is as long, and a longer one would hold up the window: breaking an
-// endless word into lines costs the square of its length, 11 ms for so many characters.
-constexpr std::size_t mostCharacters = 16'000;
+// No real text is this long, and longer text would block the window: the time to break
+// one word into lines grows with the square of its length, 11 ms for this many characters.
+constexpr std::size_t maxCharacters = 16'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 }  // namespace
 
 QString displayText(std::string_view text) {
-  // Cut before it is converted: a text may be as long as a whole answer.
+  // Cut before the conversion: a text may be as long as a whole answer.
   std::size_t characters = 0;
   const auto* const end = std::find_if(text.begin(), text.end(), [&](char byte) {
-    return beginsCharacter(byte) && ++characters > mostCharacters;
+    return beginsCharacter(byte) && ++characters > maxCharacters;
   });
   const auto shown = QString::fromUtf8(text.data(), end - text.begin());
   return end == text.end() ? shown : shown + QStringLiteral("…");

@@ -9,8 +9,8 @@
 
 namespace quillmark {
 
-/// A text of the agent, which is UTF-8, as it is shown and read aloud: unchanged
-/// up to 16,000 characters; of a longer one so many, and an ellipsis. Any thread.
+/// Converts UTF-8 text of the agent for display and screen readers. Longer text is
+/// cut after 16,000 characters and gets an ellipsis. Any thread.
 [[nodiscard]] QString displayText(std::string_view text);
 
 }  // namespace quillmark

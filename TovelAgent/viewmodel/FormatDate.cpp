@@ -16,8 +16,8 @@
 namespace quillmark {
 namespace {
 
-/// The locale that the environment names for dates. Qt reads such names as they are
-/// written there, and takes an unknown one, or none, for the C locale.
+/// The locale that the environment sets for dates. Qt can parse the format of these
+/// variables, and uses the C locale for an unknown or empty name.
 icu::Locale userLocale() {
   QByteArray name;
   for (const auto* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -30,8 +30,8 @@ icu::Locale userLocale() {
   return icu::Locale::forLanguageTag(tag, status);
 }
 
-/// What clocks show there, as if they ran on universal time. The C library knows the
-/// user's zone, and notices when the machine's zone changes; ICU would not.
+/// The user's local time, encoded as if it were UTC. The C library knows the user's
+/// time zone and notices when the machine's zone changes; ICU does not.
 UDate clockTime(const QDateTime& instant) {
   const auto local = instant.toLocalTime();
   return static_cast<UDate>(QDateTime(local.date(), local.time(), Qt::UTC).toMSecsSinceEpoch());
@@ -47,7 +47,7 @@ QString inShortStyle(const QDateTime& instant) {
   format->setTimeZone(*icu::TimeZone::getGMT());
   icu::UnicodeString text;
   format->format(clockTime(instant), text);
-  // Versions of ICU differ in which blank they put before AM and PM.
+  // ICU versions differ in which space they put before AM and PM.
   constexpr QChar narrowNoBreakSpace(0x202F);
   return QString::fromUtf16(text.getBuffer(), text.length())
       .replace(narrowNoBreakSpace, QLatin1Char(' '));
@@ -56,7 +56,7 @@ QString inShortStyle(const QDateTime& instant) {
 }  // namespace
 
 QString formatDate(const QString& text) {
-  // Qt's own parser takes more than that: fractions, bare dates, a local time, 24:00.
+  // Qt's own parser accepts more: fractions, dates without a time, local times, 24:00.
   const QRegularExpression internetDateTime(QRegularExpression::anchoredPattern(
       QStringLiteral(R"([0-9]{4}-[0-9]{2}-[0-9]{2}T([01][0-9]|2[0-3]):[0-9]{2}:[0-9]{2})"
                      R"((Z|[+-][0-9]{2}:[0-9]{2}))")));

@@ -11,7 +11,7 @@
 
 namespace quillmark {
 
-/// What all lists that views show have in common: one role, whose value is a
+/// The base of all list models that views show: one role, whose value is a
 /// presentation with everything a row needs, and the number of rows.
 /// UI thread only.
 class ListModel : public QAbstractListModel {
@@ -33,10 +33,10 @@ class ListModel : public QAbstractListModel {
 
   static constexpr int presentationRole = Qt::UserRole;
 
-  /// Calls `exchange`, which puts the new rows in place of the old ones, inside
-  /// the announcement that their number becomes `count`. No row has an
-  /// identity: the difference comes or goes at the end, and so a view keeps its
-  /// scroll position.
+  /// Calls `exchange`, which replaces the old rows with the new ones, between the
+  /// begin and end signals of a change to `count` rows. Rows have no identity, so
+  /// they are always inserted or removed at the end; a view then keeps its scroll
+  /// position.
   template <class Exchange>
   void resize(int count, Exchange exchange) {
     const int before = count_;

@@ -15,7 +15,7 @@
 namespace quillmark {
 namespace {
 
-// How long the agent is given to come up or go down before it is looked for.
+// The time the agent gets to start or stop before the probe.
 constexpr int probeAfterStartMs = 2000;
 constexpr int probeAfterStopMs = 1000;
 
@@ -84,8 +84,8 @@ void SettingsState::checkAgentStatus() {
 }
 
 void SettingsState::checkAgentStatusLater(int milliseconds) {
-  // The tab may be gone by then; the probe runs all the same. A coarse timer
-  // may be early by a twentieth.
+  // The tab may be destroyed by then; the probe still runs. A precise timer, because
+  // a coarse one may fire 5 % early.
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(),
                      [state = QPointer<SettingsState>(this)] {
                        if (state) {

@@ -12,9 +12,9 @@
 
 namespace quillmark {
 
-/// The Settings tab's state and what its buttons do. It lives as long as the
-/// tab's view. UI thread only; stopping, probing and saving block it for as
-/// long as they take.
+/// The Settings tab's state and the actions of its buttons. It exists as long as
+/// the tab's view. UI thread only; stopping, probing and saving block that thread
+/// until they are done.
 class SettingsState : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -37,7 +37,7 @@ class SettingsState : public QObject {
   using QObject::QObject;
 
   [[nodiscard]] QString configPath() const { return configPath_; }
-  /// Which file was chosen, by its name alone.
+  /// The name of the chosen file, without its folder.
   [[nodiscard]] QString selectedFileLine() const;
   [[nodiscard]] QString statusMessage() const { return statusMessage_; }
   [[nodiscard]] bool isImporting() const { return isImporting_; }
@@ -48,25 +48,25 @@ class SettingsState : public QObject {
   [[nodiscard]] bool canSave() const { return !apiKeyInput_.isEmpty(); }
   [[nodiscard]] QString serverUrl() const { return serverUrl_; }
   void setServerUrl(const QString& url);
-  /// The management server of those who run none of their own.
+  /// The management server for users who do not run their own.
   [[nodiscard]] static QString defaultServerUrl();
-  /// Where to get a key from, following the server field.
+  /// Where to get a key; depends on the server field.
   [[nodiscard]] QString keyHelp() const;
   [[nodiscard]] QString agentStatusText() const { return agentStatusText_; }
   [[nodiscard]] bool isAgentRunning() const { return isAgentRunning_; }
   [[nodiscard]] QString agentStatusLine() const;
 
-  /// The tab came into view: probe, then read the configuration back.
+  /// Call when the tab becomes visible: probes, then reads the configuration back.
   Q_INVOKABLE void appear();
   /// Starts the agent, and probes 2 seconds later.
   Q_INVOKABLE void startAgent();
-  /// Ends every agent, and probes 1 second later.
+  /// Stops every agent process, and probes 1 second later.
   Q_INVOKABLE void stopAgent();
   /// Writes the configuration from the two fields.
   Q_INVOKABLE void saveApiKey();
   /// Asks the view to show its file picker.
   Q_INVOKABLE void openConfigFilePicker();
-  /// The user chose a file in the picker: import it.
+  /// Imports the file that the user chose in the picker.
   Q_INVOKABLE void fileChosen(const QUrl& file);
 
  Q_SIGNALS:

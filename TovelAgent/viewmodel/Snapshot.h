@@ -9,11 +9,11 @@
 namespace quillmark {
 
 /// One poll's value, shared between the view model and the list models that
-/// show it, and never changed after it was made.
+/// show it. It is immutable.
 template <class T>
 using Snapshot = std::shared_ptr<const T>;
 
-/// A list without elements, the same one each time. Any thread.
+/// An empty list, the same object at every call. Any thread.
 template <class T>
 [[nodiscard]] Snapshot<std::vector<T>> emptyList() {
   static const auto list = std::make_shared<const std::vector<T>>();

@@ -15,9 +15,9 @@
 
 namespace quillmark {
 
-/// A list that takes each poll's rows whole. `present(const Row&)`, found beside
-/// the presentation's type, makes of a row what the view shows; it runs for the
-/// rows on screen only. UI thread only.
+/// A list whose rows are replaced as a whole after each poll. `present(const Row&)`,
+/// declared with the presentation's type, converts a row to what the view shows; it
+/// runs only for the rows on screen. UI thread only.
 template <class Row>
 class SnapshotListModel final : public ListModel {
  public:
@@ -27,7 +27,7 @@ class SnapshotListModel final : public ListModel {
   explicit SnapshotListModel(QByteArray roleName, std::size_t maxRows = unlimited)
       : ListModel(std::move(roleName)), maxRows_(maxRows) {}
 
-  /// Takes `rows` in place of those before and tells views what differs.
+  /// Replaces the old rows with `rows` and notifies views of the differences.
   void show(Rows rows) {
     const int before = count();
     const int after = static_cast<int>(std::min(rows->size(), maxRows_));
@@ -46,16 +46,16 @@ class SnapshotListModel final : public ListModel {
   }
 
  private:
-  // As many as a Qt model can number.
+  // Qt models count rows with `int`.
   static constexpr std::size_t unlimited{std::numeric_limits<int>::max()};
 
-  // Comparing more rows than this takes longer than showing anew those in view.
-  static constexpr int mostCompared = 2'000;
+  // Comparing more rows than this takes longer than updating all visible rows.
+  static constexpr int maxComparedRows = 2'000;
 
-  /// Names the span from the first to the last of the leading `common` rows
-  /// that differ: looking from both ends costs next to nothing when all do.
+  /// Announces the range from the first to the last changed row among the first
+  /// `common` rows. Searching from both ends is very cheap when all rows differ.
   void announceChanges(const std::vector<Row>& old, int common) {
-    if (common > mostCompared) {
+    if (common > maxComparedRows) {
       Q_EMIT dataChanged(index(0), index(common - 1));
       return;
     }

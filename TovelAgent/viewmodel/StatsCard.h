@@ -14,7 +14,7 @@
 
 namespace quillmark {
 
-/// One number of the dashboard.
+/// One titled number on the dashboard.
 struct StatsCard {
   Q_GADGET
   QML_VALUE_TYPE(statsCard)
@@ -28,11 +28,11 @@ struct StatsCard {
   friend bool operator==(const StatsCard&, const StatsCard&) = default;
 };
 
-/// A card is shown as it is.
+/// A card is shown unchanged.
 [[nodiscard]] inline const StatsCard& present(const StatsCard& card) { return card; }
 
-/// The dashboard's cards, top to bottom. Those that count the inventory are
-/// left out while there is none (`inventory` is null).
+/// The dashboard's cards, top to bottom. The cards that count the inventory are
+/// left out when `inventory` is null.
 [[nodiscard]] std::vector<StatsCard> statsCards(const InventoryData* inventory,
                                                 const std::vector<NetworkConnection>& connections,
                                                 const std::vector<ThreatAlert>& alerts);

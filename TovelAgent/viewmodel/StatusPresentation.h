@@ -12,7 +12,7 @@
 
 namespace quillmark {
 
-/// What the header shows of the agent's status, or of there being none.
+/// What the header shows of the agent's status, or when there is no status.
 struct StatusPresentation {
   Q_GADGET
   QML_VALUE_TYPE(statusPresentation)
@@ -25,7 +25,7 @@ struct StatusPresentation {
 
  public:
   QString status;                ///< upper-cased, or "OFFLINE"
-  bool statusIsHealthy = false;  ///< judged on the text as received: "ok" alone is
+  bool statusIsHealthy = false;  ///< whether the text as received is exactly "ok"
   QString threats;               ///< a plain decimal integer
   bool threatsAreHealthy = false;
   bool hasLastScan = false;

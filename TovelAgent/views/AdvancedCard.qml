@@ -5,16 +5,16 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Imports a ready-made configuration, and shows what came of the last
-/// operation of the whole tab.
+/// Imports a configuration file, and shows the result of the last operation of
+/// the whole tab.
 SectionCard {
     id: card
 
     required property SettingsState settings
 
-    /// What opens the file dialog.
+    /// The button that opens the file dialog.
     readonly property alias browse: browse
-    /// Where the outcome of an operation is told.
+    /// The row that shows the result of an operation.
     readonly property alias notice: notice
 
     icon: "gear"

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Whether the agent runs, and how to change that.
+/// Shows whether the agent runs, and starts or stops it.
 SectionCard {
     id: card
 

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// What was found, with an icon for how severe it is.
+/// One alert, with an icon for its severity.
 Item {
     id: row
 

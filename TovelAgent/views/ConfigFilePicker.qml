@@ -8,7 +8,8 @@ import Quillmark.ViewModel
 /// The open dialog for a configuration file; the desktop's own if it has one.
 FileDialog {
     required property SettingsState settings
-    /// Has the keyboard again afterwards; Qt's own dialog leaves it with nobody.
+    /// Gets the keyboard focus when the dialog closes; after Qt's own dialog no item
+    /// would have it.
     required property Item opener
 
     title: "Select config.toml file"

@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A place where a configuration file may lie.
+/// One path where the agent looks for a configuration file.
 Box {
     id: row
 

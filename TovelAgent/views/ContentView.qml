@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The root view: header, tab bar, and the selected tab's view. It keeps the
+/// The root view: header, tab bar, and the selected tab's view. It owns the
 /// window's view model and selected tab.
 Item {
     id: root
@@ -39,7 +39,7 @@ Item {
         width: parent.width
         height: header.height + 2 * 20
         color: Theme.white
-        // The shadow falls on what lies below.
+        // Draws the shadow over the items below the header.
         z: 1
 
         SoftShadow {
@@ -73,7 +73,7 @@ Item {
         width: parent.width
         clip: true
 
-        // By name, so that a tab costs nothing before it is first in front.
+        // Loaded by file name, so that a tab costs nothing until it is selected.
         Loader {
             readonly property var tab: root.tabs.find(tab => tab.identifier === root.selectedTab)
 

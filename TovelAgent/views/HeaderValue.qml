@@ -4,8 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// What the agent says in the header: three lines at most, since the tabs below
-/// must stay in reach. Assistive technology reads it whole.
+/// A value from the agent in the header: at most three lines, because the tabs
+/// below must stay in reach. Assistive technology reads the whole text.
 MeasuredLabel {
     maximumLineCount: 3
     elide: Text.ElideRight

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Who this is, how the agent is doing, and when it last looked.
+/// The product's name, the agent's status and the time of its last scan.
 Item {
     id: header
 
@@ -102,7 +102,7 @@ Item {
             id: lastScan
 
             anchors.right: parent.right
-            // Where there is too little room for both blocks, each has half of it or more.
+            // When both blocks do not fit, each may use at least half of the room.
             width: Math.min(naturalWidth, Math.max(header.room / 2, header.room - left.naturalWidth))
             text: header.status.lastScan
             size: 13

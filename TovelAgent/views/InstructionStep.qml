@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// One numbered step of a step-by-step help.
+/// One numbered step of a list of instructions.
 Item {
     id: step
 

@@ -6,7 +6,7 @@ import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The first applications that the agent found. Blank while there is no
-/// inventory at all.
+/// inventory.
 Item {
     id: tab
 

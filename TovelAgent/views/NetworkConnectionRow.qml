@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Both ends of a connection, and at the right its state, in half of the row at most.
+/// Both ends of a connection, and at the right its state, in at most half of the row.
 Item {
     id: row
 

@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Brings the agent up and down, enrols the machine, and imports a
-/// configuration. Its state lives as long as the tab is shown.
+/// Starts and stops the agent, enrols the machine, and imports a configuration.
+/// Its state is kept only while the tab is shown.
 Rectangle {
     id: tab
 
@@ -47,7 +47,7 @@ Rectangle {
         LocationsCard {}
     }
 
-    // Only made when asked for: a dialog costs more than the whole tab.
+    // Created on demand, because a dialog costs more than the whole tab.
     Loader {
         id: picker
     }

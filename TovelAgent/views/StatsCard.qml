@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A number with its title, as wide as there is room.
+/// A number with its title; the parent sets its width.
 Item {
     id: card
 
@@ -31,8 +31,8 @@ Item {
         y: 16
         spacing: 8
 
-        // Here, for Qt takes the property `value` of an accessible item for a
-        // number that can be set.
+        // Not on the root: Qt treats the property `value` of an accessible item
+        // as a number that can be set.
         Accessible.role: Accessible.Grouping
         Accessible.name: card.title
 

@@ -4,9 +4,9 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A small titled value with a dot that says whether it is as it should be. Its
-/// value wraps where the badge would be wider than `maximumWidth`. The keyboard
-/// reaches it, so that who cannot see it can stay at it and is told of every change.
+/// A small titled value with a dot that shows whether it is healthy. The value
+/// wraps when the badge would be wider than `maximumWidth`. It takes the keyboard
+/// focus, so that a screen reader can stay on it and announce every change.
 Item {
     id: badge
 
@@ -19,10 +19,10 @@ Item {
     implicitWidth: Math.max(titleLabel.width, line.spacing + dot.width + valueLabel.naturalWidth)
     implicitHeight: column.height
 
-    // Here, for Qt takes the property `value` of an accessible item for a
+    // Not on the root: Qt treats the property `value` of an accessible item as a
     // number that can be set.
     Item {
-        id: told
+        id: accessibleItem
 
         anchors.fill: parent
         activeFocusOnTab: true
@@ -72,7 +72,7 @@ Item {
         }
 
         FocusRing {
-            target: told
+            target: accessibleItem
             inset: -5
         }
     }

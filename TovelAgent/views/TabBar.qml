@@ -23,7 +23,8 @@ Rectangle {
             tabTapped(tab.identifier);
     }
 
-    /// Lets the keyboard go from one tab to another and choose it.
+    /// Moves the keyboard focus to the tab at `index` and selects it. An index out
+    /// of range has no effect.
     function moveFocus(index: int) {
         const button = buttons.itemAt(index);
         if (button) {

@@ -4,8 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// One tab of the tab bar. Only the active one has the bar under it and is
-/// taller by that.
+/// One tab of the tab bar. Only the active one has an underline, which makes it
+/// taller.
 Pressable {
     id: button
 

@@ -10,8 +10,8 @@
 
 namespace quillmark::bench {
 
-/// Other ways from bytes to records, each as its library's manual shows it.
-/// They abort on a body that is not good. Any thread.
+/// Other decoders, each written as its library's manual shows it. They need a valid
+/// body. Any thread.
 
 [[nodiscard]] NetworkResponse connectionsBySimdjson(const std::string& body);
 [[nodiscard]] InventoryData inventoryBySimdjson(const std::string& body);
@@ -19,7 +19,7 @@ namespace quillmark::bench {
 [[nodiscard]] NetworkResponse connectionsByQt(const std::string& body);
 [[nodiscard]] InventoryData inventoryByQt(const std::string& body);
 
-/// Boost's document alone, without records: its number of top-level keys.
+/// Parses into Boost's document only, without records. Returns its number of top-level keys.
 [[nodiscard]] std::size_t documentByBoost(const std::string& body);
 
 }  // namespace quillmark::bench

@@ -45,8 +45,8 @@ void compete(const std::string& name, const R& records, const R& few,
   })->Unit(benchmark::kMicrosecond);
 }
 
-/// As the panel does, which hands its body over. The copy stands for the one that
-/// a body without room for the parser's padding costs the panel.
+/// Decodes as the panel does, which moves its body into the decoder. The copy here
+/// represents the panel's copy of a body without room for the parser's padding.
 template <class R>
 R decodedByPanel(const std::string& body) {
   std::string handedOver;

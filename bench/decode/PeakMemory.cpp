@@ -37,7 +37,7 @@ double peakExtraBytes(const std::function<void()>& smallAction,
   if (child == 0) {
     smallAction();
     malloc_trim(0);
-    std::ofstream("/proc/self/clear_refs") << "5\n";  // the peak counts from here
+    std::ofstream("/proc/self/clear_refs") << "5\n";  // reset the peak, VmHWM
     const double before = statusBytes("VmRSS:");
     action();
     const double extra = statusBytes("VmHWM:") - before;
@@ -45,8 +45,8 @@ double peakExtraBytes(const std::function<void()>& smallAction,
   }
   double extra = 0;
   int status = 0;
-  const bool told = read(ends[0], &extra, sizeof extra) == sizeof extra;
-  if (!told || waitpid(child, &status, 0) != child || status != 0) {
+  const bool isReceived = read(ends[0], &extra, sizeof extra) == sizeof extra;
+  if (!isReceived || waitpid(child, &status, 0) != child || status != 0) {
     std::abort();
   }
   close(ends[0]);

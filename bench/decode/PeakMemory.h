@@ -7,11 +7,11 @@
 
 namespace quillmark::bench {
 
-/// How many bytes of memory this process holds at most while `action` runs,
-/// beyond what it held before, as the kernel counts pages. Before, `smallAction`
-/// runs, which should touch the same code: its pages are shared with every other
-/// process. Measured in a child, so that nothing freed earlier is there to be
-/// used again. One thread only.
+/// The peak of resident memory in bytes while `action` runs, minus that before it, in
+/// whole pages as the kernel counts them. `smallAction` runs first and should touch
+/// the same code, whose pages are shared with other processes and are not counted.
+/// Measured in a child process, so that no memory freed earlier is reused. One thread
+/// only.
 [[nodiscard]] double peakExtraBytes(const std::function<void()>& smallAction,
                                     const std::function<void()>& action);
 

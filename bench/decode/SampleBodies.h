@@ -10,7 +10,7 @@
 
 namespace quillmark::bench {
 
-/// Connections as a busy machine has them: IPv4 and IPv6, most with a process.
+/// Connections of a busy machine: IPv4 and IPv6, most with a process.
 [[nodiscard]] NetworkResponse sampleConnections(std::size_t count);
 
 /// Applications as a desktop system's package manager lists them.

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""measure FOLDER [PART...]: measures all parts, or those named, and writes to
-FOLDER/performance.md what is known of all: those not named as last measured."""
+"""measure FOLDER [PART...]: measures all parts, or only those named, and writes
+FOLDER/performance.md with the last results of all parts."""
 
 import sys
 from pathlib import Path

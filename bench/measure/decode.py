@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""From a body's bytes to its records."""
+"""Time and memory to decode a body into records."""
 
 import json
 import subprocess

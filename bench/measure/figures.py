@@ -1,12 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Samples and how they are told."""
+"""Statistics of samples, and their format in the report."""
 
 from statistics import median, quantiles
 
 
 def spread(samples):
-    """Median, and the quartiles around it."""
+    """Median, lower quartile and upper quartile."""
     if len(samples) < 2:
         return median(samples), samples[0], samples[0]
     low, _, high = quantiles(samples, n=4)
@@ -14,7 +14,7 @@ def spread(samples):
 
 
 def number(value):
-    """Three digits that matter, no more."""
+    """Text with three significant digits, and without decimals from 100 on."""
     if value == 0:
         return "0"
     if abs(value) >= 100:
@@ -34,6 +34,6 @@ def table(heads, rows):
 
 
 def goal(value, limit, unit=""):
-    """A figure beside its goal, honest when it is missed."""
+    """Three texts: the figure, its goal, and whether the goal is met."""
     verdict = "met" if value <= limit else "**not met**"
     return f"{number(value)}{unit}", f"≤ {number(limit)}{unit}", verdict

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the panel costs while nobody looks, or looks and does nothing."""
+"""CPU cost of the panel without user input."""
 
 import time
 
@@ -14,7 +14,7 @@ TABS = {"Dashboard": 1, "Network": 2, "Inventory": 3, "Alerts": 4, "Settings": 5
 
 
 def share(pid, seconds):
-    """Percent of a core, and wake-ups a second."""
+    """CPU use in percent of a core, and wake-ups per second."""
     cpu, woken, start = process.cpu_seconds(pid), process.switches(pid), time.monotonic()
     time.sleep(seconds)
     elapsed = time.monotonic() - start
@@ -50,7 +50,7 @@ def run(report, seconds=SECONDS):
         with stage.backend(*(stage.full(count, turn) for turn in turns)):
             with stage.running(stage.PANEL) as pid:
                 arrange(pid)
-                time.sleep(6)  # past the first poll and what the tab makes at first
+                time.sleep(6)  # past the first poll and the creation of the tab
                 percent, wakeups = share(pid, seconds)
         rows.append((name, f"{percent:.3f} %", number(wakeups)))
         shares[name] = percent

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""How the panel takes lists far longer than anyone reads."""
+"""How the panel handles very long lists."""
 
 import time
 from statistics import median
@@ -25,9 +25,9 @@ def ready(server, panel):
 
 
 def swaps(server, panel):
-    """Over some polls: the milliseconds from when the connections begin to be sent
-    to the frame that shows them, and the longest time in which the UI thread heard
-    of nothing."""
+    """Over some polls: the median milliseconds from the start of sending the
+    connections to the frame that shows them, and the longest milliseconds in which
+    the UI thread handled no events."""
     since, shown = time.monotonic(), []
     for _ in range(POLLS):
         server.wait_for_poll()
@@ -45,18 +45,18 @@ def draws(panel, key):
 
 
 def focus_the_list(panel):
-    """Walks there by Tab: it is where the page keys draw something."""
+    """Presses Tab until the list has the focus: then the page keys draw something."""
     for _ in range(15):
         hands.key("Tab")
         time.sleep(0.3)
-        # Again and again: a poll may have drawn something in between.
+        # Several keys, because a poll may have drawn something in between.
         if all(draws(panel, key) for key in ("Next", "Prior", "Next", "Prior")):
             return
     raise AssertionError("the list cannot be reached")
 
 
 def scrolling(panel, size):
-    """The longest frame in milliseconds while the list is scrolled."""
+    """The longest frame in milliseconds for each way to scroll the list."""
     shown = window.visible(panel.pid)[0]
     shown.move(0, 0)
     shown.resize(*size)
@@ -80,8 +80,8 @@ def scrolling(panel, size):
 
 
 def growth(report, costs):
-    """What one more connection costs in the longest list, by what it costs in a
-    list a tenth as long."""
+    """Reports the cost of one more connection in the longest list, relative to that
+    in a list a tenth as long."""
     least, some, most = SIZES[0], SIZES[2], SIZES[-1]
     for index, what in enumerate(("time until shown", "memory")):
         each = {count: (costs[count][index] - costs[least][index]) / (count - least)

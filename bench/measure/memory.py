@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the panel holds."""
+"""Memory of the panel."""
 
 import time
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A program whose UI thread is watched from within."""
+"""A program whose UI thread is logged by the preloaded observer."""
 
 import tempfile
 from pathlib import Path
@@ -33,5 +33,5 @@ class Observed:
         return [time for time, in self._lines("frame")]
 
     def busy(self, since=0.0):
-        """Spans of work of the UI thread that ended after `since`, in seconds."""
+        """Start and length, in seconds, of the UI thread's busy spans that ended after `since`."""
         return [(start, span) for start, span in self._lines("busy") if start + span > since]

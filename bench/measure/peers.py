@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Other panels of the same system, started the same way."""
+"""Comparison with other desktop programs, started the same way."""
 
 import os
 import shutil
@@ -26,7 +26,7 @@ PEERS = {
 
 
 def on_a_bus(program):
-    """Peers may start services of their own over the bus; these end with it."""
+    """Services that a peer starts over its own bus end with the bus."""
     return ("dbus-run-session", "--", *program)
 
 

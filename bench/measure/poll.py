@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""One poll, from its start to the fourth field."""
+"""Time of one poll, from its start to the change of the fourth field."""
 
 import subprocess
 from statistics import median
@@ -16,7 +16,7 @@ def run(report):
     for count, rounds in SIZES.items():
         done = subprocess.run([str(stage.BENCH / "poll/bench_poll"), str(count), str(rounds)],
                               capture_output=True, text=True, check=True)
-        # The first rounds fill caches.
+        # Skip the first rounds, which fill caches.
         lines = done.stdout.splitlines()[rounds // 5:]
         polled, worked, plain = zip(*([float(word) for word in line.split()] for line in lines))
         rows.append((f"{count:,}", told(polled, "ms"), told(worked, "ms"), told(plain, "ms"),

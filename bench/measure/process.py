@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the kernel counts of a process."""
+"""The kernel's figures about a process."""
 
 import os
 import re
@@ -10,7 +10,7 @@ TICK = os.sysconf("SC_CLK_TCK")
 
 
 def cpu_seconds(pid):
-    """The scheduler's own account, in nanoseconds, of every thread that lives."""
+    """CPU seconds of all living threads, from the scheduler's nanosecond counters."""
     total = 0
     for task in Path(f"/proc/{pid}/task").iterdir():
         total += int((task / "schedstat").read_text().split()[0])
@@ -18,7 +18,7 @@ def cpu_seconds(pid):
 
 
 def switches(pid):
-    """How often the threads went to sleep: one for each wake-up."""
+    """Voluntary context switches of all threads: one for each wake-up."""
     total = 0
     for task in Path(f"/proc/{pid}/task").iterdir():
         status = (task / "status").read_text()
@@ -27,7 +27,7 @@ def switches(pid):
 
 
 def pss_mib(pid):
-    """With each shared page counted in its sharers' parts."""
+    """PSS in MiB: a shared page is divided among the processes that share it."""
     rollup = Path(f"/proc/{pid}/smaps_rollup").read_text()
     return int(re.search(r"^Pss:\s+(\d+)", rollup, re.M)[1]) / 1024
 
@@ -38,7 +38,7 @@ def rss_mib(pid):
 
 
 def tree(pid):
-    """The process and all below it."""
+    """Ids of the process and all its descendants."""
     found = [pid]
     for task in Path(f"/proc/{pid}/task").iterdir():
         for child in (task / "children").read_text().split():

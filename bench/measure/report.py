@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What was measured, as it goes into the docs."""
+"""The report of the measurements for the docs."""
 
 import json
 import os
@@ -28,7 +28,7 @@ class Report:
         Path(path).write_text(json.dumps({"goals": self._goals, "sections": self._sections}))
 
     def add(self, path):
-        """What was saved there."""
+        """Adds the results that were saved to `path`."""
         saved = json.loads(Path(path).read_text())
         self._goals += saved["goals"]
         self._sections += saved["sections"]

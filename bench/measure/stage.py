@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Programs on a virtual display, beside a backend with known data."""
+"""Programs on a virtual display, and a backend with known data."""
 
 import contextlib
 import os
@@ -22,7 +22,7 @@ OBSERVER = BENCH / "observer/libbench_observer.so"
 
 
 def connections(count, turn=0):
-    """A list that differs from turn to turn in every row's port."""
+    """A list in which the port of every row differs from turn to turn."""
     return bodies.network(*(
         bodies.connection(str((i + turn) % 65536), local_address=f"10.0.{i // 256 % 256}.{i % 256}",
                           pid=str(i % 32768), risk_level="low")
@@ -31,7 +31,7 @@ def connections(count, turn=0):
 
 
 def full(connection_count=500, turn=0):
-    """What a busy machine's agent answers."""
+    """The bodies that a busy machine's agent answers with."""
     return {
         "status": bodies.status(threat_count=100),
         "alerts": bodies.alerts(*(
@@ -50,22 +50,22 @@ def full(connection_count=500, turn=0):
 
 
 class Turns:
-    """Answers that are made once and then given by turns, a poll each."""
+    """Answers that are created once; each poll gets the next set, by turns."""
 
     def __init__(self, backend, *contents):
         from harness.exchange import answer
 
-        self._made = [{k: answer(v) for k, v in content.items()} for content in contents]
+        self._answers = [{k: answer(v) for k, v in content.items()} for content in contents]
         self._polls = 0
         backend.reply(status=self._begin,
                       **{k: self._next(k) for k in ("alerts", "network", "inventory")})
 
     def _begin(self, _request):
         self._polls += 1
-        return self._made[self._polls % len(self._made)]["status"]
+        return self._answers[self._polls % len(self._answers)]["status"]
 
     def _next(self, endpoint):
-        return lambda _request: self._made[self._polls % len(self._made)][endpoint]
+        return lambda _request: self._answers[self._polls % len(self._answers)][endpoint]
 
 
 @contextlib.contextmanager
@@ -80,8 +80,8 @@ def backend(*contents):
 
 
 def first_frame(program, **environment):
-    """Starts a program; its process id, and its milliseconds to the first frame
-    and to the last change that follows. The caller ends it."""
+    """Starts a program. Returns its process id, the milliseconds to its first frame,
+    and those to the last change that follows. The caller ends it."""
     done = subprocess.run(
         [str(BENCH / "start/bench_first_frame"), *program], text=True,
         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
@@ -91,7 +91,7 @@ def first_frame(program, **environment):
 
 
 def end(pid):
-    """By id: the process is the child of one that has gone."""
+    """Ends by id, because the process is not a child of this one: its parent has exited."""
     with contextlib.suppress(ProcessLookupError):
         os.kill(pid, 15)
     limit = time.monotonic() + 5

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""How long until the window is there."""
+"""Time from the start to the first painted window."""
 
 from statistics import median
 
@@ -20,7 +20,7 @@ def run(report, rounds=ROUNDS):
             for name, program in contenders.items():
                 pid, frame, last = stage.first_frame(program)
                 stage.end(pid)
-                if turn:  # the first fills the caches of the disk
+                if turn:  # the first round fills the disk caches
                     first[name].append(frame)
                     settled[name].append(last)
     floor = median(first["bare Qt Quick window"])

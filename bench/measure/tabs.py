@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""From the key to the tab."""
+"""Time from a key press to the frame with the new tab."""
 
 import time
 

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Preloaded into a Qt program as it is shipped, this notes what its UI thread
-// does, a line each in the file that QUILLMARK_OBSERVER names:
+// Preloaded into an unmodified Qt program, this logs what the UI thread does to the
+// file that QUILLMARK_OBSERVER names, one line each:
 //
-//   busy START SECONDS    so long it did not wait for events
+//   busy START SECONDS    for so long the thread did not wait for events
 //   frame TIME            a frame reached the window
 //
-// Times are those of the monotonic clock, in seconds. Whatever the event loop,
-// it waits by one of the two system calls that are taken over here.
+// Times are seconds of the monotonic clock. Every event loop waits by one of the two
+// system calls that are replaced here.
 
 #include <cstdio>
 #include <cstdlib>
@@ -23,8 +23,8 @@
 
 namespace {
 
-// A notable share of a frame; what is shorter would drown the rest.
-constexpr double worthNoting = 0.0005;
+// In seconds: a notable part of a frame. Shorter spans would flood the log.
+constexpr double minLoggedSpan = 0.0005;
 
 std::FILE* log = nullptr;
 double awakeSince = 0;
@@ -35,20 +35,20 @@ double now() {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
-bool isWatched() { return log != nullptr && gettid() == getpid(); }
+bool isObservedThread() { return log != nullptr && gettid() == getpid(); }
 
-void fallAsleep() {
-  if (const double span = now() - awakeSince; span >= worthNoting) {
+void logBusySpan() {
+  if (const double span = now() - awakeSince; span >= minLoggedSpan) {
     std::fprintf(log, "busy %.6f %.6f\n", awakeSince, span);
   }
 }
 
 template <class Wait>
-int watched(bool sleeps, Wait wait) {
-  if (!sleeps || !isWatched()) {
+int observedWait(bool sleeps, Wait wait) {
+  if (!sleeps || !isObservedThread()) {
     return wait();
   }
-  fallAsleep();
+  logBusySpan();
   const int result = wait();
   awakeSince = now();
   return result;
@@ -71,7 +71,7 @@ void watchFrames(QWindow* window) {
 }
 
 void observe() {
-  // What the program starts is not watched, and shall not pay for it.
+  // Child processes are not observed, and must not be slowed down.
   unsetenv("LD_PRELOAD");
   const char* const path = std::getenv("QUILLMARK_OBSERVER");
   awakeSince = now();
@@ -89,13 +89,13 @@ extern "C" {
 
 int poll(pollfd* descriptors, nfds_t count, int timeout) {
   static auto* const wait = next<decltype(poll)>("poll");
-  return watched(timeout != 0, [=] { return wait(descriptors, count, timeout); });
+  return observedWait(timeout != 0, [=] { return wait(descriptors, count, timeout); });
 }
 
 int ppoll(pollfd* descriptors, nfds_t count, const timespec* timeout, const sigset_t* mask) {
   static auto* const wait = next<decltype(ppoll)>("ppoll");
   const bool sleeps = timeout == nullptr || timeout->tv_sec != 0 || timeout->tv_nsec != 0;
-  return watched(sleeps, [=] { return wait(descriptors, count, timeout, mask); });
+  return observedWait(sleeps, [=] { return wait(descriptors, count, timeout, mask); });
 }
 
 }  // extern "C"

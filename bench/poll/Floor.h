@@ -8,9 +8,9 @@
 
 namespace quillmark::bench {
 
-/// The least that a poll costs: for each target a blocking socket of its own,
-/// one request, everything that comes until the server closes, and the JSON
-/// library's plain parse of it. Returns how many bytes of bodies came.
+/// The minimal poll: for each target a separate blocking socket, one request, reading
+/// until the server closes, and the JSON library's plain parse. Returns the total size
+/// of the bodies in bytes.
 [[nodiscard]] std::size_t leastPoll(std::span<const std::string> targets);
 
 }  // namespace quillmark::bench

@@ -3,10 +3,10 @@
 
 // bench_poll ROWS ROUNDS
 //
-// Polls a server on the agent's port that answers with so many rows in each
-// list, by turns as the panel does it and as plainly as it can be done. Prints a
-// line a round: the panel's milliseconds from the start of a poll to the fourth
-// field's change, of these the UI thread's, and the plain way's.
+// Polls a server on the agent's port that answers with ROWS rows in each list, by
+// turns as the panel does and in the minimal way. Prints one line per round, in
+// milliseconds: the panel's time from the start of a poll to the change of the fourth
+// field, the UI thread's part of it, and the time of the minimal way.
 
 #include <array>
 #include <chrono>
@@ -57,7 +57,7 @@ std::map<std::string, std::string> answersOf(std::size_t rows) {
           {targets[3], test::okAnswer(encode(bench::sampleInventory(rows)))}};
 }
 
-/// How long the UI thread worked since the last call.
+/// Measures how long the UI thread is busy.
 class WorkMeter final {
  public:
   WorkMeter() {
@@ -68,7 +68,7 @@ class WorkMeter final {
                      [this] { worked_ += Clock::now() - awakeSince_; });
   }
 
-  /// To be called on the UI thread, which is at work then.
+  /// The busy time since the last call. Call on the UI thread only.
   [[nodiscard]] Clock::duration take() {
     const auto now = Clock::now();
     const auto result = worked_ + (now - awakeSince_);
@@ -92,7 +92,7 @@ int main(int argc, char* argv[]) {
   const auto rows = std::strtoul(argv[1], nullptr, 10);
   const auto rounds = std::strtoul(argv[2], nullptr, 10);
 
-  // Qt's own event loop tells when it sleeps; GLib's tells it from outside.
+  // Qt's own event loop signals when it sleeps; GLib's does so from outside the wait.
   qputenv("QT_NO_GLIB", "1");
   QCoreApplication application(argc, argv);
   test::Backend backend(answersOf(rows));
@@ -111,7 +111,7 @@ int main(int argc, char* argv[]) {
     const auto polled = Clock::now() - start;
     const auto worked = meter.take();
     QObject::disconnect(done);
-    // One poll a round, and none five seconds on.
+    // One poll per round: prevent the next one after five seconds.
     qDeleteAll(application.findChildren<QTimer*>());
 
     const auto plainStart = Clock::now();

@@ -3,9 +3,9 @@
 
 // first_frame PROGRAM [ARGUMENT...]
 //
-// Starts a program on the display and leaves it running. Prints its process id,
-// the milliseconds from then to its first painted window, and those to the last
-// change that follows within a second.
+// Starts a program on the display and leaves it running. Prints its process id, the
+// milliseconds from the start to its first painted window, and those to the last
+// change before a second without changes.
 
 #include <chrono>
 #include <cstdio>
@@ -20,8 +20,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto patience = 60s;
-constexpr auto stillness = 1s;
+constexpr auto drawTimeout = 60s;
+constexpr auto settleTime = 1s;
 
 double millisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
@@ -41,7 +41,7 @@ int main(int argc, char* argv[]) {
   const auto start = Clock::now();
   const pid_t child = fork();
   if (child == 0) {
-    // Whoever reads what is printed here shall not wait for the program's end.
+    // The reader of this program's output must not wait for the child's end.
     const int nowhere = open("/dev/null", O_RDWR);
     dup2(nowhere, STDOUT_FILENO);
     dup2(nowhere, STDERR_FILENO);
@@ -49,20 +49,20 @@ int main(int argc, char* argv[]) {
     _exit(127);
   }
   do {
-    if (!screen.waitForDrawing(patience)) {
+    if (!screen.waitForDrawing(drawTimeout)) {
       std::fputs("nothing was drawn\n", stderr);
       return 1;
     }
   } while (!screen.showsAWindow());
-  // When it is seen, not when something was drawn: that may have been an empty
-  // ground, with the frame following while the look was taken.
+  // Measured after the check, not when something was drawn: that may have been an
+  // empty background, with the frame painted during the check.
   const double first = millisecondsSince(start);
 
   double last = first;
-  while (screen.waitForDrawing(stillness)) {
+  while (screen.waitForDrawing(settleTime)) {
     last = millisecondsSince(start);
     if (last - first > 10'000) {
-      break;  // it is never still
+      break;  // it never stops drawing
     }
   }
   std::printf("%d %.2f %.2f\n", static_cast<int>(child), first, last);

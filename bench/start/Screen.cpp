@@ -15,11 +15,11 @@
 namespace quillmark::bench {
 namespace {
 
-constexpr std::uint16_t leastSide = 200;
-constexpr std::size_t coloursOfText = 8;
-constexpr std::int16_t rowStep = 6;  // any text is higher
+constexpr std::uint16_t minSide = 200;
+constexpr std::size_t minTextColours = 8;
+constexpr std::int16_t rowStep = 6;  // less than the height of any text
 
-/// What xcb hands over and wants freed.
+/// Frees what xcb allocated for the caller.
 struct Free {
   void operator()(void* memory) const { std::free(memory); }
 };
@@ -32,7 +32,7 @@ std::unique_ptr<T, Free> owned(T* memory) {
 void addColours(const xcb_get_image_reply_t& image, std::set<std::uint32_t>& colours) {
   const auto* const bytes = xcb_get_image_data(&image);
   const auto size = static_cast<std::size_t>(xcb_get_image_data_length(&image));
-  for (std::size_t at = 0; at + 4 <= size && colours.size() < coloursOfText; at += 4) {
+  for (std::size_t at = 0; at + 4 <= size && colours.size() < minTextColours; at += 4) {
     colours.insert(std::uint32_t{bytes[at]} | std::uint32_t{bytes[at + 1]} << 8U |
                    std::uint32_t{bytes[at + 2]} << 16U);
   }
@@ -92,11 +92,11 @@ bool Screen::isPainted(xcb_window_t window) const {
   const auto box =
       owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
   if (attributes == nullptr || attributes->map_state != XCB_MAP_STATE_VIEWABLE || box == nullptr ||
-      box->width < leastSide || box->height < leastSide) {
+      box->width < minSide || box->height < minSide) {
     return false;
   }
-  // A row here and there, all asked for at once: while the display hands over a
-  // whole window, it keeps the program from drawing.
+  // Reads only some rows, all requested at once: while the display server copies a
+  // whole window, the program cannot draw.
   std::vector<xcb_get_image_cookie_t> rows;
   for (std::int16_t y = 0; y < box->height; y += rowStep) {
     rows.push_back(
@@ -108,7 +108,7 @@ bool Screen::isPainted(xcb_window_t window) const {
       addColours(*image, colours);
     }
   }
-  return colours.size() >= coloursOfText;
+  return colours.size() >= minTextColours;
 }
 
 }  // namespace quillmark::bench

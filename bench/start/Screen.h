@@ -11,18 +11,18 @@
 
 namespace quillmark::bench {
 
-/// What a display shows, seen from outside of every program on it.
+/// What a display shows, observed from outside its programs.
 class Screen final {
  public:
-  /// Connects to the display that the environment names; exits without one.
+  /// Connects to the display that the environment names; ends this process without one.
   Screen();
 
   /// Waits until something is drawn anywhere, at most for `patience`. Returns
   /// whether it was.
   [[nodiscard]] bool waitForDrawing(std::chrono::milliseconds patience);
 
-  /// Whether a window of a program's size shows more than an empty ground:
-  /// several colours, as any text brings with it.
+  /// Whether a window as large as a program's shows more than an empty background:
+  /// several colours, as any text has.
   [[nodiscard]] bool showsAWindow() const;
 
  private:

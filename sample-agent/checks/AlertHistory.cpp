@@ -12,10 +12,11 @@
 namespace quillmark::sample {
 namespace {
 
-auto rank(const ThreatAlert& alert) {
-  static constexpr std::array<std::string_view, 4> gravestFirst = {"critical", "high", "medium",
-                                                                   "low"};
-  return std::find(gravestFirst.begin(), gravestFirst.end(), alert.severity) - gravestFirst.begin();
+auto severityRank(const ThreatAlert& alert) {
+  static constexpr std::array<std::string_view, 4> mostSevereFirst = {"critical", "high", "medium",
+                                                                      "low"};
+  return std::find(mostSevereFirst.begin(), mostSevereFirst.end(), alert.severity) -
+         mostSevereFirst.begin();
 }
 
 }  // namespace
@@ -31,9 +32,10 @@ std::vector<ThreatAlert> AlertHistory::dated(std::vector<ThreatAlert> findings, 
   }
   firstSeen_ = std::move(seen);
 
-  // Times of this form are in order as text.
+  // RFC 3339 times in UTC sort as text.
   std::stable_sort(findings.begin(), findings.end(), [](const auto& a, const auto& b) {
-    return a.timestamp != b.timestamp ? a.timestamp > b.timestamp : rank(a) < rank(b);
+    return a.timestamp != b.timestamp ? a.timestamp > b.timestamp
+                                      : severityRank(a) < severityRank(b);
   });
   return findings;
 }

@@ -13,15 +13,15 @@
 
 namespace quillmark::sample {
 
-/// Remembers since when each finding stands, so that it keeps its time for as
-/// long as every scan finds it again. One thread at a time.
+/// Remembers when each finding was first seen, so that the finding keeps this time
+/// while every scan finds it again. One thread at a time.
 class AlertHistory final {
  public:
   using Time = std::chrono::system_clock::time_point;
 
-  /// The findings of the scan at `now`, each with the time of the first scan
-  /// that had it; the newest first, of one time the gravest first. What is
-  /// missing is forgotten, and new when it comes back.
+  /// The findings of the scan at `now`, each with the time of the first scan that
+  /// had it; newest first, then most severe first. A finding that is missing is
+  /// forgotten, and is new when it returns.
   [[nodiscard]] std::vector<ThreatAlert> dated(std::vector<ThreatAlert> findings, Time now);
 
  private:

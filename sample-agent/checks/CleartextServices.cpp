@@ -20,7 +20,7 @@ ThreatAlert alertOn(std::uint16_t port, const Process* owner) {
   alert.alert_type = "Cleartext service";
   alert.severity = "high";
   alert.title = "Port " + number + " (" + service + ") is open on all interfaces";
-  // By the number alone nobody knows what answers there.
+  // The port number alone does not prove which service listens.
   alert.description = "Port " + number +
                       " accepts connections from every network. It is the port of " + service +
                       ", over which everything travels unencrypted, passwords included.";

@@ -13,11 +13,11 @@
 namespace quillmark::sample {
 namespace {
 
-constexpr std::string_view deletedMark = " (deleted)";
-constexpr std::string_view memoryFile = "/memfd:";
+constexpr std::string_view deletedSuffix = " (deleted)";
+constexpr std::string_view memoryFilePrefix = "/memfd:";
 
-/// Whether `path` exists as the process sees it, which may live in a
-/// container's file system.
+/// Whether `path` exists in the file system that the process sees, which may be a
+/// container's.
 bool existsFor(const Process& process, const std::string& path, const std::string& procRoot) {
   const std::string seen = procRoot + '/' + std::to_string(process.pid) + "/root" + path;
   struct stat status {};
@@ -41,7 +41,7 @@ ThreatAlert alertOn(const std::string& path, const std::vector<const Process*>& 
   ThreatAlert alert;
   alert.alert_type = "Deleted executable";
   alert.file_path = shown;
-  if (path.starts_with(memoryFile)) {
+  if (path.starts_with(memoryFilePrefix)) {
     alert.alert_type = "Fileless program";
     alert.severity = "high";
     alert.title = "A program runs from memory only: " + shown;
@@ -66,9 +66,9 @@ std::vector<ThreatAlert> deletedExecutables(const std::vector<Process>& processe
   std::map<std::string, std::vector<const Process*>> byPath;
   for (const auto& process : processes) {
     const std::string& link = process.executable;
-    // A file's own name may end in these words.
-    if (link.ends_with(deletedMark) && !existsFor(process, link, procRoot)) {
-      byPath[link.substr(0, link.size() - deletedMark.size())].push_back(&process);
+    // A file's real name may end in " (deleted)", too.
+    if (link.ends_with(deletedSuffix) && !existsFor(process, link, procRoot)) {
+      byPath[link.substr(0, link.size() - deletedSuffix.size())].push_back(&process);
     }
   }
 

@@ -11,9 +11,9 @@
 
 namespace quillmark::sample {
 
-/// One alert for each executable that runs although its file is gone: "high"
-/// where nothing is left under its name, or where the program never was a file;
-/// "low" where another file has taken its place, as an update does.
+/// One alert for each running executable whose file was removed: "high" if no file
+/// has its path any more, or if the program never was a file; "low" if another file
+/// has replaced it, as an update does.
 [[nodiscard]] std::vector<ThreatAlert> deletedExecutables(const std::vector<Process>& processes,
                                                           const std::string& procRoot);
 

@@ -31,8 +31,8 @@ ThreatAlert alertOn(const std::string& path, unsigned owner) {
   return alert;
 }
 
-/// What of a name the search asks for. Cached attributes are good enough: a
-/// file system whose server is gone must not hold up the scan.
+/// The attributes that the search needs. Cached ones are good enough: a file system
+/// whose server is unreachable must not block the scan.
 std::optional<struct statx> attributes(int folder, const char* name, int linkFlag) {
   struct statx result {};
   const int flags = linkFlag | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
@@ -58,7 +58,7 @@ class Walk final {
     const auto top = attributes(AT_FDCWD, root.c_str(), 0);
     if (top && S_ISDIR(top->stx_mode)) {
       device_ = {top->stx_dev_major, top->stx_dev_minor};
-      enter(open(root.c_str(), folderFlags), root, 0);
+      walkFolder(open(root.c_str(), folderFlags), root, 0);
     }
     std::sort(found_.alerts.begin(), found_.alerts.end(),
               [](const auto& a, const auto& b) { return a.title < b.title; });
@@ -68,7 +68,7 @@ class Walk final {
  private:
   static constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC;
 
-  void enter(int descriptor, const std::string& path, std::size_t depth) {
+  void walkFolder(int descriptor, const std::string& path, std::size_t depth) {
     if (descriptor < 0) {
       return;
     }
@@ -82,17 +82,17 @@ class Walk final {
       if (name == "." || name == "..") {
         continue;
       }
-      if (isSpent()) {
+      if (isLimitReached()) {
         found_.complete = false;
         return;
       }
       if (entry->d_type == DT_REG || entry->d_type == DT_DIR || entry->d_type == DT_UNKNOWN) {
-        look(descriptor, entry->d_name, path + '/' + std::string(name), depth);
+        checkEntry(descriptor, entry->d_name, path + '/' + std::string(name), depth);
       }
     }
   }
 
-  void look(int folder, const char* name, const std::string& path, std::size_t depth) {
+  void checkEntry(int folder, const char* name, const std::string& path, std::size_t depth) {
     const auto file = attributes(folder, name, AT_SYMLINK_NOFOLLOW);
     if (!file) {
       return;
@@ -100,20 +100,20 @@ class Walk final {
     if (isSetUidProgram(*file)) {
       found_.alerts.push_back(alertOn(path, file->stx_uid));
     }
-    // Asked of folders only: in an overlay, files bear the number of the layer
-    // that they come from.
+    // Compare folders only: in an overlay file system, a file has the device number
+    // of its layer.
     if (!S_ISDIR(file->stx_mode) ||
         device_ != std::pair{file->stx_dev_major, file->stx_dev_minor}) {
       return;
     }
     if (depth < limits_.depth) {
-      enter(openat(folder, name, folderFlags | O_NOFOLLOW), path, depth + 1);
+      walkFolder(openat(folder, name, folderFlags | O_NOFOLLOW), path, depth + 1);
     } else {
       found_.complete = false;
     }
   }
 
-  [[nodiscard]] bool isSpent() {
+  [[nodiscard]] bool isLimitReached() {
     constexpr std::size_t entriesPerClockReading = 64;
     if (entries_++ % entriesPerClockReading == 0) {
       timeIsUp_ = stop_.stop_requested() || std::chrono::steady_clock::now() >= end_;

@@ -13,11 +13,11 @@
 
 namespace quillmark::sample {
 
-/// How far one folder is searched. A search that ends early has still looked at
-/// everything that it came to before.
+/// Limits for the search of one folder. A search that ends early still reports what
+/// it found before.
 struct WalkLimits {
-  std::size_t depth = 8;        ///< folders below the first
-  std::size_t entries = 50000;  ///< names looked at
+  std::size_t depth = 8;        ///< levels of folders below the first
+  std::size_t entries = 50000;  ///< file names examined
   std::chrono::steady_clock::duration time = std::chrono::seconds(2);
 };
 
@@ -26,9 +26,9 @@ struct SetUidSearch {
   bool complete = true;  ///< false when a limit or `stop` ended it
 };
 
-/// Looks below the folder `root` for executable files that run with their
-/// owner's rights: "critical" where that is root, else "high". Follows no
-/// symbolic link and stays in the file system of `root`.
+/// Searches the folder `root` for executable files that run with their owner's
+/// rights: "critical" if the owner is root, else "high". Follows no symbolic link
+/// below `root` and stays in the file system of `root`.
 [[nodiscard]] SetUidSearch setUidFiles(const std::string& root, const WalkLimits& limits,
                                        const std::stop_token& stop);
 

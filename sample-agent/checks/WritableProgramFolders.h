@@ -11,8 +11,8 @@
 namespace quillmark::sample {
 
 /// One alert of severity "high" for each folder in `searchPath` (joined by
-/// colons) in which every user may create files. Entries that are no absolute
-/// path are passed over; a folder named twice is reported once.
+/// colons) in which every user may create files. Entries that are not
+/// absolute paths are ignored; a folder listed twice is reported once.
 [[nodiscard]] std::vector<ThreatAlert> writableProgramFolders(std::string_view searchPath);
 
 }  // namespace quillmark::sample

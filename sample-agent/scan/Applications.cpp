@@ -37,8 +37,8 @@ std::optional<std::string> pathOf(const DesktopEntry& entry,
                                         : programCalled(entry.command, programs);
 }
 
-/// The one program that stands for a package: the one with its name, else the
-/// only one.
+/// The program that represents a package: the only one, or the one with the
+/// package's name.
 std::optional<std::string> pathOf(const Package& package,
                                   const std::vector<std::string>& programs) {
   return programs.size() == 1 ? std::optional(asUtf8(programs.front()))
@@ -62,7 +62,7 @@ ApplicationReader::ApplicationReader(const SystemPaths& paths)
       otherApplications_(paths.otherApplications) {}
 
 std::vector<InstalledApp> ApplicationReader::read() {
-  // Taken first: a change while the lists are read is seen at the next scan.
+  // Taken before reading: the next scan then notices a change during the read.
   const Stamp stamp = stampOf(dpkg_ + "/status");
   if (stamp_ != stamp) {
     readPackages();

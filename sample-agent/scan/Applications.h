@@ -16,14 +16,13 @@
 
 namespace quillmark::sample {
 
-/// The installed applications: first what a desktop's menu shows, under the
-/// name that it has there, then the packages that bring a command but no menu
-/// entry, under the package's name; each part by name. Libraries, data and
-/// documentation are no applications.
+/// The installed applications: first those in the desktop's menu, under their name
+/// there, then the packages with a command but no menu entry, under the package's
+/// name; each part sorted by name. Libraries, data and documentation are not
+/// applications.
 ///
-/// Reading a thousand lists of files for nothing once a minute would be most of
-/// a scan's work, so that part is kept for as long as dpkg's database stays as
-/// it is. One thread at a time.
+/// The packages' part is cached until dpkg's database changes: reading a thousand
+/// file lists once a minute would be most of a scan's work. One thread at a time.
 class ApplicationReader final {
  public:
   explicit ApplicationReader(const SystemPaths& paths);
@@ -33,7 +32,7 @@ class ApplicationReader final {
   [[nodiscard]] std::vector<InstalledApp> read();
 
  private:
-  /// Tells one state of a file from another.
+  /// Identifies a version of a file.
   struct Stamp {
     std::uint64_t inode = 0;
     std::int64_t seconds = 0;
@@ -45,7 +44,7 @@ class ApplicationReader final {
   struct Found {
     std::vector<InstalledApp> menu;
     std::vector<InstalledApp> commands;
-    std::set<std::string> entryNames;  ///< the files that made `menu`, hidden ones included
+    std::set<std::string> entryNames;  ///< the file names behind `menu`, hidden entries included
   };
 
   [[nodiscard]] static Stamp stampOf(const std::string& path);

@@ -8,8 +8,8 @@
 
 namespace quillmark::sample {
 
-/// What the kernel lets the agent do beyond an ordinary program: the names of
-/// its effective capabilities, from `procRoot`/self/status, by their number.
+/// The names of the agent's effective capabilities, from `procRoot`/self/status,
+/// ordered by capability number.
 [[nodiscard]] std::vector<std::string> effectiveCapabilities(const std::string& procRoot);
 
 }  // namespace quillmark::sample

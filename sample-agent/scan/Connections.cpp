@@ -14,10 +14,12 @@
 namespace quillmark::sample {
 namespace {
 
-bool isAgents(const SocketEnd& end) { return end.port == agentPort && end.address == agentAddress; }
+bool isAgentEnd(const SocketEnd& end) {
+  return end.port == agentPort && end.address == agentAddress;
+}
 
 bool isExchangeWithAgent(const Socket& socket) {
-  return !isListening(socket) && (isAgents(socket.local) || isAgents(socket.remote));
+  return !isListening(socket) && (isAgentEnd(socket.local) || isAgentEnd(socket.remote));
 }
 
 std::string portText(std::uint16_t port) { return port == 0 ? "*" : std::to_string(port); }
@@ -33,7 +35,7 @@ std::vector<NetworkConnection> connectionsOf(std::vector<Socket> sockets,
                                              const std::vector<Process>& processes) {
   std::erase_if(sockets, isExchangeWithAgent);
   std::stable_sort(sockets.begin(), sockets.end(), [](const Socket& a, const Socket& b) {
-    // The kernel's order changes whenever a connection comes or goes.
+    // The kernel's order changes whenever a connection is opened or closed.
     return std::tuple{!isListening(a), orderOf(a)} < std::tuple{!isListening(b), orderOf(b)};
   });
 

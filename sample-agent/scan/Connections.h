@@ -11,10 +11,10 @@
 
 namespace quillmark::sample {
 
-/// The sockets as the interface lists them: services first, by local port. A
-/// port 0, which means "any", is written "*". The agent's own finished and
-/// open exchanges with its clients are left out: every poll leaves four behind
-/// for a minute, and they would tell of nothing but the looking.
+/// The sockets as the interface lists them: listening ones first, then by local
+/// port. Port 0, which means "any", is written "*". The agent's own open and
+/// finished connections with its clients are left out: every poll leaves four
+/// behind for a minute, and they would only show the polling itself.
 [[nodiscard]] std::vector<NetworkConnection> connectionsOf(std::vector<Socket> sockets,
                                                            const std::vector<Process>& processes);
 

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::string_view mainGroup = "[Desktop Entry]";
 
-/// The keys of the main group; a localised one keeps its "[de]" and so stays
-/// apart from the plain one.
+/// The keys of the main group. A localised key keeps its suffix, such as "[de]", and
+/// so differs from the plain one.
 std::map<std::string_view, std::string_view> mainKeys(std::string_view text) {
   std::map<std::string_view, std::string_view> keys;
   bool inMainGroup = false;

@@ -15,8 +15,8 @@ struct DesktopEntry {
   std::string command;  ///< the program of its Exec line, with or without a path
 };
 
-/// Reads the text of a .desktop file. No value for what no menu shows: another
-/// type than Application, one marked hidden, one without a name.
+/// Reads the text of a .desktop file. No value for an entry that no menu shows: of a
+/// type other than Application, marked hidden, or without a name.
 [[nodiscard]] std::optional<DesktopEntry> parseDesktopEntry(std::string_view text);
 
 }  // namespace quillmark::sample

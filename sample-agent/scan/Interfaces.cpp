@@ -14,8 +14,8 @@ std::vector<std::string> networkInterfaces(const std::string& procRoot) {
   std::vector<std::string> names;
   const auto text = readSystemFile(procRoot + "/net/dev").value_or("");
   for (const auto line : split(text, '\n')) {
-    // The two heading lines have no colon. A name may hold one itself, the
-    // counters after it do not.
+    // The two heading lines have no colon. A name may contain one, the counters
+    // after it do not.
     const std::size_t colon = line.rfind(':');
     if (colon == std::string_view::npos) {
       continue;

@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 5> programFolders = {"/bin", "/sbin", "/u
                                                             "/usr/sbin", "/usr/games"};
 constexpr std::string_view desktopFolder = "/usr/share/applications";
 
-/// Takes `line`'s value into `value` if the line is the field `key`.
+/// If `line` is the field `key`, stores its value in `value` and returns true.
 bool takeField(std::string_view line, std::string_view key, std::string& value) {
   if (!line.starts_with(key)) {
     return false;
@@ -66,7 +66,7 @@ PackageFiles filesOf(const Package& package, const std::string& dpkgRoot) {
   const std::string start = dpkgRoot + "/info/" + package.name;
   auto text = readSystemFile(start + ".list");
   if (!text) {
-    // So it is called where several architectures may be installed at once.
+    // The list's name if several architectures may be installed at once.
     text = readSystemFile(start + ':' + package.architecture + ".list");
   }
 

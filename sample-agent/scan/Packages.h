@@ -8,7 +8,7 @@
 
 namespace quillmark::sample {
 
-/// One installed package of the dpkg database; its texts are bytes.
+/// One installed package of the dpkg database; its strings are bytes, not yet text.
 struct Package {
   std::string name;
   std::string version;
@@ -16,13 +16,13 @@ struct Package {
   std::string architecture;
 };
 
-/// Every installed package in `dpkgRoot`/status, in the database's order; none
-/// where there is no such database.
+/// Every installed package in `dpkgRoot`/status, in the database's order; none if
+/// there is no such database.
 [[nodiscard]] std::vector<Package> installedPackages(const std::string& dpkgRoot);
 
-/// What of a package a user may call or click.
+/// The files of a package that a user may start.
 struct PackageFiles {
-  std::vector<std::string> programs;        ///< files in a folder of commands
+  std::vector<std::string> programs;        ///< files in a folder for commands
   std::vector<std::string> desktopEntries;  ///< files in /usr/share/applications
 };
 

@@ -10,16 +10,16 @@
 
 namespace quillmark::sample {
 
-/// What usually answers on a TCP port over which passwords travel unencrypted,
-/// such as "Telnet"; empty for every other port.
+/// The service that usually listens on this TCP port and transmits passwords
+/// unencrypted, such as "Telnet"; empty for every other port.
 [[nodiscard]] std::string_view cleartextService(std::uint16_t port);
 
-/// Whether anyone who reaches this machine may talk to a cleartext service on it.
+/// Whether the socket is a cleartext service that listens on all interfaces.
 [[nodiscard]] bool isExposedCleartextService(const Socket& socket);
 
 /// "high": a cleartext service that listens on all interfaces. "medium": any
 /// other listener on all interfaces, and a cleartext service on one address
-/// that other machines reach. "low": everything else.
+/// that other machines can reach. "low": everything else.
 [[nodiscard]] std::string_view riskLevel(const Socket& socket);
 
 }  // namespace quillmark::sample

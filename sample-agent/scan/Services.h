@@ -11,11 +11,11 @@
 
 namespace quillmark::sample {
 
-/// The running services, sorted, each named once. A process serves
-/// - as its systemd service unit, where it belongs to one ("ssh.service");
-/// - by its own name where it belongs to none and either runs as a daemon (it
-///   leads a session without terminal, and is process 1 or a child of it) or
-///   waits for TCP connections.
+/// The running services, sorted, each listed once. A process is listed
+/// - as its systemd service unit ("ssh.service") if it belongs to one;
+/// - by its own name if it belongs to none and either runs as a daemon (it leads a
+///   session without a terminal, and is process 1 or a child of it) or listens for
+///   TCP connections.
 [[nodiscard]] std::vector<std::string> runningServices(const std::vector<Process>& processes,
                                                        const std::vector<Socket>& sockets);
 

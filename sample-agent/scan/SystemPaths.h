@@ -8,17 +8,17 @@
 
 namespace quillmark::sample {
 
-/// Where a scan looks; tests point it at trees of their own.
+/// Where a scan looks; tests use their own directory trees.
 struct SystemPaths {
   std::string proc = "/proc";
   std::string dpkg = "/var/lib/dpkg";
   std::string packagedApplications = "/usr/share/applications";  ///< as dpkg's file lists name it
-  std::vector<std::string> otherApplications;  ///< folders of desktop entries, first one wins
+  std::vector<std::string> otherApplications;  ///< folders of desktop entries, the first one wins
   std::vector<std::string> setUidRoots = {"/tmp", "/var/tmp", "/home"};
   std::string searchPath;  ///< folders of commands, joined by colons
 };
 
-/// Those of this machine, for the user with home directory `home`.
+/// The paths on this machine, for the user with home directory `home`.
 [[nodiscard]] SystemPaths systemPaths(const std::string& home);
 
 }  // namespace quillmark::sample

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 
 #include <boost/url/parse.hpp>
 #include <boost/url/url_view.hpp>

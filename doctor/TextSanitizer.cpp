@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Harmless.h"
+#include "TextSanitizer.h"
 
 #include <algorithm>
 #include <array>
@@ -18,15 +18,15 @@ namespace {
 namespace utf = boost::locale::utf;
 using Utf8 = utf::utf_traits<char>;
 
-constexpr auto blot = "[hidden]";
+constexpr auto hiddenMark = "[hidden]";
 constexpr auto ellipsis = "…";
 
 bool isBetween(utf::code_point c, utf::code_point first, utf::code_point last) {
   return c >= first && c <= last;
 }
 
-/// Whether a terminal would obey `c` instead of showing it, or show what comes
-/// after it in another order.
+/// Whether `c` is a control character for a terminal, or changes the order in which
+/// the text after it is shown.
 bool isUnsafe(utf::code_point c) {
   return c < 0x20 || isBetween(c, 0x7F, 0x9F) || c == 0x061C || isBetween(c, 0x200B, 0x200F) ||
          isBetween(c, 0x2028, 0x202E) || isBetween(c, 0x2060, 0x206F) || c == 0xFEFF;
@@ -41,7 +41,7 @@ std::string escaped(utf::code_point c) {
 
 }  // namespace
 
-void Harmless::hide(std::string_view secret) {
+void TextSanitizer::hide(std::string_view secret) {
   if (!secret.empty()) {
     secrets_.emplace_back(secret);
     std::stable_sort(secrets_.begin(), secrets_.end(),
@@ -49,10 +49,10 @@ void Harmless::hide(std::string_view secret) {
   }
 }
 
-std::string Harmless::operator()(std::string_view foreign, std::size_t maxCharacters) const {
-  std::string plain(foreign);
+std::string TextSanitizer::operator()(std::string_view untrusted, std::size_t maxCharacters) const {
+  std::string plain(untrusted);
   for (const auto& secret : secrets_) {
-    boost::algorithm::replace_all(plain, secret, blot);
+    boost::algorithm::replace_all(plain, secret, hiddenMark);
   }
   const std::string text = asUtf8(plain);
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "client/AgentRequest.h"
+#include "client/AgentUrl.h"
 
 #include <string>
 
@@ -10,7 +10,7 @@
 namespace quillmark::test {
 namespace {
 
-TEST(AgentRequest, TakesAUrlApart) {
+TEST(AgentUrl, TakesAUrlApart) {
   const auto request = quillmark::requestTo("http://127.0.0.2:80/some/path?with=query");
   ASSERT_TRUE(request);
   EXPECT_EQ(request->server.address().to_string(), "127.0.0.2");
@@ -21,7 +21,7 @@ TEST(AgentRequest, TakesAUrlApart) {
   EXPECT_EQ(request->token, "");
 }
 
-TEST(AgentRequest, IsNoneForWhatIsNoUrl) {
+TEST(AgentUrl, IsNoneForWhatIsNoUrl) {
   for (const std::string text :
        {"", "/api/status", "127.0.0.1:7823", "http://127.0.0.1:7823/a b"}) {
     EXPECT_FALSE(quillmark::requestTo(text)) << text;
@@ -29,13 +29,13 @@ TEST(AgentRequest, IsNoneForWhatIsNoUrl) {
 }
 
 // To look up a name is to ask somebody.
-TEST(AgentRequest, IsNoneForNamesAndForOtherAddresses) {
+TEST(AgentUrl, IsNoneForNamesAndForOtherAddresses) {
   for (const std::string host : {"localhost", "agent.example", "127.0.0.256", "[::1]", ""}) {
     EXPECT_FALSE(quillmark::requestTo("http://" + host + ":7823/api/status")) << host;
   }
 }
 
-TEST(AgentRequest, IsNoneWithoutAPort) {
+TEST(AgentUrl, IsNoneWithoutAPort) {
   EXPECT_FALSE(quillmark::requestTo("http://127.0.0.1/api/status"));
 }
 

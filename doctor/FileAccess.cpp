@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "FileLook.h"
+#include "FileAccess.h"
 
 #include <array>
 #include <cstdio>

@@ -12,20 +12,20 @@
 
 namespace quillmark::doctor {
 
-/// The permission bits and type of what lies at `path`, links followed; no value
-/// when it cannot be looked at.
+/// The permission bits and type of the file at `path`, symbolic links followed; no
+/// value if they cannot be read.
 [[nodiscard]] std::optional<mode_t> modeOf(const std::string& path);
 
 /// Whether users who neither own the file nor are of its group may read it.
 [[nodiscard]] bool othersMayRead(mode_t mode);
 
-/// As one writes it: "0644".
+/// The permission bits in octal: "0644".
 [[nodiscard]] std::string modeText(mode_t mode);
 
-/// Whether `error` means that there is nothing at a path.
+/// Whether `error` means that nothing exists at the path.
 [[nodiscard]] bool meansMissing(const boost::system::error_code& error);
 
-/// Whether this user may do all of `rights` (`W_OK`, `X_OK`) there.
+/// Whether this user has all of `rights` (`W_OK`, `X_OK`) at `path`.
 [[nodiscard]] bool mayAccess(const std::string& path, int rights);
 
 }  // namespace quillmark::doctor

@@ -11,18 +11,18 @@
 
 namespace quillmark {
 
-/// Where the agent serves its interface; a path follows directly.
+/// The URL of the agent's interface; append a path that begins with a slash.
 inline constexpr auto agentBaseUrl = "http://127.0.0.1:7823";
 
-// What it can be asked for.
+// The paths that the agent serves.
 inline constexpr std::string_view statusPath = "/api/status";
 inline constexpr std::string_view alertsPath = "/api/alerts";
 inline constexpr std::string_view networkPath = "/api/network";
 inline constexpr std::string_view inventoryPath = "/api/inventory";
 
-/// The parts of `url` that a request needs, its method and token left empty; no
-/// value if it is no URL that names an IPv4 address and a port. No name is ever
-/// looked up. Any thread.
+/// A request to `url` with empty method and token. No value when `url` is not a
+/// URL with an IPv4 address and a port; host names are never looked up. Any
+/// thread.
 [[nodiscard]] std::optional<HttpRequest> requestTo(const std::string& url);
 
 }  // namespace quillmark
