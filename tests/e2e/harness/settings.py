@@ -74,14 +74,6 @@ def focus_on(panel, which):
         panel.press_until_focused(*which)
 
 
-def reach(panel, which):
-    """Gives it the keyboard, by the quickest way that a user has."""
-    if box := _in_view(panel, which):
-        hands.click(box)
-    else:
-        focus_on(panel, which)
-
-
 def press(panel, button):
     """By pointer where the button is in view, else by keyboard."""
     if box := _in_view(panel, button):
@@ -97,7 +89,8 @@ def field(panel, which):
 
 def fill(panel, which, text):
     """Replaces what a field holds."""
-    reach(panel, which)
+    # Not by pointer: a second click soon after the first one only selects a word.
+    focus_on(panel, which)
     hands.key("ctrl+a", "BackSpace")
     if text:
         hands.write(text)
