@@ -22,10 +22,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
 -->
 # Performance
 
-What the panel costs, measured by `bench/run`: medians, and where spread is told
-the quartiles in brackets. Every figure stands beside one of a floor or of another
+What the panel costs, measured by `bench/run`: medians, with the quartiles in brackets
+where the spread matters. Every figure is next to that of a minimal program or of another
 program that was measured at the same time: the machine decides the raw figures,
-the ratios are what the panel answers for."""
+only the ratios can be compared."""
 
 
 def measure(name, file):

@@ -16,8 +16,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
 -->
 # Reliability
 
-What the panel stands, found by `tools/reliability`: how often it was tried, how
-often it held, and the figures of one run. What of the core no test reaches stands
+What the panel withstands, measured by `tools/reliability`: how often each case was
+run, how often it passed, and the figures of one run. What of the core no test reaches is
 in [Coverage](coverage.md)."""
 
 # Figure, what it is called, its limit and unit.
@@ -31,7 +31,7 @@ TROUBLE = {
     "client_tests": "hostile and broken answers, the core alone",
     "model_tests": "texts that are, or are not, JSON and a record",
     "e2e_answers": "hostile and broken answers, the window",
-    "e2e_hostile_text": "texts that would be more than text",
+    "e2e_hostile_text": "texts that look like markup or links",
     "fault_errors": "a system call fails while a configuration is saved or imported",
     "fault_kills": "the program killed at each of these calls",
     "fault_reads": "the same while the token or the configuration is read",
