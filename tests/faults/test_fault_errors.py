@@ -68,6 +68,12 @@ def test_the_calls_are_those_that_write_a_file():
     assert "rename" in names
 
 
+def test_a_failed_replacement_removes_the_temporary_file():
+    name, fault = next(case.values for case in CASES if case.values[1].call.name == "rename")
+    run = check(SCENES[name], fault)
+    assert "unlink" in {call.name for call in run.calls[run.calls.index(fault.call):]}
+
+
 def test_errors_are_told_in_the_systems_words():
     told = {
         (fault.call.name, fault.effect): check(SCENES[name], fault).message

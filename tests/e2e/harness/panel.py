@@ -84,8 +84,13 @@ class Panel:
 
     def focus_on(self, role, name):
         """Gives it the keyboard as assistive technology does: at once."""
-        self.tree.act(self.tree.wait_for(role, name), "SetFocus")
-        return until(lambda: self._has_focus(self.focus(), role, name), f"the focus on {name!r}")
+        return self.focus_item(self.tree.wait_for(role, name))
+
+    def focus_item(self, item):
+        """The same for an item that has been read."""
+        self.tree.act(item, "SetFocus")
+        return until(lambda: self._has_focus(self.focus(), item.role, item.name),
+                     f"the focus on {item.name!r}")
 
     def press_until_focused(self, role, name, key="Tab", most=40):
         """Walks the focus on as a keyboard user does."""

@@ -66,9 +66,9 @@ def _in_view(panel, which):
 
 
 def focus_on(panel, which):
-    """By keyboard alone where it would first have to be scrolled to."""
-    if panel.tree.find(*which):
-        panel.focus_on(*which)
+    """At once, or by Tab if it is scrolled out of view: then it is not in the tree."""
+    if found := panel.tree.find(*which):
+        panel.focus_item(found)
     else:
         panel.focus_on("group", "Settings")
         panel.press_until_focused(*which)
@@ -89,7 +89,7 @@ def field(panel, which):
 
 def fill(panel, which, text):
     """Replaces what a field holds."""
-    # Not by pointer: a second click soon after the first one only selects a word.
+    # Not by pointer: the second click of a double click does not move the focus.
     focus_on(panel, which)
     hands.key("ctrl+a", "BackSpace")
     if text:

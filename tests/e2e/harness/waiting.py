@@ -23,8 +23,9 @@ def until(condition, what, step=0.03):
 
 
 def never(condition, what, seconds):
-    """Holds for things that must not happen; only a lapse of time can show it."""
+    """Checks for that long, and once at the end, that something does not happen."""
     end = time.monotonic() + seconds
-    while time.monotonic() < end:
+    while (left := end - time.monotonic()) > 0:
         assert not condition(), what
-        time.sleep(SELDOM)
+        time.sleep(min(left, 0.3))
+    assert not condition(), what
