@@ -17,7 +17,7 @@ Item {
 
     signal pressed
 
-    // A held key repeats, and would start one agent after the other.
+    // A held key repeats; only the first event is a press.
     function pressBy(key) {
         if (!key.isAutoRepeat)
             pressed();

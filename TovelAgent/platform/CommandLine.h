@@ -36,7 +36,7 @@ struct CommandLine {
 inline constexpr int usageError = 2;
 
 /// Parses the arguments of `main`. Answers `--help` and `--version` on standard
-/// output, and reports unknown arguments on standard error. May reorder `argv`.
+/// output, and reports unknown arguments on standard error.
 /// Call at the start of a program, before it starts threads.
 [[nodiscard]] CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules);
 

@@ -79,7 +79,7 @@ class HostileAgent : public WithTokenFiles {
     std::size_t asked = backend_.requests().size();
     for (const auto& answer : answers) {
       SCOPED_TRACE(testing::PrintToString(answer.what));
-      // Its own copy: a client that has refused the answer does not wait for its end.
+      // A copy: the client may return before the server thread has sent everything.
       const auto status =
           statusFrom([bytes = answer.bytes](const ReceivedRequest&, Connection& connection) {
             connection.send(bytes);

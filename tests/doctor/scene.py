@@ -169,7 +169,7 @@ def listens(pid):
 
 
 def _target(link):
-    """Nothing if it is gone meanwhile: the program may close what it opened."""
+    """None if the process has closed the descriptor meanwhile."""
     with contextlib.suppress(FileNotFoundError):
         return os.readlink(link)
 

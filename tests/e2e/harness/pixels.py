@@ -1,8 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the display shows, as it keeps it: no program is started, and nothing is
-converted, for tests look many times. The display writes into memory shared with
-it, which takes a tenth of sending the pixels through its socket."""
+"""The pixels of the screen, in the X server's own format. The server writes them
+into shared memory, which takes a tenth of the time of its socket."""
 
 import ctypes
 

@@ -7,9 +7,9 @@
 // object as assistive technology sees it, as one line of JSON. For each line
 // "focus BUS_NAME OBJECT_PATH": what has the focus in that tree, innermost last,
 // without what lies below it. An empty line if part of the tree went away
-// meanwhile. What lies below something hidden is not read, and nothing lies below a
-// text. Each question costs three programs a turn, so what never changes, a role,
-// is asked once. In C++, because most of a test's time went into doing this in Python.
+// meanwhile. Children of hidden objects are not read, and texts have no children.
+// Each D-Bus call needs three processes, so roles, which never change, are read once
+// per object. In C++, because reading trees in Python took most of a test's time.
 
 #include <algorithm>
 #include <iostream>
