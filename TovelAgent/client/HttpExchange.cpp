@@ -6,9 +6,7 @@
 #include <cstddef>
 #include <utility>
 
-#include <boost/asio/co_spawn.hpp>
 #include <boost/asio/redirect_error.hpp>
-#include <boost/asio/strand.hpp>
 #include <boost/asio/this_coro.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/asio/write.hpp>
@@ -28,9 +26,15 @@ HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
   return error == beast::error::timeout ? HttpFailure::timedOut : otherwise;
 }
 
-/// `exchange` on an executor that runs one handler at a time. It needs that because
-/// a stream closes itself on timeout, at any point of the coroutine.
-asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits limits) {
+}  // namespace
+
+std::string requestText(const HttpRequest& request) {
+  // HTTP requires "Connection: close" from a client without persistent connections.
+  return request.method + ' ' + request.target + " HTTP/1.1\r\nHost: " + request.host +
+         "\r\nX-Agent-Token: " + request.token + "\r\nConnection: close\r\n\r\n";
+}
+
+asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   ErrorCode error;
   // A named variable, because GCC 12 destroys temporaries inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
@@ -63,22 +67,6 @@ asio::awaitable<HttpResult> exchangeSerially(HttpRequest request, HttpLimits lim
     }
   }
   co_return answer.takeResult();
-}
-
-}  // namespace
-
-std::string requestText(const HttpRequest& request) {
-  // HTTP requires "Connection: close" from a client without persistent connections.
-  return request.method + ' ' + request.target + " HTTP/1.1\r\nHost: " + request.host +
-         "\r\nX-Agent-Token: " + request.token + "\r\nConnection: close\r\n\r\n";
-}
-
-asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
-  const auto executor = co_await asio::this_coro::executor;
-  auto serial = exchangeSerially(std::move(request), limits);
-  auto completion =
-      asio::co_spawn(asio::make_strand(executor), std::move(serial), asio::use_awaitable);
-  co_return co_await std::move(completion);
 }
 
 }  // namespace quillmark

@@ -52,8 +52,9 @@ using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 /// Sends `request` over a new connection and completes with the answer, with any
 /// status, or with the reason why there is no complete answer. Does not follow
 /// redirects, ask for compression or store anything. Runs on the awaiting
-/// coroutine's executor, which may have several threads, and does not block them.
-/// Throws only `std::bad_alloc`.
+/// coroutine's executor and does not block it; that executor must run one handler
+/// at a time, because a connection closes itself at the time limit, at any point of
+/// the coroutine. Throws only `std::bad_alloc`.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

@@ -26,8 +26,8 @@ namespace quillmark {
 /// reason for no value (no token, no agent, no answer, a body that cannot be
 /// decoded) is not reported. An empty list is a value. The client is immutable
 /// after construction, so all operations may run at the same time, from any
-/// thread, as long as the client outlives them; each runs on its caller's
-/// executor.
+/// thread, as long as the client outlives them. Each runs on its caller's executor,
+/// which must run one handler at a time.
 class IPCClient final {
  public:
   /// Reads the access token; it is not read again later.

@@ -5,20 +5,15 @@
 
 #include <atomic>
 #include <cassert>
-#include <cstddef>
 
 namespace quillmark {
 namespace {
-
-// A waiting task uses no thread, so two threads are enough: while one decodes a
-// large body, the other runs all other tasks.
-constexpr std::size_t threadCount = 2;
 
 std::atomic<boost::asio::thread_pool*> currentPool = nullptr;
 
 }  // namespace
 
-TaskExecutor::TaskExecutor() : pool_(threadCount) {
+TaskExecutor::TaskExecutor() : pool_(1) {
   [[maybe_unused]] auto* const previous = currentPool.exchange(&pool_);
   assert(previous == nullptr);
 }

@@ -8,7 +8,8 @@
 
 namespace quillmark {
 
-/// The process's general-purpose executor, on which all network work runs.
+/// The process's general-purpose executor, on which all network work runs. It has one
+/// thread: a task that waits does not use it, and nobody waits for a task that does.
 ///
 /// Only one instance exists at a time: the entry point creates it before anything
 /// that starts tasks, and destroys it after that. The destructor waits for the
