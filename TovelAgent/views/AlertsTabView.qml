@@ -6,41 +6,26 @@ import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The first alerts that the agent last reported.
-Item {
-    id: tab
-
+ListPage {
     required property DashboardViewModel viewModel
 
-    readonly property bool isEmpty: viewModel.alerts.count === 0
-
-    Loader {
-        anchors.fill: parent
-        active: tab.isEmpty
-        sourceComponent: EmptyState {
-            icon: "checkmark.circle"
-            iconColor: Theme.green
-            text: "No threats detected"
-        }
+    label: "Alerts"
+    model: viewModel.alerts
+    placeholder: EmptyState {
+        icon: "checkmark.circle"
+        iconColor: Theme.green
+        text: "No threats detected"
     }
+    delegate: PlainListRow {
+        id: row
 
-    Loader {
-        anchors.fill: parent
-        active: !tab.isEmpty
-        sourceComponent: PlainList {
-            label: "Alerts"
-            model: tab.viewModel.alerts // qmllint disable unqualified
-            delegate: PlainListRow {
-                id: row
+        required property alertPresentation alert
 
-                required property alertPresentation alert
+        label: alert.accessibleName
 
-                label: alert.accessibleName
-
-                AlertRow {
-                    width: parent.width
-                    alert: row.alert
-                }
-            }
+        AlertRow {
+            width: parent.width
+            alert: row.alert
         }
     }
 }

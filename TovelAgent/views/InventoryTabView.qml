@@ -7,38 +7,31 @@ import Quillmark.ViewModel
 
 /// The first applications that the agent found. Blank while there is no
 /// inventory.
-Item {
+ListPage {
     id: tab
 
     required property DashboardViewModel viewModel
 
-    readonly property bool isEmpty: viewModel.apps.count === 0
-
-    Label {
-        visible: tab.viewModel.hasInventory && tab.isEmpty
-        anchors.centerIn: parent
-        text: "Loading applications..."
-        color: Theme.gray
+    label: "Installed applications"
+    model: viewModel.apps
+    placeholder: Item {
+        Label {
+            visible: tab.viewModel.hasInventory
+            anchors.centerIn: parent
+            text: "Loading applications..."
+            color: Theme.gray
+        }
     }
+    delegate: PlainListRow {
+        id: row
 
-    Loader {
-        anchors.fill: parent
-        active: !tab.isEmpty
-        sourceComponent: PlainList {
-            label: "Installed applications"
-            model: tab.viewModel.apps // qmllint disable unqualified
-            delegate: PlainListRow {
-                id: row
+        required property appPresentation app
 
-                required property appPresentation app
+        label: app.accessibleName
 
-                label: app.accessibleName
-
-                InstalledAppRow {
-                    width: parent.width
-                    app: row.app
-                }
-            }
+        InstalledAppRow {
+            width: parent.width
+            app: row.app
         }
     }
 }

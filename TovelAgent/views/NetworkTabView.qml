@@ -6,41 +6,26 @@ import Quillmark.Controls
 import Quillmark.ViewModel
 
 /// The connections that the agent last reported.
-Item {
-    id: tab
-
+ListPage {
     required property DashboardViewModel viewModel
 
-    readonly property bool isEmpty: viewModel.networkConnections.count === 0
-
-    Loader {
-        anchors.fill: parent
-        active: tab.isEmpty
-        sourceComponent: EmptyState {
-            icon: "network"
-            iconColor: Theme.gray
-            text: "No network connections detected"
-        }
+    label: "Network connections"
+    model: viewModel.networkConnections
+    placeholder: EmptyState {
+        icon: "network"
+        iconColor: Theme.gray
+        text: "No network connections detected"
     }
+    delegate: PlainListRow {
+        id: row
 
-    Loader {
-        anchors.fill: parent
-        active: !tab.isEmpty
-        sourceComponent: PlainList {
-            label: "Network connections"
-            model: tab.viewModel.networkConnections // qmllint disable unqualified
-            delegate: PlainListRow {
-                id: row
+        required property connectionPresentation connection
 
-                required property connectionPresentation connection
+        label: connection.accessibleName
 
-                label: connection.accessibleName
-
-                NetworkConnectionRow {
-                    width: parent.width
-                    connection: row.connection
-                }
-            }
+        NetworkConnectionRow {
+            width: parent.width
+            connection: row.connection
         }
     }
 }
