@@ -24,10 +24,10 @@ ListView {
     Accessible.name: label
     Accessible.focusable: true
     Accessible.focused: activeFocus
-    Accessible.onScrollUpAction: keys.scrollLines(-1)
-    Accessible.onScrollDownAction: keys.scrollLines(1)
-    Accessible.onPreviousPageAction: keys.scrollPages(-1)
-    Accessible.onNextPageAction: keys.scrollPages(1)
+    Accessible.onScrollUpAction: scroller.scrollLines(-1)
+    Accessible.onScrollDownAction: scroller.scrollLines(1)
+    Accessible.onPreviousPageAction: scroller.scrollPages(-1)
+    Accessible.onNextPageAction: scroller.scrollPages(1)
 
     Rectangle {
         parent: list
@@ -60,14 +60,15 @@ ListView {
         onTriggered: list.positionViewAtEnd()
     }
 
-    ScrollKeys {
-        id: keys
+    Scroller {
+        id: scroller
 
         target: list
     }
 
     ScrollBar {
         target: list
+        scroller: scroller
     }
 
     FocusRing {

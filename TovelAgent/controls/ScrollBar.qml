@@ -10,6 +10,7 @@ MouseArea {
     id: bar
 
     required property Flickable target
+    required property Scroller scroller
 
     // The distance from the thumb's top to the point where the pointer holds it.
     property real grip: 0
@@ -45,8 +46,7 @@ MouseArea {
         readonly property real share: bar.target.visibleArea.yPosition / (1 - bar.target.visibleArea.heightRatio)
 
         function moveTo(top: real) {
-            const share = Math.max(0, Math.min(1, (top - bar.margin) / way));
-            bar.target.contentY = bar.target.originY + share * (bar.target.contentHeight - bar.target.height);
+            bar.scroller.scrollToShare((top - bar.margin) / way);
         }
 
         // Stays clear of the window's edge, where a drag resizes the window.

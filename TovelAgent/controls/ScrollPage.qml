@@ -15,7 +15,7 @@ Flickable {
 
     /// Scrolls until `item`, which must be inside the page, is in view.
     function reveal(item: Item) {
-        follower.reveal(item);
+        scroller.reveal(item);
     }
 
     contentWidth: width
@@ -28,10 +28,10 @@ Flickable {
 
     Accessible.role: Accessible.Pane
     Accessible.name: label
-    Accessible.onScrollUpAction: keys.scrollLines(-1)
-    Accessible.onScrollDownAction: keys.scrollLines(1)
-    Accessible.onPreviousPageAction: keys.scrollPages(-1)
-    Accessible.onNextPageAction: keys.scrollPages(1)
+    Accessible.onScrollUpAction: scroller.scrollLines(-1)
+    Accessible.onScrollDownAction: scroller.scrollLines(1)
+    Accessible.onPreviousPageAction: scroller.scrollPages(-1)
+    Accessible.onNextPageAction: scroller.scrollPages(1)
 
     Column {
         id: column
@@ -41,20 +41,15 @@ Flickable {
         width: page.width - 2 * page.padding
     }
 
-    ScrollKeys {
-        id: keys
-
-        target: page
-    }
-
-    FocusFollower {
-        id: follower
+    Scroller {
+        id: scroller
 
         target: page
     }
 
     ScrollBar {
         target: page
+        scroller: scroller
     }
 
     FocusRing {

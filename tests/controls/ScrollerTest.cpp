@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <memory>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -11,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/ScrollKeys.h"
+#include "controls/Scroller.h"
 #include "main/ViewEngine.h"
 #include "viewmodel/GuiTest.h"
 
@@ -19,9 +20,9 @@ namespace quillmark::test {
 namespace {
 
 /// A page 300 high of content 1,000 high: what there is to scroll is 700.
-class ScrollKeysTest : public testing::Test {
+class ScrollerTest : public testing::Test {
  protected:
-  ScrollKeysTest() {
+  ScrollerTest() {
     prepareForViews(engine_);
     QQmlComponent component(&engine_);
     component.setData(
@@ -29,7 +30,7 @@ class ScrollKeysTest : public testing::Test {
         "1000 }",
         QUrl());
     page_.reset(qobject_cast<QQuickItem*>(component.create()));
-    keys_.setTarget(page_.get());
+    scroller_.setTarget(page_.get());
   }
 
   /// Whether the key was taken.
@@ -37,7 +38,7 @@ class ScrollKeysTest : public testing::Test {
     QKeyEvent event(QEvent::KeyPress, key, modifiers);
     // An event that nobody takes stays unaccepted.
     event.ignore();
-    return keys_.eventFilter(page_.get(), &event);
+    return scroller_.eventFilter(page_.get(), &event);
   }
 
   [[nodiscard]] qreal position() const { return page_->property("contentY").toReal(); }
@@ -45,7 +46,7 @@ class ScrollKeysTest : public testing::Test {
 
   QQmlEngine engine_;
   std::unique_ptr<QQuickItem> page_;
-  ScrollKeys keys_;
+  Scroller scroller_;
 };
 
 struct Press {
@@ -54,21 +55,21 @@ struct Press {
   qreal to;
 };
 
-class ScrollKeysPressTest : public ScrollKeysTest, public testing::WithParamInterface<Press> {};
+class ScrollerKeysTest : public ScrollerTest, public testing::WithParamInterface<Press> {};
 
-TEST_P(ScrollKeysPressTest, Scrolls) {
+TEST_P(ScrollerKeysTest, Scrolls) {
   scrollTo(GetParam().from);
   EXPECT_TRUE(press(GetParam().key));
   EXPECT_EQ(position(), GetParam().to);
 }
 
-TEST_P(ScrollKeysPressTest, ScrollsFromTheKeypadToo) {
+TEST_P(ScrollerKeysTest, ScrollsFromTheKeypadToo) {
   scrollTo(GetParam().from);
   EXPECT_TRUE(press(GetParam().key, Qt::KeypadModifier));
   EXPECT_EQ(position(), GetParam().to);
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, ScrollKeysPressTest,
+INSTANTIATE_TEST_SUITE_P(Keys, ScrollerKeysTest,
                          testing::Values(Press{Qt::Key_Down, 0, 40}, Press{Qt::Key_Down, 690, 700},
                                          Press{Qt::Key_Down, 700, 700}, Press{Qt::Key_Up, 100, 60},
                                          Press{Qt::Key_Up, 10, 0}, Press{Qt::Key_Up, 0, 0},
@@ -80,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, ScrollKeysPressTest,
                                          Press{Qt::Key_End, 100, 700},
                                          Press{Qt::Key_End, 700, 700}));
 
-TEST_F(ScrollKeysTest, LeavesOtherKeysToOthers) {
+TEST_F(ScrollerTest, LeavesOtherKeysToOthers) {
   for (const int key : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Left, Qt::Key_Right, Qt::Key_Space,
                         Qt::Key_Return, Qt::Key_Escape}) {
     EXPECT_FALSE(press(key)) << key;
@@ -88,7 +89,7 @@ TEST_F(ScrollKeysTest, LeavesOtherKeysToOthers) {
   EXPECT_EQ(position(), 0);
 }
 
-TEST_F(ScrollKeysTest, LeavesKeysWithModifiersToOthers) {
+TEST_F(ScrollerTest, LeavesKeysWithModifiersToOthers) {
   for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::ShiftModifier}) {
     EXPECT_FALSE(press(Qt::Key_Down, modifier));
     EXPECT_FALSE(press(Qt::Key_End, modifier));
@@ -96,13 +97,13 @@ TEST_F(ScrollKeysTest, LeavesKeysWithModifiersToOthers) {
   EXPECT_EQ(position(), 0);
 }
 
-TEST_F(ScrollKeysTest, LeavesReleasesToOthers) {
+TEST_F(ScrollerTest, LeavesReleasesToOthers) {
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier);
-  EXPECT_FALSE(keys_.eventFilter(page_.get(), &release));
+  EXPECT_FALSE(scroller_.eventFilter(page_.get(), &release));
   EXPECT_EQ(position(), 0);
 }
 
-TEST_F(ScrollKeysTest, DoesNothingWhereAllFits) {
+TEST_F(ScrollerTest, DoesNothingWhereAllFits) {
   page_->setProperty("contentHeight", 100);
   for (const int key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Up, Qt::Key_Home}) {
     EXPECT_TRUE(press(key));
@@ -110,20 +111,58 @@ TEST_F(ScrollKeysTest, DoesNothingWhereAllFits) {
   }
 }
 
-TEST_F(ScrollKeysTest, ListensToItsTargetOnly) {
+TEST_F(ScrollerTest, ScrollsToAShareOfTheWay) {
+  for (const auto& [share, expected] :
+       {std::pair{0.0, 0.0}, {0.5, 350.0}, {1.0, 700.0}, {-0.5, 0.0}, {1.5, 700.0}}) {
+    scroller_.scrollToShare(share);
+    EXPECT_EQ(position(), expected) << share;
+  }
+}
+
+TEST_F(ScrollerTest, RevealsAnItemWithRoomForItsLabel) {
+  auto* const content = page_->property("contentItem").value<QQuickItem*>();
+  QQuickItem item(content);
+  item.setSize({100, 20});
+  item.setY(500);
+  scroller_.reveal(&item);
+  EXPECT_EQ(position(), 500 + 20 + 32 - 300);
+  item.setY(100);
+  scroller_.reveal(&item);
+  EXPECT_EQ(position(), 100 - 32);
+}
+
+TEST_F(ScrollerTest, KeepsTheItemInViewWhenTheContentGrows) {
+  auto* const content = page_->property("contentItem").value<QQuickItem*>();
+  QQuickItem item(content);
+  item.setSize({100, 20});
+  item.setY(980);
+  scroller_.reveal(&item);
+  EXPECT_EQ(position(), 700);
+  page_->setProperty("contentHeight", 1200);
+  EXPECT_EQ(position(), 980 + 20 + 32 - 300);
+}
+
+TEST_F(ScrollerTest, LeavesItemsOutsideTheTargetAlone) {
+  QQuickItem other;
+  other.setY(900);
+  scroller_.reveal(&other);
+  EXPECT_EQ(position(), 0);
+}
+
+TEST_F(ScrollerTest, ListensToItsTargetOnly) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-  keys_.setTarget(nullptr);
+  scroller_.setTarget(nullptr);
   QCoreApplication::sendEvent(page_.get(), &down);
   EXPECT_EQ(position(), 0);
-  keys_.setTarget(page_.get());
+  scroller_.setTarget(page_.get());
   QCoreApplication::sendEvent(page_.get(), &down);
   EXPECT_EQ(position(), 40);
 }
 
-TEST_F(ScrollKeysTest, OutlivesItsTarget) {
+TEST_F(ScrollerTest, OutlivesItsTarget) {
   page_.reset();
-  EXPECT_EQ(keys_.target(), nullptr);
-  keys_.setTarget(nullptr);
+  EXPECT_EQ(scroller_.target(), nullptr);
+  scroller_.setTarget(nullptr);
 }
 
 }  // namespace

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace quillmark {
+
+/// Scrolls a Flickable or list, and knows how far it can scroll. A target that has
+/// the focus scrolls by keyboard: arrows by a step, Page Up and Page Down by a page,
+/// Home and End to the ends; a click on it gives it the focus. An item inside the
+/// target that gets the focus is scrolled into view and kept there when the view or
+/// its content changes size. UI thread only.
+class Scroller : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget REQUIRED)
+
+ public:
+  using QObject::QObject;
+
+  [[nodiscard]] QQuickItem* target() const { return target_; }
+  void setTarget(QQuickItem* target);
+
+  /// Scroll by steps or pages: down if `count` is positive, never past an end.
+  Q_INVOKABLE void scrollLines(int count);
+  Q_INVOKABLE void scrollPages(int count);
+
+  /// Scrolls to a part of the way: 0 is the top and 1 is the bottom.
+  Q_INVOKABLE void scrollToShare(qreal share);
+
+  /// Scrolls until `item`, which must be inside the target, is in view, and keeps it
+  /// there until another item gets the focus.
+  Q_INVOKABLE void reveal(QQuickItem* item);
+
+  [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private Q_SLOTS:
+  void keepInView();
+
+ private:
+  void watch(QQuickWindow* window);
+  void followFocus();
+  [[nodiscard]] bool scroll(int key);
+  void scrollToEnd();
+  [[nodiscard]] qreal position() const;
+  [[nodiscard]] qreal top() const;
+  [[nodiscard]] qreal bottom() const;
+  void scrollTo(qreal position);
+
+  QPointer<QQuickItem> target_;
+  QPointer<QQuickWindow> window_;
+  QPointer<QQuickItem> item_;  ///< to be kept in view
+};
+
+}  // namespace quillmark
