@@ -32,7 +32,7 @@ set(QUILLMARK_DIRECT_LAUNCHER ${QUILLMARK_LAUNCHER})
 if(NOT QUILLMARK_SANITIZE)
   # The sandbox does the same for its tests. A sanitizer reports crashes itself.
   list(APPEND QUILLMARK_DIRECT_LAUNCHER "QUILLMARK_CRASH_FOLDER=${QUILLMARK_TEST_RESULTS}"
-       "LD_PRELOAD=${CMAKE_BINARY_DIR}/tests/support/libcrash_reporter.so")
+       "LD_PRELOAD=${CMAKE_BINARY_DIR}/tests/support/crash/libcrash_reporter.so")
 endif()
 
 # quillmark_test(<name> <places> <command>...): a test inside the sandbox.

@@ -8,7 +8,7 @@ import subprocess
 from pathlib import Path
 
 BUILD = Path(os.environ["QUILLMARK_BUILD_DIR"])
-PROGRAM = BUILD / "tests/support/crashing_program"
+PROGRAM = BUILD / "tests/support/crash/crashing_program"
 
 
 def test_a_crash_leaves_a_stack_with_names(tmp_path):
