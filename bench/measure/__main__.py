@@ -8,10 +8,10 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).parents[2] / "tests/e2e"))
 
-from harness.display import Display
+from harness.display import Display  # noqa: E402
 
-from . import decode, idle, lists, memory, peers, poll, start, tabs
-from .report import Report
+from . import decode, idle, lists, memory, peers, poll, start, tabs  # noqa: E402
+from .report import Report  # noqa: E402
 
 PARTS = {"start": start, "memory": memory, "idle": idle, "poll": poll, "decode": decode,
          "lists": lists, "tabs": tabs, "peers": peers}

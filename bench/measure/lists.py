@@ -111,6 +111,6 @@ def run(report):
     growth(report, costs)
     report.section("Large lists", "Every row differs from poll to poll; the Network tab is in "
                    "front. Shown means from the first byte of the connections sent to the "
-                   "frame with them. Longest frames in ms: " + "wheel, page keys, End key.\n\n" + table(
+                   "frame with them. Longest frames in ms: wheel, page keys, End key.\n\n" + table(
                        ("connections", "poll to shown", "longest gap of the UI thread",
                         "resident", "frames 1000 × 700", "frames 2560 × 1440"), rows))

@@ -13,9 +13,9 @@ import pytest
 sys.path.insert(0, str(Path(__file__).parent.parent / "e2e"))
 pytest.register_assert_rewrite("scene")
 
-from harness.backend import Backend
+from harness.backend import Backend  # noqa: E402
 
-import scene
+import scene  # noqa: E402
 
 
 def pytest_configure():

@@ -11,12 +11,12 @@ import pytest
 # Before its import: assertions in there shall say what they compared.
 pytest.register_assert_rewrite("harness")
 
-from harness import bodies, large, processes, settings, tokens
-from harness.backend import Backend
-from harness.display import Display
-from harness.panel import Panel
-from harness.screen import BUILD, save
-from harness.waiting import until
+from harness import bodies, large, processes, settings, tokens  # noqa: E402
+from harness.backend import Backend  # noqa: E402
+from harness.display import Display  # noqa: E402
+from harness.panel import Panel  # noqa: E402
+from harness.screen import BUILD, save  # noqa: E402
+from harness.waiting import until  # noqa: E402
 
 TOKEN = "0123456789abcdef"
 

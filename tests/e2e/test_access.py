@@ -154,6 +154,7 @@ def test_a_change_of_the_status_is_announced(panel, backend):
         return event in [(member, body[0], body[3]) for member, body in heard]
 
     until(announced, "the new status")
-    assert panel.tree.description(panel.tree.wait_for("group", "Status: WARNING")) == "Needs attention"
+    status = panel.tree.wait_for("group", "Status: WARNING")
+    assert panel.tree.description(status) == "Needs attention"
     backend.reply(status=bodies.status(threat_count=1))
     panel.tree.wait_for(*BADGES[0])

@@ -16,6 +16,7 @@ SCREEN = (2100, 1500)
 # By what curves may differ that are drawn in opposite directions.
 TOLERANCE = 8
 
+
 # The boxes themselves are drawn at every scale in the tests of their own.
 @pytest.fixture(scope="module", params=[
     ("1", "software"), ("1.25", "software"), ("1.75", "opengl"),

@@ -24,7 +24,8 @@ def run(name, *arguments):
     hidden = ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM")
     environment = {k: v for k, v in os.environ.items() if k not in hidden}
     return subprocess.run(
-        [PROGRAMS[name], *arguments], capture_output=True, text=True, timeout=PATIENCE, env=environment
+        [PROGRAMS[name], *arguments], capture_output=True, text=True, timeout=PATIENCE,
+        env=environment,
     )
 
 

@@ -2,8 +2,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The ways in which desktops and users tell every program to be dark."""
 
-from pathlib import Path
-
 from .settings import HOME
 
 GROUND, RAISED, INK, CHOSEN = "27,30,32", "49,54,59", "252,252,252", "61,174,233"
