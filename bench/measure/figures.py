@@ -22,7 +22,7 @@ def number(value):
     return f"{value:.3g}"
 
 
-def told(samples, unit):
+def with_spread(samples, unit):
     middle, low, high = spread(samples)
     return f"{number(middle)} {unit} ({number(low)} to {number(high)})"
 

@@ -32,8 +32,8 @@ def swaps(server, panel):
     for _ in range(POLLS):
         server.wait_for_poll()
         time.sleep(2)
-        begun, whole = (server.seen(what)[-1].answered for what in ("network", "inventory"))
-        shown += [(frame - begun) * 1000 for frame in panel.frames() if frame > whole][:1]
+        started, finished = (server.seen(what)[-1].answered for what in ("network", "inventory"))
+        shown += [(frame - started) * 1000 for frame in panel.frames() if frame > finished][:1]
     return median(shown), 1000 * max((span for _, span in panel.busy(since)), default=0)
 
 

@@ -6,7 +6,7 @@ import subprocess
 from statistics import median
 
 from . import stage
-from .figures import goal, table, told
+from .figures import goal, table, with_spread
 
 SIZES = {100: 200, 10_000: 30, 200_000: 7}  # rows: rounds
 
@@ -19,7 +19,7 @@ def run(report):
         # Skip the first rounds, which fill caches.
         lines = done.stdout.splitlines()[rounds // 5:]
         polled, worked, plain = zip(*([float(word) for word in line.split()] for line in lines))
-        rows.append((f"{count:,}", told(polled, "ms"), told(worked, "ms"), told(plain, "ms"),
+        rows.append((f"{count:,}", *(with_spread(times, "ms") for times in (polled, worked, plain)),
                      f"{median(polled) / median(plain):.2f}"))
         if count == 100:
             report.goal("one poll, 100 rows each ÷ floor",

@@ -50,7 +50,7 @@ def full(connection_count=500, turn=0):
 
 
 class Turns:
-    """Answers that are created once; each poll gets the next set, by turns."""
+    """Answers that are created once; the polls get the sets in turn."""
 
     def __init__(self, backend, *contents):
         from harness.exchange import answer

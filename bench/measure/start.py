@@ -5,7 +5,7 @@
 from statistics import median
 
 from . import stage
-from .figures import goal, table, told
+from .figures import goal, table, with_spread
 
 ROUNDS = 15
 
@@ -26,7 +26,7 @@ def run(report, rounds=ROUNDS):
     floor = median(first["bare Qt Quick window"])
     report.section("Start", table(
         ("program", "first painted frame", "÷ Qt Quick floor", "last change within a second"),
-        [(name, told(first[name], "ms"), f"{median(first[name]) / floor:.2f}",
-          told(settled[name], "ms")) for name in contenders]))
+        [(name, with_spread(first[name], "ms"), f"{median(first[name]) / floor:.2f}",
+          with_spread(settled[name], "ms")) for name in contenders]))
     report.goal("first painted frame ÷ bare Qt Quick floor",
                 goal(median(first["panel"]) / floor, 1.3))

@@ -5,7 +5,7 @@
 import time
 
 from . import stage
-from .figures import goal, spread, table, told
+from .figures import goal, spread, table, with_spread
 from .observed import Observed
 
 ROUNDS = 10
@@ -29,7 +29,7 @@ def run(report):
                    "milliseconds of its own, to the first frame with the tab; 10,000 "
                    "connections.\n\n" + table(
                        ("tab", "the first time", "later"),
-                       [(n, told(first[n], "ms") if first[n] else "was in front",
-                         told(later[n], "ms")) for n in NAMES]))
+                       [(n, with_spread(first[n], "ms") if first[n] else "was in front",
+                         with_spread(later[n], "ms")) for n in NAMES]))
     report.goal("tab switch, to painted, slowest tab",
                 goal(max(spread(s)[0] for s in [*later.values(), *first.values()] if s), 30, " ms"))

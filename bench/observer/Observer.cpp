@@ -4,7 +4,7 @@
 // Preloaded into an unmodified Qt program, this logs what the UI thread does to the
 // file that QUILLMARK_OBSERVER names, one line each:
 //
-//   busy START SECONDS    for so long the thread did not wait for events
+//   busy START SECONDS    the thread did not wait for events during this time
 //   frame TIME            a frame reached the window
 //
 // Times are seconds of the monotonic clock. Every event loop waits by one of the two

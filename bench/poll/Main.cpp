@@ -3,8 +3,8 @@
 
 // bench_poll ROWS ROUNDS
 //
-// Polls a server on the agent's port that answers with ROWS rows in each list, by
-// turns as the panel does and in the minimal way. Prints one line per round, in
+// Polls a server on the agent's port that answers with ROWS rows in each list, in
+// each round as the panel does and in the minimal way. Prints one line per round, in
 // milliseconds: the panel's time from the start of a poll to the change of the fourth
 // field, the UI thread's part of it, and the time of the minimal way.
 
