@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# What CPack would strip, without the compilers' notes of their versions as well.
+# Strips what CPack would strip, and the compilers' version notes, too.
 
 find_program(STRIP strip REQUIRED)
 file(GLOB programs "${CPACK_TEMPORARY_DIRECTORY}/*/usr/lib/quillmark-agent/*/Contents/MacOS/*")

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """changelog.py CHANGES PACKAGE VERSION REVISION MAINTAINER
 
-Writes what CHANGELOG.md tells as the changelog of a Debian package. What is not
-released yet counts as of VERSION.
+Converts CHANGELOG.md into the changelog of a Debian package. Changes that are not
+released yet get VERSION.
 """
 
 import os
@@ -18,7 +18,7 @@ HEADING = re.compile(r"## (?:\[?(?P<version>\d[\w.]*)\]? - (?P<date>[\d-]+)|Unre
 
 
 def releases(text):
-    """Version and date, or neither of them, and the notes of each release."""
+    """Version and date, both None before the release, and the notes of each release."""
     parts = re.split(r"^(?=## )", text, flags=re.MULTILINE)[1:]
     for part in parts:
         heading = HEADING.match(part)
@@ -30,7 +30,7 @@ def releases(text):
 
 
 def moment(date, path):
-    """Noon of a release; without one when the file was last changed."""
+    """Noon on the date of the release; without a date, when the file was last changed."""
     if date:
         return datetime.fromisoformat(date).replace(hour=12, tzinfo=timezone.utc)
     seconds = os.environ.get("SOURCE_DATE_EPOCH") or path.stat().st_mtime
