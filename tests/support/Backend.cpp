@@ -88,7 +88,7 @@ Backend::~Backend() {
   {
     const std::lock_guard lock(mutex_);
     for (auto& socket : sockets_) {
-      // A reader that waits for the peer wakes up; the thread closes it.
+      // Wakes a thread that waits for its peer; the thread then closes the socket.
       shutdown(socket.native_handle(), SHUT_RDWR);
     }
   }

@@ -20,28 +20,28 @@
 
 namespace quillmark::test {
 
-/// A request as it came in, byte for byte.
+/// A request as received, byte for byte.
 struct ReceivedRequest {
   std::string text;  ///< request line and header, as sent
 
   [[nodiscard]] std::string target() const;
 };
 
-/// One connection, as a handler sees it. A handler may write what it likes,
-/// piece by piece, and wait; the connection closes when it returns.
+/// One connection, for its handler. The handler may send any bytes, in pieces, and
+/// wait; the connection is closed when it returns.
 class Connection {
  public:
   Connection(boost::asio::ip::tcp::socket& socket, const std::atomic<bool>& stopping)
       : socket_(socket), stopping_(stopping) {}
 
-  /// False when the peer is gone.
+  /// False if the peer has closed the connection.
   bool send(std::string_view bytes);
-  /// Waits, or less long when the backend stops.
+  /// Waits for `time`, or until the backend stops.
   void pause(std::chrono::milliseconds time) const;
-  /// Says nothing until the peer goes or the backend stops.
+  /// Waits until the peer closes the connection or the backend stops.
   void staySilent();
-  /// Has the connection end with a reset, once the handler returns, in place of
-  /// an orderly close.
+  /// Makes the connection end with a reset, not an orderly close, when the handler
+  /// returns.
   void reset();
   [[nodiscard]] bool resets() const { return resets_; }
 
@@ -51,15 +51,14 @@ class Connection {
   bool resets_ = false;
 };
 
-/// A whole 200 answer with this JSON body.
+/// A complete 200 answer with this JSON body.
 [[nodiscard]] std::string okAnswer(std::string_view body);
-/// A whole answer with this status line's end, such as "401 Unauthorized".
+/// A complete answer; `status` ends its status line, such as "401 Unauthorized".
 [[nodiscard]] std::string answer(std::string_view status, std::string_view body,
                                  std::string_view extraHeader = "");
 
-/// A real server on 127.0.0.1: one thread a connection, each request handed to
-/// a handler. The port is the agent's own unless another is named; 0 takes a
-/// free one.
+/// A real server on 127.0.0.1 with one thread per connection, which passes each
+/// request to a handler. Port 0 means any free port.
 class Backend final {
  public:
   using Handler = std::function<void(const ReceivedRequest&, Connection&)>;
@@ -67,7 +66,7 @@ class Backend final {
   static constexpr std::uint16_t agentPort = 7823;
 
   explicit Backend(Handler handler, std::uint16_t port = agentPort);
-  /// Answers each target with its raw text, and 404 where there is none.
+  /// Answers each target with its raw text, and all others with 404.
   explicit Backend(std::map<std::string, std::string> answers, std::uint16_t port = agentPort);
   ~Backend();
   Backend(const Backend&) = delete;
@@ -75,7 +74,7 @@ class Backend final {
 
   [[nodiscard]] std::uint16_t port() const { return port_; }
   [[nodiscard]] std::vector<ReceivedRequest> requests() const;
-  /// How many connections were opened, also those without a request.
+  /// How many connections were opened, including those without a request.
   [[nodiscard]] int connections() const { return connectionCount_; }
 
  private:

@@ -21,11 +21,11 @@ inline const std::string inventoryBody =
     R"({"apps":[{"name":"editor","version":"2.4.1"}],"services":["cron","ssh"],)"
     R"("network_interfaces":["lo"],"permissions":[]})";
 
-/// A network body with this many connections, each with a local port of its
-/// own, counted from 0; `state` is the same for all.
+/// A network body with `count` connections, whose local ports are 0, 1, 2 and so on;
+/// `state` is the same for all.
 [[nodiscard]] std::string networkBodyOf(int count, const std::string& state = "LISTEN");
 
-/// Whole 200 answers with the good bodies, by target.
+/// Complete 200 answers with the good bodies, by target.
 [[nodiscard]] std::map<std::string, std::string> goodAnswers();
 
 }  // namespace quillmark::test

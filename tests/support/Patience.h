@@ -9,8 +9,8 @@
 
 namespace quillmark::test {
 
-/// How long a test waits for what must come. It ends what hangs and nothing
-/// else: ten times what the slowest wait takes on a quiet machine.
+/// How long a test waits for an expected event. Only ends a test that hangs: it is ten
+/// times the slowest wait on an idle machine.
 [[nodiscard]] inline std::chrono::seconds patience() {
   const auto* const factor = std::getenv("QUILLMARK_TEST_PATIENCE");
   return std::chrono::seconds(120) * (factor == nullptr ? 1 : std::stoi(factor));

@@ -8,11 +8,11 @@
 
 namespace quillmark::test {
 
-// For tests inside the sandbox alone: these are the real places.
+// Only for tests inside the sandbox: these are the real paths.
 [[nodiscard]] std::string systemTokenPath();
 [[nodiscard]] std::string homeTokenPath();
 
-/// Writes `content` to `path`, making its folder.
+/// Writes `content` to `path`, and creates its folder.
 void writeFile(const std::string& path, std::string_view content);
 
 /// Removes both token files.

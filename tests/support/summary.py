@@ -21,9 +21,9 @@ def outcome(case):
 
 
 def cases_of(test, folders):
-    """The outcome of each case of a test, by name. A test that failed without a
-    failed case to show for it (a crash, a time-out) is a failure of its own; one
-    without a report is one case."""
+    """The outcome of each case of a test, by name. A test that failed without a failed
+    case (a crash, a timeout) counts as one failed case; one without a report as one
+    case."""
     name = test.get("name")
     failed = test.get("status") == "fail"
     cases = []

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Preloaded into every program that a test starts. A crash leaves the stack of
-// each thread in the folder that QUILLMARK_CRASH_FOLDER names. A core dump would
-// not do: the panel forbids its own, and the machine decides where one goes.
+// Preloaded into every program that a test starts. When the program crashes, writes
+// the stack of each thread to the folder QUILLMARK_CRASH_FOLDER. Core dumps are no
+// alternative: the panel disables them, and their path depends on the machine.
 
 #include <algorithm>
 #include <array>
@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::array crashSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 
-/// A text of fixed room: after a crash nothing may be allocated.
+/// A text in a fixed buffer: a signal handler must not allocate memory.
 class Text final {
  public:
   Text& operator<<(const char* text) {
@@ -78,7 +78,7 @@ void report(int signal) {
     while (waitpid(writer, nullptr, 0) < 0 && errno == EINTR) {
     }
   }
-  // The default action is in place again and ends the program as it would have.
+  // SA_RESETHAND has restored the default action, which ends the program.
   raise(signal);
 }
 
@@ -86,7 +86,7 @@ void report(int signal) {
   if (std::getenv("QUILLMARK_CRASH_FOLDER") == nullptr) {
     return;
   }
-  // A stack of its own, for the one that overflowed.
+  // A separate stack, because the program's own may have overflowed.
   static std::array<char, 64 * 1024> stack;
   const stack_t alternative{stack.data(), 0, stack.size()};
   sigaltstack(&alternative, nullptr);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Crashes in a function with a name, core dumps forbidden as in the panel.
+// Crashes in a named function, with core dumps disabled as in the panel.
 
 #include <csignal>
 

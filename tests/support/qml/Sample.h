@@ -17,8 +17,8 @@
 
 namespace quillmark::test {
 
-/// What rows and the header show, made of a record by the view model's own
-/// rules, for tests in QML. An optional text that is undefined is no value.
+/// Sample records as the view model presents them to rows and the header, for QML
+/// tests. In place of an optional text, undefined means no value.
 class Sample : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -39,7 +39,7 @@ class Sample : public QObject {
     return present(InstalledApp{name.toStdString(), text(version), "publisher", "/usr/bin/app"});
   }
 
-  /// One address and port for both ends.
+  /// `address` and `port` are used for both ends.
   Q_INVOKABLE [[nodiscard]] static quillmark::ConnectionPresentation connection(
       const QString& address, const QString& port, const QString& state) {
     return present(NetworkConnection{"tcp", address.toStdString(), port.toStdString(),

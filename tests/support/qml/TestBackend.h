@@ -16,9 +16,8 @@
 
 namespace quillmark::test {
 
-/// The real backend for tests in QML, with a token for whoever asks it. There
-/// from its construction on, with a good answer to each request until another
-/// is set; inside the sandbox alone.
+/// The test server and a token file, for QML tests. Gives good answers until others
+/// are set. Only inside the sandbox.
 class TestBackend : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -34,14 +33,14 @@ class TestBackend : public QObject {
   /// Gives good answers again.
   Q_INVOKABLE void recover();
 
-  /// The targets of the requests that came in, in their order.
+  /// The targets of the requests so far, in their order.
   Q_INVOKABLE [[nodiscard]] QStringList requests() const;
 
-  /// A network body of so many connections, numbered by their local ports.
+  /// A network body with `count` connections, numbered by their local ports.
   Q_INVOKABLE [[nodiscard]] static QString connectionsBody(int count, const QString& state);
 
-  /// Ends the timers of every view model. Polls then happen one at a time, when
-  /// a test asks for them.
+  /// Deletes the timers of all view models, so that a poll happens only when a test
+  /// starts it.
   Q_INVOKABLE static void endTimers();
 
  private:

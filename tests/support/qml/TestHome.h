@@ -16,8 +16,8 @@
 
 namespace quillmark::test {
 
-/// A home directory of its own, as long as one lives, and what the Settings tab
-/// takes for an agent. For tests in QML; inside the sandbox alone.
+/// A temporary home directory, for as long as this object exists, and processes that
+/// the Settings tab takes for agents. For QML tests; only inside the sandbox.
 class TestHome : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -28,7 +28,7 @@ class TestHome : public QObject {
   }
   ~TestHome() override { setenv("HOME", before_.c_str(), 1); }
 
-  /// A file of this name and text, as a file dialog tells it.
+  /// Writes a file; returns its URL, as a file dialog does.
   Q_INVOKABLE [[nodiscard]] QUrl write(const QString& name, const QString& text) const {
     const auto path = folder_ / name.toStdString();
     writeFile(path, text.toStdString());

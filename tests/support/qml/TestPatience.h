@@ -12,7 +12,7 @@
 
 namespace quillmark::test {
 
-/// How long tests in QML wait for what must come.
+/// How long QML tests wait for an expected event.
 class TestPatience : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -5,8 +5,8 @@ import QtQuick
 import QtTest
 import Quillmark.Tests
 
-/// A test of built views: fails on any warning, and finds what is in a view.
-/// Only what can be seen is found.
+/// A test of views: fails on any warning, and has functions that find the visible
+/// items of a view.
 TestCase {
     id: testCase
 
@@ -22,11 +22,11 @@ TestCase {
         setUp();
     }
 
-    /// For test cases, before each test function.
+    /// Runs before each test function; for test cases to override.
     function setUp() {
     }
 
-    /// A view of this component, gone after the test function.
+    /// Creates a view that is destroyed after the test function.
     function make(component, properties) {
         const view = createTemporaryObject(component, testCase, properties ?? {});
         verify(view, "the view is built");
@@ -34,7 +34,7 @@ TestCase {
         return view;
     }
 
-    /// One of the views that otherwise are as wide as what they lie in.
+    /// The same with a given width, for views that are as wide as their parent.
     function makeWide(width, component, properties) {
         const view = make(component, properties);
         view.width = width;
@@ -42,7 +42,7 @@ TestCase {
         return view;
     }
 
-    /// Waits until rows and columns have placed what is in them.
+    /// Waits until rows and columns have placed their items.
     function settle(view) {
         const isUnsettled = () => itemsIn(view).concat([view]).some(isPolishScheduled);
         for (let i = 0; i < 1000 && isUnsettled(); ++i)
@@ -50,7 +50,7 @@ TestCase {
         verify(!isUnsettled());
     }
 
-    /// The items inside `root` that can be seen, outermost first.
+    /// The visible items inside `root`, outermost first.
     function itemsIn(root) {
         let found = [];
         for (const child of Array.from(root.children)) {
@@ -60,7 +60,7 @@ TestCase {
         return found;
     }
 
-    /// Those of the type of this name.
+    /// Those whose type has this name.
     function itemsOfType(root, name) {
         return itemsIn(root).filter(item => isOfType(item, name));
     }
@@ -69,7 +69,7 @@ TestCase {
         return new RegExp("^(QQuick|quillmark::)?" + name + "(_QML|\\()").test(item.toString());
     }
 
-    /// The one item of the type of this name.
+    /// The only item whose type has this name.
     function itemOfType(root, name) {
         const found = itemsOfType(root, name);
         compare(found.length, 1, "items of type " + name);
@@ -80,12 +80,12 @@ TestCase {
         return itemsIn(root).filter(item => item.textFormat !== undefined);
     }
 
-    /// The texts that can be read in `root`, top to bottom.
+    /// The visible texts in `root`, top to bottom.
     function textsIn(root) {
         return labelsIn(root).map(label => label.text);
     }
 
-    /// The one label with this text.
+    /// The only label with this text.
     function labelOf(root, text) {
         const found = labelsIn(root).filter(label => label.text === text);
         compare(found.length, 1, "labels with the text " + text);
@@ -96,7 +96,7 @@ TestCase {
         verify(Qt.colorEqual(actual, expected), (what ?? "colour") + ": " + actual + ", not " + expected);
     }
 
-    /// What a label of this size, weight and colour looks like.
+    /// Checks the size, weight and colour of a label.
     function compareLabel(label, size, weight, color) {
         compare(label.font.pixelSize, size, "size of " + label.text);
         compare(label.font.weight, weight, "weight of " + label.text);
@@ -105,30 +105,30 @@ TestCase {
         compare(label.textFormat, Text.PlainText);
     }
 
-    /// Which icon this is, how large and in which colour.
+    /// Checks the name, size and colour of an icon.
     function compareIcon(icon, name, size, color) {
         compare(icon.name, name);
         compare(icon.size, size, "size of " + name);
         compareColor(icon.color, color, "colour of " + name);
     }
 
-    /// Where `item` lies in `root`.
+    /// The position and size of `item` in `root`.
     function boxIn(item, root) {
         return item.mapToItem(root, 0, 0, item.width, item.height);
     }
 
-    /// The room between two items that lie one under the other.
+    /// The vertical gap between two items.
     function roomBelow(upper, lower) {
         return boxIn(lower, testCase).y - boxIn(upper, testCase).bottom;
     }
 
-    /// The room between two items that lie side by side.
+    /// The horizontal gap between two items.
     function roomBeside(left, right) {
         return boxIn(right, testCase).x - boxIn(left, testCase).right;
     }
 
-    /// Whether two items have the same middle, but for the half pixel that is
-    /// rounded away.
+    /// Checks that the middles of two items are at the same height, except for half a
+    /// pixel that is rounded away.
     function compareMiddleHeight(one, other) {
         const distance = middleHeight(one) - middleHeight(other);
         verify(Math.abs(distance) <= 0.5, "middles are " + distance + " apart");

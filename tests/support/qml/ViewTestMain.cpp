@@ -12,9 +12,8 @@
 
 namespace quillmark::test {
 
-/// Makes each engine one for the panel's views, and counts every warning of
-/// QML. A test function fails on its own, but views also come and go between
-/// the functions.
+/// Prepares each engine for the panel's views, and counts QML's warnings: a test
+/// function fails on those during it, but not on those between functions.
 class Setup final : public QObject {
   Q_OBJECT
 
