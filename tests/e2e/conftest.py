@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What every file of end-to-end tests stands on."""
+"""Fixtures for all end-to-end tests."""
 
 import contextlib
 import os
@@ -8,7 +8,7 @@ import re
 
 import pytest
 
-# Before its import: assertions in there shall say what they compared.
+# Before the import, so that failed assertions in the harness show their values.
 pytest.register_assert_rewrite("harness")
 
 from harness import bodies, large, processes, settings, tokens  # noqa: E402
@@ -22,13 +22,13 @@ TOKEN = "0123456789abcdef"
 
 
 def pytest_configure():
-    # Outside, the tests would write real token paths and take the real port.
+    # Outside, the tests would write the real token files and use the real port.
     assert os.environ.get("QUILLMARK_SANDBOX"), "run these in tests/support/sandbox"
 
 
 @pytest.fixture(scope="module")
 def display(request):
-    """As large as the file says by its SCREEN, if it does."""
+    """Has the size SCREEN of the test file, if that is defined."""
     display = Display(*getattr(request.module, "SCREEN", ()))
     yield display
     display.stop()
@@ -43,7 +43,7 @@ def token():
 
 @pytest.fixture(scope="module")
 def backend():
-    """Answers as an everyday agent does until a test says otherwise."""
+    """Gives good answers until a test sets others."""
     backend = Backend().start()
     yield backend
     backend.stop()
@@ -59,7 +59,7 @@ def panel(display, token, backend):
 
 @pytest.fixture
 def launch_alone(display):
-    """A fresh panel, and nothing at the agent's place but what a test puts there."""
+    """Starts a new panel, without a backend unless the test starts one."""
     with contextlib.ExitStack() as panels:
 
         def start(*prefix, **environment):
@@ -72,7 +72,7 @@ def launch_alone(display):
 
 @pytest.fixture
 def launch_large(launch_alone):
-    """As `launch_alone`, on a display and at a scale where colours can be told."""
+    """As `launch_alone`, at a scale at which colours can be measured."""
 
     def start(*prefix, **environment):
         panel = launch_alone(*prefix, QT_SCALE_FACTOR=str(large.SCALE), **environment)
@@ -84,7 +84,7 @@ def launch_large(launch_alone):
 
 @pytest.fixture
 def launch(launch_alone, backend):
-    """A fresh panel: it polls at once, which is quicker than the next poll."""
+    """Starts a new panel: it polls at once, which is quicker than the next poll."""
 
     def start(contents=(), **environment):
         backend.reply(**(bodies.everyday() | dict(contents)))
@@ -119,16 +119,16 @@ def agent_panel(launch_alone, fresh_home):
     panel.show("Settings")
     assert settings.status(panel) == settings.NOT_RUNNING
     yield panel
-    # Whatever was done, the panel lives and has reaped what it started.
+    # After every test, the panel must still run, and no zombies are left.
     assert not panel.ended()
     assert not [p for p in processes.below(panel.pid) if p.state == "Z"]
 
 
 @pytest.fixture
 def tab(panel):
-    """The Settings tab as it comes up without a configuration."""
+    """The Settings tab without a configuration."""
     settings.clean_home()
-    # High enough for all of it.
+    # High enough to show the whole tab.
     panel.window.resize(1000, 1150)
     until(lambda: panel.window.box.height == 1150, "a taller window")
     settings.enter(panel)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Every control without a pointer: by keyboard alone, by assistive actions alone."""
+"""Every control, used with the keyboard only and with assistive actions only."""
 
 import pytest
 
@@ -13,7 +13,7 @@ TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 BADGES = [("group", "Status: OK"), ("group", "Threats: 1")]
 BAR = [("tab", name) for name in TABS]
 WINDOW = [("button", name) for name in ("Minimize", "Maximize", "Close")]
-# What of each tab takes the keyboard, once the key's field is filled.
+# The items of each tab that can have the focus when the API key is filled in.
 CONTENT = {
     "Dashboard": [("group", "Dashboard")],
     "Network": [("list", "Network connections")],
@@ -39,7 +39,7 @@ def settings_tab(panel):
 
 
 def chain(panel):
-    """Everything from one Tab to the next until it begins again."""
+    """All items that the Tab key reaches, until the first one again."""
     walked = []
     panel.press_until_focused(*BADGES[0])
     while len(walked) < 30:
@@ -48,16 +48,16 @@ def chain(panel):
             return walked
         walked.append((focus.role, focus.name))
         hands.key("Tab")
-        until(lambda: panel.focus() != focus, "the focus to move on")
-    raise AssertionError(f"no end of {walked}")
+        until(lambda: panel.focus() != focus, "the focus to move")
+    raise AssertionError(f"the focus does not return to the first item: {walked}")
 
 
 @pytest.mark.parametrize("tab", TABS)
-def test_the_keyboard_goes_in_reading_order(panel, tab):
+def test_tab_key_follows_the_reading_order(panel, tab):
     panel.show(tab)
     if tab == "Settings":
         settings.fill(panel, KEY, "k")
-    # The window's own glyphs last, as a desktop's frame would not be in it.
+    # The window's own buttons come last; those of a desktop's frame would not be here.
     assert chain(panel) == BADGES + BAR + CONTENT[tab] + WINDOW
 
 
@@ -67,7 +67,7 @@ def focusable(tree):
 
 
 @pytest.mark.parametrize("tab", TABS)
-def test_what_assistive_technology_may_focus(panel, tab):
+def test_items_that_assistive_technology_can_focus(panel, tab):
     panel.show(tab)
     if tab == "Settings":
         settings.fill(panel, KEY, "k")
@@ -120,7 +120,7 @@ def test_settings_by_action(settings_tab):
     panel.tree.wait_without("dialog", picker.TITLE)
 
 
-def test_a_disabled_button_says_so(settings_tab):
+def test_disabled_button_is_described_as_unavailable(settings_tab):
     panel = settings_tab
     save = panel.tree.find(*SAVE)
     assert "focusable" not in save.states

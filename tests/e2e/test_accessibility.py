@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Everything visible is there for assistive technology, under its own text."""
+"""Assistive technology gets everything that is visible, under its own text."""
 
 import pytest
 
@@ -65,7 +65,7 @@ def test_controls(panel, tab):
     buttons = {b.name for b in tree.every("button")} - {"Minimize", "Maximize", "Close"}
     assert buttons == ({"Start Agent", "Stop Agent", "Save & Connect", "Browse and Import Config"}
                        if tab == "Settings" else set())
-    # What takes the focus says what it is.
+    # Every item that can have the focus has a name.
     assert all(i.name for i in tree.walk() if i.role in ("tab", "button", "list", "row"))
 
 
@@ -77,7 +77,7 @@ def test_rows(panel, tab):
     assert names(panel, name) == rows
 
 
-def test_everything_lies_where_it_is_seen(panel):
+def test_every_item_is_inside_the_window(panel):
     window = panel.window.box
     for tab in TABS:
         panel.show(tab)

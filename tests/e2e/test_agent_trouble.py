@@ -23,7 +23,7 @@ def panel(agent_panel):
 
 
 def probe():
-    """What the look for an agent finds now."""
+    """What a search for an agent finds now."""
     done = subprocess.run(["pgrep", "-f", processes.AGENT], capture_output=True)
     return RUNNING if done.returncode == 0 else NOT_RUNNING
 
@@ -44,13 +44,13 @@ def test_agent_that_ignores_the_request_to_end(panel):
         settings.enter(panel)
         assert status(panel) == RUNNING
         settings.press(panel, STOP)
-        never(lambda: status(panel) != RUNNING, "it was said to have ended", seconds=2)
+        never(lambda: status(panel) != RUNNING, "the tab says that it has ended", seconds=2)
         assert stubborn.poll() is None
     finally:
         end(stubborn)
 
 
-def test_fifty_of_the_name(panel):
+def test_fifty_processes_with_the_agents_name(panel):
     crowd = [impostor("600") for _ in range(50)]
     try:
         settings.enter(panel)
@@ -62,7 +62,7 @@ def test_fifty_of_the_name(panel):
         end(*crowd)
 
 
-def test_one_that_ended_and_was_not_collected(panel):
+def test_zombie_with_the_agents_name(panel):
     zombie = impostor("600")
     zombie.kill()
     until(lambda: [p for p in processes.every() if p.pid == zombie.pid and p.state == "Z"],
@@ -75,20 +75,20 @@ def test_one_that_ended_and_was_not_collected(panel):
     zombie.wait()
 
 
-def test_agent_that_dies_at_once(panel):
+def test_agent_that_ends_at_once(panel):
     with socket.create_server(("127.0.0.1", 7823)):
         settings.press(panel, START)
         until(lambda: "already in use" in (LOGS / "backend.log").read_text()
-              if (LOGS / "backend.log").exists() else False, "the agent to complain")
-        until(lambda: not processes.named(), "the agent to be gone")
-        never(lambda: status(panel) != NOT_RUNNING, "it was said to run", seconds=2.5)
+              if (LOGS / "backend.log").exists() else False, "the agent's error message")
+        until(lambda: not processes.named(), "the agent to end")
+        never(lambda: status(panel) != NOT_RUNNING, "the tab says that it runs", seconds=2.5)
 
 
 def test_log_that_cannot_be_written(panel):
     (LOGS / "backend.log").mkdir()
     panel.expected_output = r".*backend\.log: Is a directory\n"
     settings.press(panel, START)
-    until(lambda: "Is a directory" in panel.output(), "the shell to complain")
+    until(lambda: "Is a directory" in panel.output(), "the shell's error message")
     never(lambda: processes.agents() or status(panel) != NOT_RUNNING, "something started",
           seconds=2.5)
 
@@ -97,8 +97,8 @@ def test_a_hundred_clicks_on_start_and_stop_in_turn(panel):
     buttons = [settings.bring_into_view(panel, *button).box for button in (START, STOP)]
     for turn in range(100):
         hands.click(buttons[turn % 2])
-    # The last look is due two seconds after the last click has been taken.
+    # The last search runs two seconds after the last click is handled.
     clicked = time.monotonic()
     until(lambda: time.monotonic() > clicked + 4 and status(panel) == probe(),
-          "the tab to tell what is found")
-    never(lambda: status(panel) != probe(), "the tab changed its mind", seconds=2)
+          "the tab to show what is found")
+    never(lambda: status(panel) != probe(), "the tab changed again", seconds=2)

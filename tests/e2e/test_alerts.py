@@ -28,7 +28,7 @@ def show(launch, *alerts):
 
 
 def icon_of(row):
-    """The place between the window's border and the row's texts."""
+    """The area between the window's border and the row's texts."""
     text = row.every("text")[0].box
     return Box(row.box.x + 2, row.box.y + 2, text.x - row.box.x - 3, row.box.height - 4)
 

@@ -36,7 +36,7 @@ def offline(panel):
     return set(panel.tree.read().texts()) == OFFLINE_DASHBOARD
 
 
-def test_undecodable_network_body_leaves_the_others(panel, backend):
+def test_undecodable_network_body_does_not_affect_the_others(panel, backend):
     assert cards(panel)["Active Network Connections"] == "3"
     backend.reply(
         status=bodies.status(threat_count=7),
@@ -102,7 +102,7 @@ def test_refused_token_looks_like_no_agent(panel, backend):
 
 def test_stopped_backend_clears_everything_until_it_is_back(panel, backend):
     backend.stop()
-    until(lambda: offline(panel), "nothing of the last good data")
+    until(lambda: offline(panel), "the last good data to disappear")
     panel.show("Network")
     panel.tree.wait_for("text", "No network connections detected")
     panel.show("Alerts")

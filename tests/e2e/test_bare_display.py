@@ -17,13 +17,13 @@ def display():
     display.stop()
 
 
-def test_usable_without_complaint(display, token, backend):
+def test_usable_without_warnings(display, token, backend):
     panel = Panel()
     until(panel.windows, "the panel's window")
     panel.tree.wait_for("text", "OK")
     window = panel.window.box
     assert window[2:] == (1000, 700)
-    # Nobody can move or size the window here; trying must do no harm.
+    # Without a window manager the window cannot be moved or resized; trying must be harmless.
     hands.drag((window.x + 500, window.y + 60), (40, 40))
     hands.drag((window.right - 2, window.bottom - 2), (-60, -60))
     hands.click(panel.tree.find("tab", "Network").box)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Cards, buttons, fields, rings and the window's frame are even at every scale."""
+"""Cards, buttons, fields, rings and the window's frame are symmetric at every scale."""
 
 from itertools import takewhile
 
@@ -13,11 +13,11 @@ from harness.waiting import until
 from harness.window import Box
 
 SCREEN = (2100, 1500)
-# By what curves may differ that are drawn in opposite directions.
+# How much a curve may differ from its mirror image.
 TOLERANCE = 8
 
 
-# The boxes themselves are drawn at every scale in the tests of their own.
+# The boxes have their own tests, at every scale.
 @pytest.fixture(scope="module", params=[
     ("1", "software"), ("1.25", "software"), ("1.75", "opengl"),
 ], ids="-".join)
@@ -31,7 +31,7 @@ def sight(request, display, token, backend):
 
 
 class Sight:
-    """A panel and its pixels. Assistive technology is told of its own units."""
+    """A panel and its pixels. Assistive technology gets unscaled units."""
 
     def __init__(self, panel, scale):
         self.panel = panel
@@ -41,9 +41,9 @@ class Sight:
         return round(length * self.scale)
 
     def assert_even(self, box, corner, margin, colour=None):
-        """What is drawn in the box, or as far beyond it as the margin, has four
-        corners that mirror each other. Nothing else may be there. If a colour is
-        named, it is waited for, and otherwise for all to rest."""
+        """What is drawn in the box and the margin around it has four corners that
+        mirror each other. Nothing else may be there. Waits for the colour if there
+        is one, else until drawing has finished."""
         window = self.panel.window.box
         (origin,) = self.panel.tree.read().every("window")
         place = Box(
@@ -75,7 +75,7 @@ def rows_of(picture, box):
 
 
 def inked(picture, box):
-    """The pixels of what is not ground, row by row."""
+    """The pixels of what is drawn on the background, row by row."""
     rows = rows_of(picture, box)
     ground = rows[0][0]
     down = [y for y, row in enumerate(rows) if set(row) != {ground}]
@@ -101,7 +101,7 @@ def test_settings(sight):
     sight.assert_even(tree.find("group", "Quick Setup").box, corner=11, margin=4)
     sight.assert_even(tree.find(*settings.SAVE).box, corner=11, margin=3)
     sight.assert_even(tree.find(*settings.KEY).box, corner=5, margin=2)
-    # Not at rest: the cursor blinks.
+    # A colour, because drawing never finishes: the cursor blinks.
     field = panel.focus_on(*settings.KEY)
     sight.assert_even(field.box, corner=5, margin=2, colour=colours.BLUE)
     button = panel.press_until_focused(*settings.START, key="shift+Tab")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A press that is held, or drifts, is a click like any other."""
+"""A long press, or one during which the pointer moves, is a click like any other."""
 
 import pytest
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Time stands still, jumps back and leaps ahead; polling keeps its pace."""
+"""The process is stopped, or the clock is set back or ahead; polls keep their interval."""
 
 import os
 import signal
@@ -20,8 +20,8 @@ def starts(backend, since):
     return [r.time for r in backend.seen("status") if r.time > since]
 
 
-def polls_on(backend, count=3):
-    """Waits for that many polls from now on; they come at their usual pace."""
+def keeps_polling(backend, count=3):
+    """Waits for that many polls from now on, which must have their usual interval."""
     since = time.monotonic()
     until(lambda: len(starts(backend, since)) >= count, f"{count} more polls")
     assert pollers(starts(backend, since)[:count]) == 1
@@ -35,10 +35,10 @@ def test_stopped_for_twenty_seconds(launch, backend):
     never(lambda: starts(backend, stopped + 1), "a stopped panel polled", seconds=20)
     os.kill(panel.pid, signal.SIGCONT)
     since = time.monotonic()
-    until(lambda: len(starts(backend, since)) >= 3, "polling to go on")
-    # What was missed is not made up for: the poll that was due, and the next.
+    until(lambda: len(starts(backend, since)) >= 3, "polling to continue")
+    # Missed polls are not repeated: only the poll that was due, and the next.
     assert len([t for t in starts(backend, since) if t < since + 4]) <= 2
-    polls_on(backend)
+    keeps_polling(backend)
 
 
 @pytest.fixture
@@ -63,10 +63,10 @@ def test_clock_set(launch, backend, set_clock, offset, year):
     panel = launch(**set_clock.environment)
     backend.wait_for_poll()
     set_clock(offset)
-    # It does change what a process is told.
-    told = subprocess.run(["date", "+%s"], env=os.environ | set_clock.environment,
+    # The library does change the time that a process gets.
+    date = subprocess.run(["date", "+%s"], env=os.environ | set_clock.environment,
                           capture_output=True, text=True, check=True)
-    assert abs(float(told.stdout) - time.time()) > 80_000 * (365 * year or 1)
+    assert abs(float(date.stdout) - time.time()) > 80_000 * (365 * year or 1)
     assert "libfaketime" in Path(f"/proc/{panel.pid}/maps").read_text()
-    polls_on(backend)
+    keeps_polling(backend)
     panel.tree.wait_for("text", "OK")

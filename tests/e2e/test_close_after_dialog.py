@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A window that has had the file dialog closes like any other, whoever listens."""
+"""A window that had the file dialog closes like any other, also with a screen reader."""
 
 import pytest
 
@@ -36,15 +36,15 @@ def cancel_twice_and_leave_the_tab(panel, path):
 
 
 @pytest.mark.parametrize("use", [cancel, choose, cancel_twice_and_leave_the_tab])
-def test_the_process_goes_on(panel, backend, tmp_path, use):
+def test_the_process_keeps_running(panel, backend, tmp_path, use):
     heard = panel.tree.listen()
     use(panel, tmp_path / "config.toml")
     panel.tree.read()
-    assert heard, "somebody listens"
+    assert heard, "no event was announced"
     panel.close()
     backend.wait_for_poll()
     assert not panel.ended()
-    # And the next window has a dialog that works.
+    # The dialog of the next window works.
     CONFIG.unlink(missing_ok=True)
     panel.launch_again()
     panel.show("Settings")
@@ -52,10 +52,10 @@ def test_the_process_goes_on(panel, backend, tmp_path, use):
     assert CONFIG.exists()
 
 
-def test_closed_by_the_desktop_under_an_open_dialog(panel, backend):
+def test_closed_by_the_desktop_while_the_dialog_is_open(panel, backend):
     heard = panel.tree.listen()
     picker.bring_up(panel)
-    assert heard, "somebody listens"
+    assert heard, "no event was announced"
     hands.key("alt+F4")
     until(lambda: not panel.windows(), "the window to close")
     backend.wait_for_poll()

@@ -55,7 +55,7 @@ def test_version(name, option):
     (["--", "--help"], "unexpected argument '--help'"),
     ([""], "unexpected argument ''"),
 ])
-def test_what_it_does_not_take(name, arguments, reason):
+def test_wrong_arguments(name, arguments, reason):
     done = run(name, *arguments)
     assert (done.returncode, done.stdout) == (2, "")
     assert done.stderr == f"{name}: {reason}\n{run(name, '--help').stdout}"

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Every text and icon can be told from its ground, by the pixels of the screen."""
+"""Every text and icon has enough contrast with its background, in the screen's pixels."""
 
 import pytest
 
@@ -40,7 +40,8 @@ def above(box):
 
 
 def check(panel, beside=(), topped=None):
-    """What there is to see now; `beside` and `topped` are texts with icons."""
+    """Checks what is visible now. `beside` are texts with an icon at their left, `topped`
+    is one with an icon above."""
     hands.park()
     tree = panel.tree.read()
     texts = [i for i in tree.every("text") if i.name]
@@ -63,9 +64,9 @@ def check(panel, beside=(), topped=None):
         seen.append(too_weak())
         return not seen[-1]
 
-    # The first picture may be of before the last change was drawn.
+    # The first picture may be older than the last change.
     try:
-        until(readable, "all to be readable")
+        until(readable, "enough contrast everywhere")
     except AssertionError:
         pytest.fail(f"too weak: {seen[-1]}")
     return len(texts), len(icons)
@@ -112,7 +113,7 @@ def test_messages(launch_large):
     settings.press(panel, settings.SAVE)
     settings.wait_for_message(panel, settings.SAVED)
     check(panel, (*BESIDE["Settings"], settings.SAVED))
-    # A folder in the way of the file.
+    # A folder in place of the file.
     settings.clean_home()
     (settings.CONFIG / "in the way").mkdir(parents=True)
     settings.press(panel, settings.SAVE)
@@ -127,5 +128,5 @@ def test_glyph_under_the_pointer(launch_large, name):
     box = drawn(panel.tree.find("button", name).box)
     hands.tool("xdotool", "mousemove", *map(str, box.centre))
     hover = (0xE9, 0xEB, 0xEF)
-    until(lambda: hover in large.picture().colours(box), "the glyph to light up")
+    until(lambda: hover in large.picture().colours(box), "the glyph to be highlighted")
     assert inked(large.picture().pixels(box)) >= ICON

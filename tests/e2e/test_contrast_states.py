@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What is disabled, focused, pointed at, pressed or marked can be told as well."""
+"""What is disabled, focused, hovered, pressed or selected has enough contrast, too."""
 
 import contextlib
 
@@ -31,7 +31,7 @@ def large_panel(display, token, backend):
 
 @pytest.fixture
 def form(large_panel):
-    """A tab that begins anew."""
+    """A Settings tab that was created again."""
     large_panel.show("Alerts")
     large_panel.show("Settings")
     return large_panel
@@ -44,14 +44,14 @@ def ratio(panel, which):
 def test_disabled(form):
     hands.park()
     box = drawn(form.tree.find(*SAVE).box)
-    # Beside its icon and text is the ground of what is disabled.
+    # Beside its icon and text is the background of a disabled button.
     until(lambda: large.picture().pixel(box.x + 60, box.centre[1]) == colours.GRAY, "it to be gray")
     assert ratio(form, SAVE) >= TEXT
 
 
 @contextlib.contextmanager
 def held(box):
-    """The pointer on it, its button down, then let go elsewhere."""
+    """Keeps the mouse button pressed on the box, and releases it elsewhere."""
     hands.tool("xdotool", "mousemove", *map(str, box.centre), "mousedown", "1")
     try:
         yield
@@ -60,7 +60,7 @@ def held(box):
 
 
 @pytest.mark.parametrize("which", [("tab", "Settings"), ("tab", "Alerts"), START, STOP, BROWSE])
-def test_pointed_at_and_pressed(form, which):
+def test_hovered_and_pressed(form, which):
     box = drawn(form.tree.find(*which).box)
     hands.tool("xdotool", "mousemove", *map(str, box.centre))
     assert ratio(form, which) >= TEXT
@@ -69,7 +69,7 @@ def test_pointed_at_and_pressed(form, which):
 
 
 def inner(field):
-    """Some of a field's text, without its border and the cursor, which are strong."""
+    """Part of a field's text, without its border and the cursor: these have more contrast."""
     box = drawn(field.box)
     return Box(box.x + 36, box.y + 21, 100, box.height - 42)
 
@@ -81,12 +81,12 @@ def test_hint_of_a_focused_field(form):
 
 
 @pytest.mark.parametrize("which", [SERVER, KEY])
-def test_marked_text(form, which):
+def test_selected_text(form, which):
     settings.fill(form, which, "something")
     hands.key("ctrl+a")
-    marked = inner(form.tree.find(*which))
-    pixels = until(lambda: colours.BLUE in large.picture().colours(marked)
-                   and list(large.picture().pixels(marked)), "the text to be marked")
+    selected = inner(form.tree.find(*which))
+    pixels = until(lambda: colours.BLUE in large.picture().colours(selected)
+                   and list(large.picture().pixels(selected)), "the text to be selected")
     assert inked(pixels) >= TEXT
 
 
@@ -97,7 +97,7 @@ def test_scroll_bar(large_panel, backend):
     panel.tree.wait_for("text", "App 0")
     hands.park()
     rows = drawn(panel.tree.wait_for("list", "Installed applications").box)
-    # Where rows have no text: their ground, and the bar's upper part on it.
+    # The upper part of the bar, and the background beside it, without texts.
     strip = Box(rows.right - 33, rows.y + 30, 18, rows.height - 60)
-    until(lambda: inked(large.picture().pixels(strip)) >= CONTROL, "a bar that can be told")
+    until(lambda: inked(large.picture().pixels(strip)) >= CONTROL, "a bar with enough contrast")
     backend.reply(**bodies.everyday())

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The panel's look is its own: a desktop that forces darkness on it changes nothing."""
+"""The panel keeps its own colours on desktops that set dark ones."""
 
 import pytest
 
@@ -47,6 +47,6 @@ def usual(launch, album):
 
 
 @pytest.mark.parametrize("name", desktops.DARK)
-def test_every_tab_is_as_it_always_is(launch, usual, name):
+def test_every_tab_looks_as_usual(launch, usual, name):
     here = pictures(launch, desktops.DARK[name]())
     assert [tab for tab in TABS if here[tab] != usual[tab]] == []

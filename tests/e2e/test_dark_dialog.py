@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The file dialog can be read, however a desktop forces darkness on it."""
+"""The file dialog is readable on desktops that set dark colours."""
 
 import pytest
 
@@ -13,7 +13,7 @@ SHOWN = ("more", "config.toml", "Filter", "Import", "Cancel", picker.TITLE)
 pytestmark = pytest.mark.usefixtures("fresh_home")
 
 
-# One of each kind; that of GTK brings a dialog of its own, in its own colours.
+# One of each kind, without GTK: that has its own dialog, in its own colours.
 @pytest.mark.parametrize("name", ["kde", "qt6ct", "material", "controls-file"])
 def test_every_text(launch_large, tmp_path, name):
     (tmp_path / "more").mkdir()
@@ -27,6 +27,6 @@ def test_every_text(launch_large, tmp_path, name):
                   for item in picker.shown(panel).walk()
                   if item.name in SHOWN and item.role in ("text", "button")}
     assert set(ratios) == set(SHOWN)
-    # Nothing is chosen yet, so Import is disabled, and weaker on purpose.
+    # Nothing is chosen yet, so Import is disabled, and has less contrast on purpose.
     least = {"Import": 3.0}
     assert {name: ratio for name, ratio in ratios.items() if ratio < least.get(name, 4.5)} == {}

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Where the keyboard is can be told, by the pixels on both sides of the ring."""
+"""The focus ring has enough contrast with the pixels on both sides of it."""
 
 import pytest
 
@@ -31,7 +31,7 @@ def lines(box):
 
 
 def ring(before, after, line):
-    """What is on both sides of what has become blue on this line, if anything has."""
+    """The colours beside the pixels that became blue on this line; None if none did."""
     shades = [after.pixel(*at) for at in line]
     new = [i for i, at in enumerate(line)
            if shades[i] == colours.BLUE != before.pixel(*at)]
@@ -50,7 +50,7 @@ def check(before, focus):
     # At the active tab's bottom is its own bar, as blue as the ring.
     wanted = 3 if "selected" in focus.states else 4
     found = until(lambda: len(rings(before, focus)) >= wanted and rings(before, focus),
-                  f"a ring round {focus.name!r}")
+                  f"a ring around {focus.name!r}")
     weak = {side: shades for side, shades in found.items()
             if min(contrast(colours.BLUE, shade) for shade in shades) < WEAKEST}
     assert weak == {}, focus
@@ -62,11 +62,11 @@ def resize(panel, height):
 
 
 @pytest.mark.parametrize("tab", TABS)
-def test_round_every_control(panel, tab):
+def test_ring_around_every_control(panel, tab):
     resize(panel, 1150)
     panel.show(tab)
     if tab == "Settings":
-        # Only with a key can it be saved.
+        # Without a key, Save & Connect cannot have the focus.
         settings.fill(panel, settings.KEY, "k")
     panel.focus_on("button", "Close")
     hands.park()
@@ -84,7 +84,7 @@ def test_round_every_control(panel, tab):
 
 
 @pytest.mark.parametrize("tab", ["Dashboard", "Settings"])
-def test_round_a_page_that_scrolls(panel, tab):
+def test_ring_around_a_page_that_scrolls(panel, tab):
     resize(panel, 700)
     panel.show(tab)
     panel.focus_on("button", "Close")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Garbage is collected at every occasion, which otherwise is a matter of chance."""
+"""The panel works when garbage is collected as often as possible."""
 
 import pytest
 
@@ -22,7 +22,7 @@ def test_tabs_settings_and_windows(launch, backend):
         pass
     panel.close()
     panel.launch_again()
-    # The agent goes and comes back: other rows, icons and colours.
+    # The agent ends and returns: rows, icons and colours change.
     backend.stop()
     panel.tree.wait_for("text", "OFFLINE")
     for tab in TABS:

@@ -24,7 +24,7 @@ EXAMPLES = [
 
 
 def dot(panel, value):
-    """The colour of the dot of 8 by 8 that ends 6 before the value."""
+    """The colour of the dot, 8 by 8 pixels, which is 6 pixels left of the value."""
     text = panel.tree.wait_for("text", value).box
     picture = Picture()
     area = Box(text.x - 15, text.y, 10, text.height)

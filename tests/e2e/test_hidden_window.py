@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A window out of sight is still on screen: coming back, it polls no more than before."""
+"""A window that was hidden polls no more often than before when it is shown again."""
 
 import pytest
 
@@ -30,7 +30,7 @@ def leave_its_desktop(panel):
 
 @pytest.fixture
 def starts(backend):
-    """When polls began since the test did."""
+    """The start times of the polls since the test began."""
     before = len(backend.seen("status"))
     return lambda: [request.time for request in backend.seen("status")[before:]]
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Text that would be more than text, if a view took it for more."""
+"""Text that a view might interpret as markup, links or commands."""
 
 import pytest
 
@@ -42,7 +42,7 @@ def everywhere(text, **parts):
 
 
 def merged(contents):
-    """One backend's worth of rows from several."""
+    """The rows of several contents in one."""
     return {
         "alerts": bodies.alerts(*[c["alerts"]["alerts"][0] for c in contents]),
         "network": bodies.network(*[c["network"]["connections"][0] for c in contents]),
@@ -62,7 +62,7 @@ def expected(text):
     }
 
 
-def test_every_row_shows_it_as_itself(launch, backend):
+def test_every_row_shows_it_unchanged(launch, backend):
     panel = launch(merged([everywhere(text) for text in HOSTILE]))
     panel.window.resize(1000, 1150)
     for tab in ("Network", "Inventory", "Alerts"):
@@ -75,14 +75,14 @@ def test_every_row_shows_it_as_itself(launch, backend):
 
 
 @pytest.mark.parametrize("text", [HOSTILE[1], HOSTILE[3], HOSTILE[5], HOSTILE[6]])
-def test_header_shows_it_as_itself(launch, backend, text):
+def test_header_shows_it_unchanged(launch, backend, text):
     panel = launch(everywhere(text))
     panel.tree.wait_for("text", text)
     panel.tree.wait_for("text", text.upper())
     assert only_polls(backend)
 
 
-def test_parts_of_a_row_show_it_as_itself(launch):
+def test_parts_of_a_row_show_it_unchanged(launch):
     text = HOSTILE[1]
     panel = launch(everywhere(text))
     for tab, parts in (
@@ -103,7 +103,7 @@ def test_a_million_characters_in_every_field(launch, backend):
     for tab, (_, row) in expected(shown).items():
         panel.show(tab)
         panel.tree.wait_for("row", row)
-    # The window is none the wider, and its controls are still at hand.
+    # The window is no wider, and its controls are still inside it.
     window = panel.window.box
     assert (window.width, window.height) == (1000, 700)
     for item in panel.tree.read().every("tab") + panel.tree.read().every("button"):

@@ -68,7 +68,7 @@ def test_rows(launch, backend):
     assert picture.ink(name.box, colours.BLACK) > 0.65
     assert picture.ink(version.box, colours.GRAY) > 0.65
 
-    # The agent goes: blank again, not the last list.
+    # Without the agent the tab is blank again; it does not keep the last list.
     backend.stop()
     until(lambda: content(panel) == [], "a blank tab")
     backend.start()

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Windows come and go; the process stays until it is quit."""
+"""Windows are opened and closed; the process runs until it is quit."""
 
 import subprocess
 
@@ -22,7 +22,7 @@ BUS_NAME = "org.quillmark.Agent"
 
 @pytest.fixture
 def other_window(display):
-    """Something of another program on top of the panel."""
+    """A window of another program, on top of the panel."""
     other = subprocess.Popen(["xmessage", "-center", "-name", "cover", "x" * 40])
     until(lambda: tool("xdotool", "search", "--onlyvisible", "--classname", "cover"), "a cover")
     yield
@@ -57,7 +57,7 @@ def test_closed_window_and_a_new_one(launch, backend):
     panel = launch()
     panel.show("Alerts")
     panel.close()
-    # Polling goes on without a window.
+    # Polling continues without a window.
     backend.wait_for_poll()
     assert not panel.ended()
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A list of 10,000 connections: scrolled by keyboard, and left alone by polls."""
+"""A list of 10,000 connections: scrolled by keyboard, and not moved by polls."""
 
 import pytest
 
@@ -47,7 +47,7 @@ def test_page_down_and_up(panel):
     first = names(panel, LIST)
     assert first[0] == row(0)
     second = [r.name for r in scroll(panel, LIST, "Next")]
-    # A page on, with no row between left out.
+    # One page further, without skipping a row.
     assert second[0] != row(0) and set(first) & set(second) or second[0] == row(len(first))
     scroll(panel, LIST, "Prior")
     assert names(panel, LIST) == first

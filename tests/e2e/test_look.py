@@ -73,7 +73,7 @@ def look(panel, name):
     )
 
 
-def test_active_tab_has_a_bar_and_others_have_no_place_for_one(panel):
+def test_only_the_active_tab_has_a_bar_and_room_for_it(panel):
     panel.show("Dashboard")
     hands.park()
     active, bar = look(panel, "Dashboard")
@@ -87,7 +87,7 @@ def test_active_tab_has_a_bar_and_others_have_no_place_for_one(panel):
     assert look(panel, "Dashboard")[1] == 0
 
 
-def test_icons_stand_left_of_the_tab_titles(panel):
+def test_icons_are_left_of_the_tab_titles(panel):
     for tab in panel.tree.read().every("tab"):
         title = tab.find("text", tab.name).box
         icon = Box(tab.box.x + 10, title.y - 2, title.x - tab.box.x - 12, title.height + 2)

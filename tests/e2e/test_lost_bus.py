@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The session bus dies, or the first panel is stuck, while a second is launched."""
+"""The session bus is killed, or the first panel hangs, while a second is launched."""
 
 import os
 import signal
@@ -15,7 +15,7 @@ from harness.waiting import never, until
 
 pytestmark = pytest.mark.usefixtures("token", "backend")
 
-# What an undisturbed hand-over takes: requests and answers come alone or two at once.
+# How many pieces of data an undisturbed launch takes: one or two messages are a piece.
 FEWEST = 8
 MOST = 15
 
@@ -29,7 +29,7 @@ def bus(tmp_path):
 
 @pytest.fixture
 def start(display, bus):
-    """Panels on that bus; without the accessibility's own traffic there."""
+    """Starts panels on that bus, without the traffic of assistive technology."""
     started = []
 
     def start():
@@ -50,31 +50,31 @@ def test_undisturbed(start, bus):
     first = start().opened()
     bus.count()
     second = start()
-    until(second.ended, "the second to hand over")
+    until(second.ended, "the second to end")
     assert FEWEST <= bus.pieces <= MOST
     second.finish()
     first.finish()
 
 
 @pytest.mark.parametrize("piece", range(0, MOST + 1, 2))
-def test_the_bus_dies(start, bus, piece):
+def test_the_bus_is_killed(start, bus, piece):
     first = start().opened()
     bus.count(dies_at=piece)
     second = start()
-    until(lambda: second.ended() or second.windows(), "the second to hand over or open a window")
-    # A machine too busy for the bus to be asked in time ends up with a window as well.
+    until(lambda: second.ended() or second.windows(), "the second to end or open a window")
+    # On a busy machine the bus may answer too late; then there is a window as well.
     assert piece >= FEWEST or not bus.alive() or not second.ended()
     if not second.ended():
         second.opened()
         until(lambda: is_drawn(second), "a drawn window")
-    # Ends with 0 and has nothing to complain about.
+    # Ends with 0 and without output.
     second.finish()
     never(first.ended, "the first ended", seconds=0.3)
-    until(lambda: is_drawn(first), "the first one's window as it was")
+    until(lambda: is_drawn(first), "the first one's window")
     first.finish()
 
 
-def test_the_first_is_stuck(start):
+def test_the_first_panel_hangs(start):
     first = start().opened()
     os.kill(first.pid, signal.SIGSTOP)
     second = start().opened()

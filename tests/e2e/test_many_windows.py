@@ -31,18 +31,18 @@ def reopen(panel):
 
 def test_twenty_windows_one_after_another(launch, backend):
     panel = launch()
-    # Each window polls once at once: with its end all connections are gone.
+    # A new window polls immediately; after that poll all its connections are closed.
     reopen(panel)
     backend.wait_for_poll()
     before = held(panel.pid)
     for _ in range(WINDOWS):
         reopen(panel)
     assert len(panel.windows()) == 1
-    # No more is held than while a poll of theirs is under way.
+    # No more are open than during one of their polls.
     until(lambda: all(now <= was for now, was in zip(held(panel.pid), before)),
-          f"no more than {before} held", step=0.01)
+          f"no more than {before} open", step=0.01)
     panel.tree.wait_for("text", "OK")
-    # Each window's timer goes on.
+    # Each window's timer continues.
     seen = len(backend.seen("status"))
     never(panel.ended, "the panel ended", seconds=5)
     assert len(backend.seen("status")) - seen >= WINDOWS
@@ -51,7 +51,7 @@ def test_twenty_windows_one_after_another(launch, backend):
 def test_two_launched_at_once(display, backend):
     with contextlib.ExitStack() as stack:
         both = [spawn(stack.enter_context(tempfile.TemporaryFile())) for _ in range(2)]
-        until(lambda: [p for p in both if p.poll() is not None], "one to hand over")
+        until(lambda: [p for p in both if p.poll() is not None], "one to end")
         (other,) = [p for p in both if p.poll() is not None]
         (first,) = [p for p in both if p.poll() is None]
         assert other.returncode == 0

@@ -47,7 +47,7 @@ def test_rows(shown):
     assert {"127.0.0.1:00022 ", "→ :"} <= set(tree.texts())
     assert not any(word in tree.dump() for word in ("sctp", "4321", "high"))
 
-    # How the parts of a row lie and are coloured.
+    # Positions and colours of the parts of a row.
     view, rows = listed(shown, LIST)
     picture = Picture()
     local, remote, state = (
@@ -81,13 +81,13 @@ def test_no_connections(launch):
     assert picture.ink(text, colours.GRAY, colours.TINT) > 0.65
     icon = Box(text.centre[0] - 30, text.y - 20 - 50, 60, 64)
     assert picture.ink(icon, colours.GRAY, colours.TINT) > 0.65
-    # Icon and text together stand in the middle; all else is tinted.
+    # Icon and text together are in the middle; everything else is tinted.
     assert abs((text.bottom + text.y - 60) // 2 - panel_area.centre[1]) <= 8
     for corner in ((panel_area.x, panel_area.y), (panel_area.right - 60, panel_area.bottom - 30)):
         assert picture.colours(Box(*corner, 50, 20)) == {colours.TINT}
 
 
-def test_list_gives_way_to_the_empty_state(shown, backend):
+def test_empty_state_replaces_the_list(shown, backend):
     backend.reply(network=bodies.network())
     shown.tree.wait_for("text", "No network connections detected")
-    until(lambda: not shown.tree.find("list", LIST), "the list to be gone")
+    until(lambda: not shown.tree.find("list", LIST), "the list to disappear")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A crash leaves no copy of the token behind, and debugging stays possible."""
+"""A crash leaves no copy of the token, and the panel can still be debugged."""
 
 import re
 from pathlib import Path
@@ -12,12 +12,12 @@ def core_limits(pid):
 
 
 def test_the_panel_leaves_no_core_dump(launch_alone):
-    # Whoever starts it may well want one of everything else.
+    # The user may have allowed core dumps, for other programs.
     panel = launch_alone("/usr/bin/prlimit", "--core=1048576:unlimited")
     assert core_limits(panel.pid) == ("0", "unlimited")
 
 
-def test_whoever_owns_the_panel_may_still_look_into_it(launch_alone):
+def test_the_panels_user_can_still_debug_it(launch_alone):
     panel = launch_alone()
-    # Else its files in there would belong to root and be closed to its user.
+    # Otherwise its files in /proc would belong to root, and its user could not read them.
     assert Path(f"/proc/{panel.pid}/environ").read_bytes()

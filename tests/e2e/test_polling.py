@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What polls look like on the wire."""
+"""The requests of polls, as the backend receives them."""
 
 from itertools import pairwise
 
@@ -16,7 +16,7 @@ POLLS = 3
 
 @pytest.fixture(scope="module")
 def backend():
-    # Slow enough that requests sent side by side would be seen to overlap.
+    # Slow enough to detect requests that overlap.
     slow = {k: answer(v, delay=0.2) for k, v in bodies.everyday().items()}
     backend = Backend(**slow).start()
     yield backend
@@ -39,13 +39,13 @@ def test_one_after_another(requests):
         assert before.answered <= after.time
 
 
-def test_each_on_a_connection_of_its_own(requests, backend):
+def test_each_on_a_separate_connection(requests, backend):
     assert len({r.connection for r in requests}) == len(requests)
     # No connection is opened that carries no request.
     until(lambda: backend.connections == len(backend.seen()), "all requests read")
 
 
-def test_nothing_but_the_token_is_told(requests, token):
+def test_requests_contain_only_the_token(requests, token):
     for request in requests:
         assert (request.method, request.version) == ("GET", "HTTP/1.1")
         assert request.header("Host") == ["127.0.0.1:7823"]

@@ -40,14 +40,14 @@ def layout(launch, **environment):
 @pytest.mark.parametrize("locale", ["ar_EG.UTF-8", "he_IL.UTF-8", "fa_IR.UTF-8"])
 def test_nothing_is_mirrored(launch, locale):
     usual = layout(launch)
-    # No text begins anywhere but at the left, whatever it is written in.
+    # Every text begins at the left, whatever its script.
     (row,) = [box for role, name, box in usual["Alerts"] if role == "row"]
     begins = {box.x for _, name, box in usual["Alerts"] if name == ARABIC}
     assert len(begins) == 1 and begins.pop() - row.x < 60
     here = layout(launch, LC_ALL=locale, LANGUAGE=locale[:2])
     for tab in TABS:
         assert [item[:2] for item in here[tab]] == [item[:2] for item in usual[tab]]
-        # The locale's own font moves things a little; a mirror, by half a window.
+        # The locale's own font moves things a little; mirroring would move them by half a window.
         assert all(abs(one.x - other.x) < 100
                    for (_, _, one), (_, _, other) in zip(here[tab], usual[tab]))
 

@@ -28,7 +28,7 @@ def panel(request, display, token, backend):
     panel.finish()
 
 
-def test_are_equally_thick(panel):
+def test_lines_are_equally_thick(panel):
     panel.show("Inventory")
     panel.tree.wait_for("list", "Installed applications")
     hands.park()
@@ -41,13 +41,13 @@ def test_are_equally_thick(panel):
     assert len(lines) >= 7 and len(set(lines[1:-1])) == 1, lines
 
 
-def test_leave_no_trace_when_rows_shrink(panel, backend):
+def test_lines_leave_no_trace_when_rows_shrink(panel, backend):
     panel.show("Alerts")
     hands.park()
     panel.tree.wait_for("text", "Alert 0")
     before = Picture.settled()
-    for bodies_sent, told in (LONG, "many words " * 1000), (SHORT, "Alert 0"):
+    for bodies_sent, shown in (LONG, "many words " * 1000), (SHORT, "Alert 0"):
         backend.reply(alerts=bodies_sent)
         backend.wait_for_poll()
-        panel.tree.wait_for("text", told)
+        panel.tree.wait_for("text", shown)
     assert Picture.settled().whole() == before.whole()

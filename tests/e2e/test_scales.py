@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Every tab at every usual scale, for the eye too."""
+"""Every tab at every usual scale, with pictures for a person to check."""
 
 import pytest
 
@@ -26,14 +26,14 @@ def test_pictures(launch, scale):
     bars = []
     for tab in TABS:
         panel.show(tab)
-        # The bar under the active tab tells when the tab has been drawn.
+        # The bar under the active tab shows when the tab has been drawn.
         bars.append(until(lambda: bar(window, bars), f"{tab} to be drawn"))
         assert_uncut(panel.tree.read())
         save(BUILD / "pictures" / f"{tab.lower()}-{scale}.png", window)
     assert bars == sorted(bars)
 
 
-# The resource a desktop sets when texts shall be larger, and Qt's own word for it.
+# The resource that a desktop sets for larger texts, and Qt's own variable for it.
 @pytest.mark.parametrize("environment, resource", [
     ({}, "Xft.dpi:\t192"), ({"QT_FONT_DPI": "192"}, "Xft.dpi:\t96"),
 ], ids=["desktop", "Qt"])
@@ -41,7 +41,7 @@ def test_texts_of_double_size(launch, environment, resource):
     tool("xprop", "-root", "-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER", resource)
     panel = launch(**environment)
     panel.tree.wait_for("text", "OK")
-    # Either enlarges all alike, not the texts alone, so that they still fit.
+    # Both enlarge everything, not only the texts, so these still fit.
     assert panel.window.box[2:] == (2000, 1400)
     for tab in TABS:
         panel.show(tab)
@@ -50,7 +50,7 @@ def test_texts_of_double_size(launch, environment, resource):
 
 
 def bar(window, known):
-    """Where a long line of solid blue begins that was not known yet."""
+    """The start of a long blue line that is not in `known`; None if there is none."""
     picture = Picture()
     for y in range(window.y + window.height // 8, window.y + window.height // 3):
         row = Box(window.x, y, window.width, 1)

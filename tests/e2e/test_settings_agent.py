@@ -35,7 +35,7 @@ def test_start_says_running(panel):
     start(panel)
     running(panel)
     (agent,) = processes.agents()
-    # Detached: not of the panel's own.
+    # Detached: not a child process of the panel.
     assert agent.pid not in [p.pid for p in processes.below(panel.pid)]
     assert "listening on 127.0.0.1:7823" in (LOGS / "backend.log").read_text()
     assert settings.message(panel) == ""
@@ -46,7 +46,7 @@ def test_second_start_still_says_running(panel):
     running(panel)
     (first,) = processes.agents()
     start(panel)
-    # It finds the port taken, says so in the log, and goes again.
+    # It finds the port in use, logs this and ends.
     until(lambda: "already in use" in (LOGS / "backend.log").read_text(), "the second agent")
     never(lambda: status(panel) != RUNNING, "the status changed", seconds=2.5)
     assert [a.pid for a in processes.agents()] == [first.pid]
@@ -56,7 +56,7 @@ def test_without_the_log_folder_nothing_starts(panel):
     LOGS.rmdir()
     panel.expected_output = r".*backend\.log: No such file or directory\n"
     start(panel)
-    until(lambda: "No such file" in panel.output(), "the shell to complain")
+    until(lambda: "No such file" in panel.output(), "the shell's error message")
     never(lambda: processes.agents() or status(panel) != NOT_RUNNING, "something started",
           seconds=2.5)
     assert not LOGS.exists()
@@ -72,7 +72,7 @@ def test_stop_says_not_running(panel):
     assert settings.message(panel) == ""
 
 
-def test_whatever_bears_the_name_counts_and_is_stopped(panel):
+def test_every_process_with_the_name_counts_and_is_stopped(panel):
     other = subprocess.Popen([f"./{processes.AGENT}", "600"], executable="/usr/bin/sleep")
     settings.enter(panel)
     assert status(panel) == RUNNING
@@ -94,11 +94,11 @@ def test_stop_with_nothing_running(panel):
 
 
 @pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGKILL])
-def test_death_outside_shows_when_the_tab_is_entered_again(panel, number):
+def test_agent_ended_outside_shows_when_the_tab_is_entered_again(panel, number):
     start(panel)
     running(panel)
     processes.end_agents(number)
-    never(lambda: status(panel) != RUNNING, "somebody looked", seconds=1.5)
+    never(lambda: status(panel) != RUNNING, "the tab searched again", seconds=1.5)
     settings.enter(panel)
     assert status(panel) == NOT_RUNNING
 
@@ -112,17 +112,17 @@ def test_agent_started_outside_shows_when_the_tab_is_entered_again(panel):
 
 
 @pytest.mark.parametrize("action, agents", [(START, 1), (STOP, 0)])
-def test_tab_left_before_the_look(panel, action, agents):
+def test_tab_left_before_the_search(panel, action, agents):
     settings.press(panel, action)
     panel.show("Alerts")
-    # The look is due meanwhile, for a tab that is gone.
+    # The search is due meanwhile, for a tab that no longer exists.
     never(panel.ended, "the panel ended", seconds=2.5)
     assert len(processes.agents()) == agents
     panel.show("Settings")
     assert status(panel) == (RUNNING if agents else NOT_RUNNING)
 
 
-def test_window_closed_before_the_look(panel):
+def test_window_closed_before_the_search(panel):
     settings.press(panel, START)
     panel.close()
     never(panel.ended, "the panel ended", seconds=2.5)

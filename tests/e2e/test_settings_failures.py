@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the tab tells when the programs it needs cannot be started."""
+"""What the tab shows when the programs it needs cannot be started."""
 
 import shutil
 
@@ -31,10 +31,10 @@ def launch_without(launch_alone):
 
 def test_no_shell(launch_without):
     panel = launch_without("/usr/bin/bash")
-    # For the look at the agent when the tab appears.
+    # From the search for the agent when the tab appears.
     settings.wait_for_message(panel, DENIED)
     assert settings.status(panel) == settings.NOT_RUNNING
-    # A later success is told in its place, and a start that fails in place of that.
+    # A later success replaces the message, and a start that fails replaces that.
     settings.fill(panel, settings.KEY, "k")
     settings.press(panel, settings.SAVE)
     settings.wait_for_message(panel, settings.SAVED)

@@ -88,7 +88,7 @@ def test_emptied_server_field_shows_the_default_as_a_hint(tab):
     assert help_line(tab) == "Get your API key from: /agent/start"
 
 
-def test_empty_server_is_saved_as_it_stands(tab):
+def test_empty_server_is_saved_unchanged(tab):
     settings.fill(tab, SERVER, "")
     settings.fill(tab, KEY, "k")
     settings.press(tab, SAVE)
@@ -96,7 +96,7 @@ def test_empty_server_is_saved_as_it_stands(tab):
     assert 'server_url = ""\n' in settings.CONFIG.read_text()
 
 
-def test_what_is_typed_is_gone_when_the_tab_is_left(tab):
+def test_typed_text_is_lost_when_the_tab_is_left(tab):
     settings.fill(tab, KEY, "never saved")
     settings.fill(tab, SERVER, "https://never.example")
     settings.enter(tab)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Homes and hosts whose names need care."""
+"""Home paths and host names with special characters."""
 
 import re
 from pathlib import Path
@@ -32,7 +32,7 @@ def test_computer_name_is_used_as_it_is(launch_alone, host, identity, machine):
 
 
 def test_space_in_the_home_path(launch_alone, tmp_path):
-    """The path of the log is not quoted: its first word is taken for it."""
+    """The path of the log is not quoted: the shell uses only its first word."""
     home = Path(f"{tmp_path}/of Ann")
     (home / ".quillmark" / "logs").mkdir(parents=True)
     Path(f"{tmp_path}/of").mkdir()
@@ -40,10 +40,10 @@ def test_space_in_the_home_path(launch_alone, tmp_path):
     panel.expected_output = r".*/of: Is a directory\n"
     panel.show("Settings")
     settings.press(panel, settings.START)
-    until(lambda: "Is a directory" in panel.output(), "the shell to complain")
+    until(lambda: "Is a directory" in panel.output(), "the shell's error message")
     never(lambda: processes.agents() or panel.tree.find("text", settings.RUNNING),
           "something started", seconds=2.5)
-    # The rest of the tab is not bothered.
+    # The rest of the tab is not affected.
     settings.fill(panel, settings.KEY, "k")
     settings.press(panel, settings.SAVE)
     written = home / ".config" / "quillmark" / "config.toml"

@@ -40,7 +40,7 @@ def test_cancelled_by_escape_nothing_changes(tab):
     assert settings.message(tab) == "" and not chosen(tab)
     assert settings.field(tab, settings.KEY) == "●" * 5
     assert CONFIG.read_text() == "[agent]\n"
-    # The keyboard is back where it was, and the dialog opens again.
+    # The focus is back where it was, and the dialog opens again.
     until(lambda: tab.focus() and (tab.focus().role, tab.focus().name) == BROWSE, "the focus back")
     with picker.opened(tab):
         pass
@@ -53,7 +53,7 @@ def test_import_of_a_file(tab, folder):
     assert CONFIG.read_bytes() == CONTENT.encode()
     assert stat.S_IMODE(CONFIG.stat().st_mode) == 0o600
     assert chosen(tab) == ["Selected: config.toml"]
-    # The fields are not read again until the tab is.
+    # The fields are not read again until the tab is entered again.
     assert settings.field(tab, settings.KEY) == ""
     assert settings.field(tab, settings.SERVER) == settings.DEFAULT_URL
     settings.enter(tab)

@@ -139,7 +139,7 @@ def test_locations_card(tree, picture):
     near([card.box.bottom - last.bottom], [12 + 8])
 
 
-def test_nothing_more_is_on_the_tab(tree):
+def test_nothing_else_is_on_the_tab(tree):
     page = tree.find("group", "Settings")
     assert sorted(text.name for text in page.every("text")) == sorted([
         *CARDS, settings.NOT_RUNNING, "Start Agent", "Stop Agent",

@@ -17,7 +17,7 @@ CONTENT = "[agent]\n"
 
 @pytest.fixture
 def panel(launch_alone, tmp_path):
-    """It opens where the panel was started."""
+    """The dialog opens in the folder in which the panel was started."""
     (tmp_path / "more").mkdir()
     for name in ("a.txt", "config.toml", "other.cfg"):
         (tmp_path / name).write_text(CONTENT)
@@ -26,7 +26,7 @@ def panel(launch_alone, tmp_path):
     return panel
 
 
-def test_only_what_may_be_a_configuration(panel):
+def test_lists_only_possible_configurations(panel):
     with picker.opened(panel) as dialog:
         assert [n for n in ("more", "a.txt", "config.toml", "other.cfg")
                 if dialog.find("text", n)] == ["more", "a.txt", "config.toml"]
@@ -34,7 +34,7 @@ def test_only_what_may_be_a_configuration(panel):
         save(BUILD / "pictures" / "settings-dialog.png", panel.window.box)
 
 
-def test_all_files_if_asked_for(panel):
+def test_lists_all_files_with_the_other_filter(panel):
     with picker.opened(panel):
         panel.press_until_focused("combo box", "Configuration files (*.toml *.txt)")
         hands.key("Down")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The tab at every usual scale and size, whole and uncut."""
+"""The tab at every usual scale and size, with no text cut off."""
 
 import pytest
 
@@ -36,7 +36,7 @@ def test_pictures(launch, scale, size):
     panel.window.resize(*pixels)
     until(lambda: list(panel.window.box[2:]) == pixels, f"a window of {pixels}")
     panel.show("Settings")
-    # A green and a red thing each, and a long server.
+    # With green and red parts, and a long server URL.
     settings.fill(panel, settings.SERVER, "https://enrolment.emea.security.example:8443")
     settings.fill(panel, settings.KEY, "0123456789abcdef")
     settings.press(panel, settings.SAVE)

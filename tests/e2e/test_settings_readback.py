@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The fields as the configuration on disk fills them."""
+"""The fields show the configuration on disk."""
 
 import pytest
 
@@ -10,8 +10,8 @@ from harness.waiting import until
 
 
 def shows(panel, key, server):
-    """The key's characters cannot be seen, only how many there are; saving
-    tells which."""
+    """The field shows only the number of the key's characters; the saved file shows
+    which they are."""
     settings.enter(panel)
     until(lambda: settings.field(panel, KEY) == "●" * len(key), f"a key of {len(key)}")
     assert settings.field(panel, SERVER) == server
@@ -42,18 +42,18 @@ def test_server(tab, line, server):
     assert tab.tree.find("text", f"Get your API key from: {server}/agent/start")
 
 
-def test_second_place(tab):
+def test_second_path(tab):
     settings.write_config("api_key = 'old'\n", OLD_CONFIG)
     shows(tab, "old", DEFAULT_URL)
 
 
-def test_first_place_wins_even_with_nothing_in_it(tab):
+def test_first_path_wins_even_if_its_file_is_empty(tab):
     settings.write_config("api_key = 'old'\nserver_url = 'https://old.example'\n", OLD_CONFIG)
     settings.write_config("")
     shows(tab, "", DEFAULT_URL)
 
 
-def test_first_place_that_is_no_text_is_passed_over(tab):
+def test_first_path_is_skipped_if_it_is_not_text(tab):
     settings.write_config(b"api_key = '\xff'\n")
     settings.write_config("api_key = 'old'\n", OLD_CONFIG)
     shows(tab, "old", DEFAULT_URL)

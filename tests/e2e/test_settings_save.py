@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What Save & Connect leaves on disk, and what it says of it."""
+"""The file that Save & Connect writes, and its message."""
 
 import os
 import re
@@ -84,7 +84,7 @@ def mode(path):
     # Nothing is trimmed, escaped or checked.
     (' a"b\\c ', "no url at all"),
 ])
-def test_file_is_written_to_the_letter(tab, key, server):
+def test_file_is_written_exactly(tab, key, server):
     text = saved(tab, key, server)
     assert text == TEXT.format(host=HOST, home=HOME, identity=identity(text), server=server,
                                key=key)
@@ -120,7 +120,7 @@ def test_success_is_green(tab):
     assert_row(tab, settings.SAVED, colours.GREEN, colours.SUCCESS_TINT)
 
 
-def test_failure_is_red_and_the_next_success_takes_its_place(tab):
+def test_failure_is_red_and_the_next_success_replaces_it(tab):
     CONFIG.parent.parent.mkdir()
     CONFIG.parent.write_text("in the way")
     save(tab, "k")

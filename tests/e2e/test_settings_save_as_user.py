@@ -14,7 +14,7 @@ pytestmark = pytest.mark.skipif(os.geteuid() == 0, reason="root may write everyw
 
 @pytest.fixture(scope="module")
 def token():
-    """None: the system's place for it is not an ordinary user's to write."""
+    """No token: an ordinary user may not write the system-wide one."""
 
 
 @pytest.fixture(autouse=True)
@@ -31,7 +31,7 @@ def save(panel):
     settings.wait_for_message(panel, "❌ Error: Permission denied")
 
 
-def test_folder_that_cannot_be_made(tab):
+def test_folder_that_cannot_be_created(tab):
     CONFIG.parent.parent.mkdir()
     CONFIG.parent.parent.chmod(0o500)
     save(tab)
@@ -46,7 +46,7 @@ def test_folder_that_cannot_be_written_keeps_its_file(tab):
     assert os.listdir(CONFIG.parent) == ["config.toml"]
 
 
-def test_unreadable_configuration_leaves_the_fields_alone(tab):
+def test_unreadable_configuration_does_not_change_the_fields(tab):
     settings.write_config('[agent]\napi_key = "k"\nserver_url = "https://x.example"\n')
     CONFIG.chmod(0o000)
     settings.enter(tab)

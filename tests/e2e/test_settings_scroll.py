@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The tab where it does not fit the window."""
+"""The tab in a window that is too small for it."""
 
 import pytest
 
@@ -35,7 +35,7 @@ def in_view(panel, which, seen=None):
 
 
 def seen_on_the_way(panel, step, goal):
-    """Steps until the goal is in view; the cards whose titles were seen."""
+    """Calls `step` until the goal is in view; returns the cards whose titles were seen."""
     seen = set()
     for _ in range(30):
         before = page(panel)
@@ -86,7 +86,7 @@ def test_wheel_over_a_field_scrolls_the_page(panel):
     assert settings.field(panel, SERVER) == settings.DEFAULT_URL
 
 
-def test_polls_leave_the_page_where_it_is(panel, backend):
+def test_polls_do_not_move_the_page(panel, backend):
     hands.wheel_down(page(panel).box, 3)
     seen = []
 
@@ -94,6 +94,6 @@ def test_polls_leave_the_page_where_it_is(panel, backend):
         seen.append(page(panel))
         return len(seen) > 1 and seen[-1] == seen[-2] and seen[-1]
 
-    before = until(still, "the page to come to rest", step=0.2)
+    before = until(still, "the page to stop moving", step=0.2)
     backend.wait_for_poll()
     assert page(panel) == before

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""From nothing to a watched machine and back, as a user goes."""
+"""The steps of a user, from no configuration to a running agent and back."""
 
 import pytest
 
@@ -58,7 +58,7 @@ def test_the_whole_way(launch_alone):
     assert processes.agents()
     album.add(panel, "agent-running")
 
-    # The agent's token is read when a window opens: the first was too early.
+    # The token is read when a window opens: the first one opened before it existed.
     panel.finish()
     panel = opened(launch_alone)
     until(lambda: panel.tree.find("text", "OK") or panel.tree.find("text", "WARNING"),
@@ -79,7 +79,7 @@ def test_the_whole_way(launch_alone):
 
     panel.tree.wait_for("text", "OFFLINE")
     panel.show("Dashboard")
-    # What is left is what the panel itself counts: nothing.
+    # Without an agent only the panel's own counts are left.
     until(lambda: cards(panel) == {"Active Network Connections": "0", "Recent Alerts": "0"},
           "an empty dashboard")
     album.add(panel, "offline")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Lists of many short records are shown whole; a body past the limit is no value."""
+"""Lists of many short records are shown completely; a body above the limit is refused."""
 
 import pytest
 
@@ -45,7 +45,7 @@ def test_many_short_records_are_counted_and_shown(panel):
     panel.show("Dashboard")
 
 
-def test_body_past_the_limit_is_no_value_and_the_next_good_one_is(panel, backend):
+def test_body_above_the_limit_is_refused_and_the_next_good_one_shown(panel, backend):
     body = b'{"alerts":[{"alert_type":"a","severity":"b"}]}'
     backend.reply(alerts=Answer(body=body.ljust(LIMIT)))
     wait_for_cards(panel, **{"Recent Alerts": "1"})

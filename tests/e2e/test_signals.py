@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Ended from outside, as by a session that closes or by Ctrl+C in a terminal."""
+"""Ended by a signal, as when the session closes, or by Ctrl+C in a terminal."""
 
 import signal
 
@@ -30,7 +30,7 @@ def test_ends_at_once_and_leaves_nothing(display, number, tmp_path):
     assert is_taken()
     panel.process.send_signal(number)
     until(panel.ended, "the panel to end")
-    # As the shell tells it: 128 plus the signal's number.
+    # A shell reports this as 128 plus the signal's number.
     assert panel.process.returncode == -number
     assert panel.output() == ""
     assert not list(tmp_path.iterdir()), "no core, no other file"

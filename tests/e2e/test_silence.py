@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A backend that takes requests and does not answer them."""
+"""A backend that accepts requests and does not answer them."""
 
 import threading
 
@@ -13,7 +13,7 @@ from harness.waiting import until
 
 
 class Held:
-    """Answers the nth status request with threat count n, once let go."""
+    """Answers the nth status request with threat count 100 + n, when its gate is set."""
 
     def __init__(self):
         self.gates = []
@@ -39,14 +39,14 @@ def backend(held):
 def test_polls_pile_up(panel, backend):
     until(lambda: len(backend.seen()) == 3, "three polls")
     requests = backend.seen()
-    # None got beyond its first request, and none waits for an earlier poll.
+    # No poll got beyond its first request, and none waits for an earlier one.
     assert [r.endpoint for r in requests] == ["status"] * 3
     assert [r.overlapping for r in requests] == [0, 1, 2]
     assert len({r.connection for r in requests}) == 3
     assert pollers([r.time for r in requests]) == 1
 
 
-def test_window_lives_meanwhile(panel, backend):
+def test_window_still_works(panel, backend):
     assert panel.tree.find("text", "OFFLINE")
     hands.click(panel.tree.find("tab", "Alerts").box)
     panel.selected("Alerts")

@@ -19,10 +19,10 @@ def display():
     display.stop()
 
 
-def test_begins_on_the_screen_at_its_least_size(panel):
+def test_starts_on_the_screen_at_its_minimum_size(panel):
     box = panel.window.settled()
     assert box[2:] == (1000, 700)
-    # What is read first is there to read.
+    # What a user reads first is on the screen.
     assert SCREEN.holds(panel.tree.find("text", "Quillmark Agent").box)
     assert SCREEN.holds(panel.tree.find("tab", "Settings").box)
 

@@ -30,7 +30,7 @@ def filled(panel):
 
 
 def shows_only(panel, tab):
-    """The tab is the one selected, and of all signs only its own is there."""
+    """Only this tab is selected, and only its sign is shown."""
     def as_it_should():
         tree = panel.tree.read()
         selected = [t.name for t in tree.every("tab") if "selected" in t.states]
@@ -69,7 +69,7 @@ def test_shift_tab_goes_back(panel):
 @pytest.mark.parametrize("tab, press", [
     ("Inventory", "space"), ("Alerts", "Return"), ("Network", "space"),
 ])
-def test_focused_tab_is_chosen_by(panel, tab, press):
+def test_key_chooses_the_focused_tab(panel, tab, press):
     panel.focus_on("tab", tab)
     hands.key(press)
     shows_only(panel, tab)
@@ -84,7 +84,7 @@ def test_arrows_move_between_tabs(panel):
 @pytest.mark.parametrize("press, tab", [
     ("Right", "Inventory"), ("Left", "Dashboard"), ("End", "Settings"), ("Home", "Dashboard"),
 ])
-def test_keys_in_the_tab_bar_choose(panel, press, tab):
+def test_keys_in_the_tab_bar_choose_a_tab(panel, press, tab):
     panel.show("Network")
     panel.focus_on("tab", "Network")
     hands.key(press)
@@ -118,21 +118,21 @@ def test_other_keys_do_nothing(panel, backend, press):
     assert panel.window.box[2:] == (1000, 1000)
 
 
-def test_click_gives_a_list_the_keyboard(panel, backend):
+def test_click_gives_a_list_the_focus(panel, backend):
     backend.reply(network=bodies.network(*[bodies.connection(str(n)) for n in range(200)]))
     backend.wait_for_poll()
     panel.show("Network")
     panel.focus_on("tab", "Network")
     found = panel.tree.wait_for("list", "Network connections")
     hands.click(found.box)
-    until(lambda: panel.focus() and panel.focus().role == "list", "the list to have the keyboard")
+    until(lambda: panel.focus() and panel.focus().role == "list", "the list to have the focus")
     hands.park()
     edge = Box(found.box.x + 40, found.box.bottom - 3, 400, 3)
     assert colours.BLUE not in Picture().colours(edge), "no ring after a click"
     first = listed(panel, "Network connections")[1][0].name
     hands.key("Next")
     until(lambda: listed(panel, "Network connections")[1][0].name != first, "Page Down to scroll")
-    # Walked back to, it has one.
+    # Reached by Tab, it has one.
     hands.key("shift+Tab")
     panel.press_until_focused("list", "Network connections")
     until(lambda: colours.BLUE in Picture().colours(edge), "the ring")
@@ -153,7 +153,7 @@ def test_focus_is_visible(panel):
     until(lambda: list(Picture().pixels(around)) != focused, "the focus to be drawn")
 
 
-def test_tab_comes_back_with_the_latest_data_without_asking(panel, backend):
+def test_tab_shows_the_latest_data_without_a_request(panel, backend):
     panel.show("Settings")
     backend.reply(network=bodies.network(bodies.connection("9999")))
     backend.wait_for_poll()

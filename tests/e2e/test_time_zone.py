@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The machine's time zone changes under a running panel, as for who travels."""
+"""The machine's time zone changes while the panel runs, as when the user travels."""
 
 import os
 from pathlib import Path
@@ -16,7 +16,7 @@ ZONES = Path("/usr/share/zoneinfo")
 
 
 def set_zone(file):
-    """As the system's own tool does it: a link, replaced at one stroke."""
+    """As the system's own tool does it: replaces the link atomically."""
     link = LOCAL_TIME.with_name("localtime.new")
     link.symlink_to(file)
     link.replace(LOCAL_TIME)
@@ -56,7 +56,7 @@ def test_dates_follow_with_the_next_poll(opened, backend):
 
 
 @pytest.mark.parametrize("content", [None, b"TZif2" + b"\xff" * 100], ids=["missing", "broken"])
-def test_a_zone_that_cannot_be_read_is_universal_time(opened, backend, tmp_path, content):
+def test_a_zone_that_cannot_be_read_means_utc(opened, backend, tmp_path, content):
     panel = opened(None)
     panel.tree.wait_for("text", "1/15/24, 5:30 AM")
     file = tmp_path / "zone"
@@ -66,7 +66,7 @@ def test_a_zone_that_cannot_be_read_is_universal_time(opened, backend, tmp_path,
     polls_and_shows(panel, backend, "1/15/24, 10:30 AM")
 
 
-def test_a_zone_of_ones_own_stays(opened, backend):
+def test_the_zone_in_tz_stays(opened, backend):
     panel = opened("Europe/Berlin")
     panel.tree.wait_for("text", "1/15/24, 11:30 AM")
     set_zone(ZONES / "Asia/Kolkata")

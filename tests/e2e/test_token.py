@@ -40,7 +40,7 @@ def test_token(launch, backend, example):
     assert sent(launch, backend) == [expected]
 
 
-def test_what_is_no_file_does_not_block_the_start(launch, backend):
+def test_fifo_does_not_block_the_start(launch, backend):
     tokens.make_fifo(tokens.SYSTEM)
     tokens.write(tokens.HOME, "home")
     assert sent(launch, backend) == ["home"]
@@ -66,6 +66,6 @@ def test_nothing_is_ever_sent(launch, backend, content):
     before = backend.connections
     panel = launch()
     panel.tree.wait_for("text", "OFFLINE")
-    # A token that comes later is too late.
+    # A token that is written later is not read.
     tokens.write(tokens.SYSTEM, "late")
     never(lambda: backend.connections > before, "the panel connected", seconds=6)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The panel under a Wayland compositor, worked by assistive actions: nothing
-else can reach into one from outside."""
+"""The panel under a Wayland compositor, controlled by assistive actions: the
+compositor lets no other program send input."""
 
 import os
 import subprocess

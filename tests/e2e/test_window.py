@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The window: its bounds, its ground, and what stands in for a title bar."""
+"""The window: its size limits, its background, and its controls instead of a title bar."""
 
 import pytest
 
@@ -24,7 +24,7 @@ def button(panel, name):
 
 
 def header(panel):
-    """A place in the header that holds nothing."""
+    """An empty place in the header."""
     window = panel.window.box
     return window.x + window.width // 2, window.y + 60
 
@@ -42,7 +42,7 @@ def test_identifier_is_the_role(usual_size):
     assert usual_size.property("WM_WINDOW_ROLE") == '"main"'
 
 
-def test_ground_at_launch(panel, usual_size):
+def test_background_at_launch(panel, usual_size):
     panel.show("Dashboard")
     usual_size.resize(1000, 1000)
     until(lambda: usual_size.box.height == 1000, "a taller window")
@@ -50,7 +50,7 @@ def test_ground_at_launch(panel, usual_size):
     window = usual_size.box
     below_the_cards = Box(window.x + 4, window.bottom - 40, window.width - 8, 30)
     until(lambda: Picture().colours(below_the_cards) == {colours.LAUNCH_GROUND},
-          "the light blue-grey ground")
+          "the light blue-grey background")
 
 
 @pytest.mark.parametrize("width, height", [(600, 700), (1000, 400), (10, 10)])

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The panel as assistive technology reads it.
 
-A tree is read whole into plain values, so that a test never asks a control
-that a poll has replaced meanwhile.
+A whole tree is read into plain values, so that a test never asks a control that
+a poll has replaced meanwhile.
 """
 
 from dataclasses import dataclass, field
@@ -41,7 +41,7 @@ class Item:
     box: Box
     states: frozenset
     children: tuple
-    # Where to ask it for more; another time it may be another object.
+    # Its D-Bus address, which another object may get later.
     address: tuple = field(default=None, compare=False, repr=False)
 
     def walk(self):
@@ -68,18 +68,18 @@ def _states(low):
     return frozenset(word for bit, word in STATES.items() if low >> bit & 1)
 
 
-def _item(told):
-    """Children that are hidden are not there for anybody."""
-    children = (_item(child) for child in told["children"])
+def _item(node):
+    """Leaves out hidden children, as assistive technology does."""
+    children = (_item(child) for child in node["children"])
     shown = tuple(child for child in children if "showing" in child.states)
-    role = ROLES.get(told["role"], f"role {told['role']}")
-    return Item(role, told["name"], Box(*told["box"]), _states(told["states"]), shown,
-                tuple(told["address"]))
+    role = ROLES.get(node["role"], f"role {node['role']}")
+    return Item(role, node["name"], Box(*node["box"]), _states(node["states"]), shown,
+                tuple(node["address"]))
 
 
 class Tree:
-    """The windows of one process; only what is showing. `ended` tells whether
-    the process has, to wait for nothing then."""
+    """The visible items of one process. `ended` returns whether the process has
+    ended; then there is nothing to wait for."""
 
     def __init__(self, pid, ended):
         self._pid = pid
@@ -91,8 +91,8 @@ class Tree:
         return _item(self._ask(self._bus.tree))
 
     def focus(self):
-        """What has the focus, innermost last, without what lies below it."""
-        return [_item(told) for told in self._ask(self._bus.focus)]
+        """The focused items, innermost last, without their children."""
+        return [_item(node) for node in self._ask(self._bus.focus)]
 
     def _ask(self, question):
         def attempt():
@@ -100,12 +100,12 @@ class Tree:
             try:
                 self._root = self._root or self._bus.application(self._pid)
             except GLib.Error:
-                return None  # Some program went away half-way; look again.
-            told = self._root and question(self._root)
-            return None if told is None else (told,)
+                return None  # Some program ended meanwhile; try again.
+            answer = self._root and question(self._root)
+            return None if answer is None else (answer,)
 
-        (told,) = until(attempt, "the panel in the accessibility tree")
-        return told
+        (answer,) = until(attempt, "the panel in the accessibility tree")
+        return answer
 
     def find(self, role, name):
         return self.read().find(role, name)
@@ -114,14 +114,14 @@ class Tree:
         return until(lambda: self.find(role, name), f"{role} {name!r}")
 
     def wait_without(self, role, name):
-        until(lambda: not self.find(role, name), f"{role} {name!r} to be gone")
+        until(lambda: not self.find(role, name), f"{role} {name!r} to disappear")
 
     def text(self, item):
-        """What a field holds, or what a screen reader is told instead."""
+        """The text of a field, as a screen reader gets it."""
         return self._bus.text(item.address)
 
     def press(self, item):
-        """As assistive technology does, whatever the state of the item."""
+        """Presses as assistive technology does, even a disabled item."""
         self._bus.press(item.address)
 
     def act(self, item, action):
@@ -131,9 +131,9 @@ class Tree:
         return self._bus.description(item.address)
 
     def words(self):
-        """Everything that anything showing says of itself, in any property."""
+        """All text properties of all visible items."""
         return [self._bus.words(item.address) for item in self.read().walk()]
 
     def listen(self):
-        """What is announced from now on, as it comes."""
+        """A list that grows with every event from now on."""
         return self._bus.listen()

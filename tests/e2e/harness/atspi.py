@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The accessibility bus, asked directly.
+"""Direct calls on the accessibility bus.
 
-The usual binding asks one thing at a time and keeps caches that go stale
-between polls. Whole trees are read by a program of their own, beside the tests.
+The usual Python binding makes one call at a time, and its caches become outdated
+between polls. Whole trees are read by a separate program.
 """
 
 import json
@@ -48,7 +48,7 @@ class Bus:
                                         stdout=subprocess.PIPE, text=True, bufsize=1)
 
     def application(self, pid):
-        """The address of a process's root, or nothing."""
+        """The address of a process's root, or None."""
         registry = ("org.a11y.atspi.Registry", ROOT)
         (known,) = self._ask([(registry, (ACCESSIBLE, "GetChildren", None))])[0]
         daemon = ("org.freedesktop.DBus", "/org/freedesktop/DBus")
@@ -59,17 +59,17 @@ class Bus:
         return next((app for app, (owner,) in zip(known, owners) if owner == pid), None)
 
     def tree(self, node):
-        """The node with all that shows below it; nothing if it changed meanwhile."""
-        told = self._read("tree", node)
-        return told and told[0]
+        """The node and everything visible below it; None if it changed meanwhile."""
+        trees = self._read("tree", node)
+        return trees and trees[0]
 
     def focus(self, node):
-        """What has the focus below the node, innermost last; nothing if the tree
-        changed meanwhile."""
+        """The focused items below the node, innermost last; None if the tree changed
+        meanwhile."""
         return self._read("focus", node)
 
     def _read(self, what, node):
-        """What is announced until then has been heard."""
+        """Also handles the events that have arrived until then."""
         self._reader.stdin.write(" ".join((what, *node)) + "\n")
         line = self._reader.stdout.readline()
         assert line, "the reader of accessible trees has ended"
@@ -84,7 +84,7 @@ class Bus:
         self._ask([(node, (ACTION, "DoAction", GLib.Variant("(i)", (0,))))])
 
     def act(self, node, action):
-        """Does what the node offers under this name."""
+        """Calls the node's action of this name."""
         ((offered,),) = self._ask([(node, (ACTION, "GetActions", None))])
         names = [name for name, _, _ in offered]
         assert action in names, f"{action} is not among {names}"
@@ -96,7 +96,7 @@ class Bus:
         return self._ask([(node, (PROPERTIES, "Get", asked))])[0][0]
 
     def words(self, node):
-        """Every text that a node has for whoever asks."""
+        """All text properties of a node."""
         asked = [
             (PROPERTIES, "Get", GLib.Variant("(ss)", (ACCESSIBLE, name)))
             for name in ("Name", "Description")
@@ -110,7 +110,7 @@ class Bus:
         return repr(self._ask([(node, question) for question in asked]))
 
     def listen(self):
-        """A list that grows with every event any program announces."""
+        """A list that grows with every event of any program."""
         heard = []
         registry = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
         self._ask([(registry, (registry[0], "RegisterEvent", GLib.Variant("(s)", ("object:",))))])

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A real HTTP server at the agent's place, which does what a test tells it."""
+"""A real HTTP server on the agent's port, with answers that a test sets."""
 
 import socket
 import threading
@@ -15,8 +15,8 @@ ENDPOINTS = ("status", "alerts", "network", "inventory")
 
 
 def pollers(starts):
-    """How many poll side by side, by when their polls began. A busy machine makes
-    single polls late, which moves the mean of several by little."""
+    """How many pollers are active, from the start times of polls. Uses the mean of
+    several intervals, because a busy machine delays single polls."""
     return round((len(starts) - 1) * 5 / (starts[-1] - starts[0]))
 
 
@@ -31,7 +31,7 @@ class Backend:
         self.reply(**(bodies.everyday() | contents))
 
     def reply(self, **contents):
-        """Sets answers by endpoint. A callable gets the request and chooses."""
+        """Sets answers by endpoint. A callable gets the request and returns the answer."""
         made = {k: v if callable(v) else answer(v) for k, v in contents.items()}
         with self._lock:
             self._answers.update(made)
@@ -63,9 +63,9 @@ class Backend:
         )
 
     def _answered_since(self, start):
-        begun = [r.time for r in self.seen("status") if r.time > start]
-        return begun and any(
-            r.answered for r in self.seen("inventory") if r.time > begun[0]
+        started = [r.time for r in self.seen("status") if r.time > start]
+        return started and any(
+            r.answered for r in self.seen("inventory") if r.time > started[0]
         )
 
     def _accept(self, listener):
@@ -84,11 +84,11 @@ class Backend:
             try:
                 request = self._read(connection, number)
                 if request and self._hold(chosen := self._choose(request)):
-                    # Noted first: the panel may go on before sendall returns.
+                    # Set first: the panel may continue before sendall returns.
                     request.answered = time.monotonic()
                     connection.sendall(chosen.wire())
             except OSError:
-                pass  # The panel may go at any time.
+                pass  # The panel may end at any time.
 
     def _read(self, connection, number):
         head = b""

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A session bus of a test's own, which can die in the midst of what is said."""
+"""A private session bus, which can be killed in the middle of an exchange."""
 
 import contextlib
 import socket
@@ -10,7 +10,7 @@ from pathlib import Path
 
 
 class Bus:
-    """The real daemon, reached through a socket where what passes is counted."""
+    """The real daemon, behind a socket that counts the pieces of data it passes on."""
 
     def __init__(self, folder):
         self._daemon = subprocess.Popen(
@@ -32,12 +32,12 @@ class Bus:
 
     @property
     def pieces(self):
-        """How many there were, of both sides, since the last `count`."""
+        """How many pieces both sides have sent since the last `count`."""
         with self._lock:
             return self._pieces
 
     def count(self, dies_at=None):
-        """Counts anew; instead of the piece of that number, the daemon dies."""
+        """Counts from 0 again. Kills the daemon instead of passing on the piece `dies_at`."""
         with self._lock:
             self._pieces = 0
             self._dies_at = dies_at
@@ -66,7 +66,7 @@ class Bus:
                     threading.Thread(target=self._pass_on, args=ends, daemon=True).start()
 
     def _pass_on(self, source, goal):
-        with contextlib.suppress(OSError):  # gone at either end
+        with contextlib.suppress(OSError):  # one end is closed
             while piece := source.recv(65536):
                 if not self._may_pass():
                     break

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""How well something is told from its ground, computed from pixels."""
+"""The contrast of what is drawn with its background, computed from pixels."""
 
 from collections import Counter
 
@@ -12,16 +12,16 @@ def luminance(colour):
 
 
 def contrast(one, other):
-    """The ratio of accessibility guidelines, 1 to 21."""
+    """The contrast ratio of the accessibility guidelines, 1 to 21."""
     dark, light = sorted((luminance(one), luminance(other)))
     return (light + 0.05) / (dark + 0.05)
 
 
 def inked(pixels):
-    """The contrast of what is drawn on the commonest colour, that ground.
+    """The contrast of what is drawn with the background, the most frequent colour.
 
-    Of the drawn colour the fullest counts, since edges are softened; a single
-    pixel may be anything, so some twenty must be of it.
+    The strongest colour counts, because edges are antialiased. At least 20 pixels
+    must have it, because single pixels may have any colour.
     """
     counted = Counter(pixels)
     ground = counted.most_common(1)[0][0]

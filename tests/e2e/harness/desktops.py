@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The ways in which desktops and users tell every program to be dark."""
+"""The ways in which desktops and users set dark colours for every program."""
 
 from .settings import HOME
 
@@ -29,7 +29,7 @@ def _kde():
 
 
 def _qt6ct():
-    # In the order of Qt's roles: white is every text, and dark every ground.
+    # In the order of Qt's colour roles: white for texts, dark for backgrounds.
     ink, ground, raised, chosen = "#fffcfcfc", "#ff1b1e20", "#ff31363b", "#ff3daee9"
     roles = [ink, raised, raised, raised, ground, raised, ink, ink, ink, ground, raised, ground,
              chosen, ink, chosen, chosen, raised, ink, raised, ink, ink]
@@ -39,7 +39,7 @@ def _qt6ct():
                            ("active", "inactive", "disabled"))])
     _write(".config/qt6ct/qt6ct.conf", [
         "[Appearance]", f"color_scheme_path={scheme}", "custom_palette=true", "style=Fusion",
-        # The font that is used without it: only colours are of interest.
+        # The default font, so that only the colours differ.
         "[Fonts]", 'general="Sans Serif,9,-1,5,400,0,0,0,0,0,0,0,0,0,0,1"'])
     return {"QT_QPA_PLATFORMTHEME": "qt6ct"}
 

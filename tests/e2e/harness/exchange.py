@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What a backend answers, and what it saw."""
+"""The answers of a backend, and the requests it received."""
 
 import json
 import threading
@@ -13,7 +13,7 @@ class Answer:
     code: str = "200 OK"
     headers: tuple = ("Content-Type: application/json",)
     delay: float = 0.0
-    # The answer is held back until the gate is set; one never set is silence.
+    # The answer is sent when the gate is set. A gate that is never set means no answer.
     gate: threading.Event | None = None
     # Sent as it is, instead of everything above.
     raw: bytes | None = None
@@ -31,7 +31,7 @@ class Answer:
 
 
 def answer(content, **details):
-    """An Answer from an Answer, bytes, or anything that JSON can say."""
+    """An Answer from an Answer, bytes, or any value that JSON can represent."""
     if isinstance(content, Answer):
         return content
     if not isinstance(content, bytes):

@@ -1,24 +1,24 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Keys and pointer, through the X server's own test extension."""
+"""Key presses and pointer actions, through the X server's test extension."""
 
 import time
 
 from .window import tool
 
-# Most looks that a test takes at once would be too early and have to be repeated.
+# Seconds. A check without this pause would mostly be too early.
 REACTION = 0.02
 
 
 def key(*names, times=1):
-    """Waits between repeated keys, as held keys do."""
+    """Repeats with pauses, as a key that is held down."""
     repeat = ["--repeat", str(times), "--repeat-delay", "4"] if times > 1 else []
     tool("xdotool", "key", *repeat, *names)
     time.sleep(REACTION)
 
 
 def write(text):
-    """Slowly enough for a window that is asked about every key."""
+    """Types slowly enough for the window to handle every key."""
     tool("xdotool", "type", "--delay", "8", text)
 
 
@@ -30,14 +30,14 @@ def click(box, times=1):
 
 
 def hold(box, seconds, by=(0, 0)):
-    """Presses in the middle, stays, moves by so much and lets go."""
+    """Presses in the middle of the box, waits, moves by `by` and releases."""
     x, y = box.centre
     tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "sleep", str(seconds),
          "mousemove", str(x + by[0]), str(y + by[1]), "mouseup", "1")
 
 
 def drag(start, by, steps=8):
-    """In steps: a drag is told from a click by its movement."""
+    """Moves in steps, because the movement distinguishes a drag from a click."""
     moves = []
     for step in range(1, steps + 1):
         x, y = (s + d * step // steps for s, d in zip(start, by))
@@ -57,5 +57,5 @@ def wheel_up(box, notches):
 
 
 def park():
-    """Away from everything that lights up under the pointer."""
+    """Moves the pointer away from everything that it would highlight."""
     tool("xdotool", "mousemove", "0", "0")

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A panel so large that strokes are as wide as several pixels, and show their colour."""
+"""A panel so large that strokes are several pixels wide and show their full colour."""
 
 from .screen import Picture
 from .waiting import until
@@ -12,7 +12,7 @@ SIZE = (1000, 1150)
 
 
 def drawn(box):
-    """Where it is on the screen; assistive technology is told unscaled numbers."""
+    """The box in screen pixels: assistive technology gets unscaled numbers."""
     return Box(*(SCALE * length for length in box))
 
 
@@ -21,7 +21,7 @@ def picture():
 
 
 def resize(window, width, height):
-    """To the top left corner, in unscaled numbers."""
+    """Takes unscaled numbers, and moves the window to the top left corner."""
     window.move(0, 0)
     window.resize(width * SCALE, height * SCALE)
     wanted = Box(0, 0, width * SCALE, height * SCALE)

@@ -1,11 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Whether all that is shown has its place."""
+"""Checks that texts are not cut off and do not overlap."""
 
 from itertools import combinations
 
 HOLDERS = ("tab", "button", "row", "group")
-# These scroll: what is in them may go on below.
+# These scroll: their contents may be larger than they are.
 SCROLLING = ("Dashboard", "Settings")
 
 
@@ -25,7 +25,7 @@ def _overlap(one, other):
 
 
 def assert_uncut(tree):
-    """Each text lies in what holds it, none on another, and none beside the window."""
+    """Each text is inside its container and the window's width, and overlaps no other."""
     _assert_held(tree, None)
     (window,) = tree.every("window")
     texts = [text for text in tree.every("text") if text.name]

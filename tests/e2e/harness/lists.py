@@ -7,7 +7,7 @@ from .waiting import until
 
 
 def listed(panel, name):
-    """The list with those of its rows that lie in its view."""
+    """The list and its visible rows, top to bottom."""
     found = panel.tree.find("list", name)
     assert found, f"no list {name!r}"
     rows = [r for r in found.every("row") if r.box.bottom > found.box.y
@@ -35,7 +35,7 @@ def settled(panel, name):
         seen.append(listed(panel, name)[1])
         return len(seen) > 1 and seen[-1] == seen[-2] and seen[-1]
 
-    return until(still, f"{name} to come to rest", step=0.1)
+    return until(still, f"{name} to stop moving", step=0.1)
 
 
 def read_through(panel, name):

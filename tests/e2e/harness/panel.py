@@ -20,11 +20,11 @@ EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(
 
 
 def spawn(output, *prefix, **changes):
-    """Starts the executable, behind the prefix if there is one; an environment
-    value of None takes it away."""
+    """Starts the executable, with the prefix before it. The value None removes an
+    environment variable."""
     environment = os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | changes
     environment = {k: v for k, v in environment.items() if v is not None}
-    # The tests look at a real window, whatever the unit tests were told.
+    # These tests need a real window, even if the unit tests run without one.
     environment.pop("QT_QPA_PLATFORM", None)
     return subprocess.Popen(
         [*prefix, EXECUTABLE], env=environment, stdin=subprocess.DEVNULL,
@@ -37,9 +37,9 @@ class Panel:
 
     def __init__(self, *prefix, **changes):
         self._output = tempfile.TemporaryFile()
-        # What a shell that the panel starts has to say, as a pattern.
+        # A pattern for the output of the shells that the panel starts.
         self.expected_output = ""
-        # Assistive technology is told of boxes in units that this magnifies.
+        # Assistive technology gets boxes in unscaled units.
         self.scale = float(changes.get("QT_SCALE_FACTOR", "1"))
         hands.park()
         self.process = spawn(self._output, *prefix, **changes)
@@ -48,10 +48,10 @@ class Panel:
         Panel.running.append(self)
 
     def opened(self):
-        """Waits until the window is up and has the keyboard."""
+        """Waits until the window is open and active."""
         until(lambda: self.windows() or self.ended(), "the panel's window")
         assert not self.ended(), f"ended at start: {self.output()}"
-        # A look fails while windows come and go with which Qt tries OpenGL.
+        # All windows, because Qt opens and closes some to try OpenGL.
         until(lambda: any(w.active() for w in self.windows()), "the panel's window to be active")
         return self
 
@@ -83,7 +83,7 @@ class Panel:
         return until(chosen, f"the tab {tab} to be active")
 
     def focus_on(self, role, name):
-        """Gives it the keyboard as assistive technology does: at once."""
+        """Sets the focus directly, as assistive technology does."""
         return self.focus_item(self.tree.wait_for(role, name))
 
     def focus_item(self, item):
@@ -93,13 +93,13 @@ class Panel:
                      f"the focus on {item.name!r}")
 
     def press_until_focused(self, role, name, key="Tab", most=40):
-        """Walks the focus on as a keyboard user does."""
+        """Moves the focus by key presses, as a keyboard user does."""
         focus = self.focus()
         for _ in range(most):
             if self._has_focus(focus, role, name):
                 break
             hands.key(key)
-            (focus,) = until(lambda: self._moved_from(focus), "the focus to move on")
+            (focus,) = until(lambda: self._moved_from(focus), "the focus to move")
         assert self._has_focus(focus, role, name), f"{key} does not reach {role} {name!r}"
         return focus
 
@@ -112,7 +112,7 @@ class Panel:
         return focus != last and (focus,)
 
     def focus(self):
-        """What has the keyboard, below the window itself; innermost."""
+        """The innermost focused item; None if that is the window itself."""
         focused = self.tree.focus()
         return focused[-1] if focused and focused[-1].role != "window" else None
 
@@ -121,7 +121,7 @@ class Panel:
         until(lambda: not self.windows(), "the window to close")
 
     def launch_again(self):
-        """Another launch hands over to this one and is done, without a word."""
+        """Another launch brings this panel forward and ends without output."""
         with tempfile.TemporaryFile() as output:
             assert spawn(output).wait(timeout=PATIENCE) == 0
             output.seek(0)
@@ -130,7 +130,7 @@ class Panel:
         until(self.window.active, "the window to be active")
 
     def finish(self):
-        """Quits as a user does; a panel that crashed or spoke fails the test."""
+        """Quits as a user does. Fails if the panel crashed or printed something."""
         try:
             if not self.ended():
                 if self.windows():
@@ -148,7 +148,7 @@ class Panel:
             self.dismiss()
             said = self.output()
             if not re.fullmatch(self.expected_output, said):
-                assert said == self.expected_output, "the panel has nothing to complain about"
+                assert said == self.expected_output, "the panel's output"
 
     def dismiss(self):
         if not self.ended():

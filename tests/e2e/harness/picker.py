@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The open dialog, used by keyboard once it is open."""
+"""The file dialog, used by keyboard."""
 
 import contextlib
 
@@ -21,13 +21,13 @@ def bring_up(panel, key=None):
     else:
         settings.press(panel, settings.BROWSE)
     until(lambda: shown(panel), "the dialog")
-    until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the keyboard")
+    until(lambda: panel.focus() and panel.focus().role == "row", "the dialog to have the focus")
     return shown(panel)
 
 
 @contextlib.contextmanager
 def opened(panel, key=None):
-    """Open for a while, then cancelled."""
+    """The dialog is open inside the `with` block, and cancelled after it."""
     try:
         yield bring_up(panel, key)
     finally:
@@ -36,7 +36,7 @@ def opened(panel, key=None):
 
 
 def choose(panel, path):
-    """By typing where it is."""
+    """Types the path of the file."""
     bring_up(panel)
     hands.key("ctrl+l")
     until(lambda: panel.focus().role == "field", "the path to be editable")
@@ -52,7 +52,7 @@ def chosen_row(panel):
 
 
 def pick(panel, path):
-    """By walking down the list of its folder, where the dialog opens."""
+    """Selects the file with the Down key. The dialog must open in its folder."""
     bring_up(panel)
     for _ in range(10):
         row = chosen_row(panel)

@@ -7,7 +7,7 @@ import ctypes
 
 
 class _Image(ctypes.Structure):
-    """The beginning of Xlib's own."""
+    """The first fields of Xlib's XImage."""
     _fields_ = [
         *((name, ctypes.c_int) for name in ("width", "height", "xoffset", "format")),
         ("data", ctypes.c_void_p),
@@ -36,7 +36,7 @@ _Z_PIXMAP = 2
 _DEPTH = 24
 _FOR_OWNER = 0o1600  # IPC_CREAT, readable and writable
 _REMOVE = 0  # IPC_RMID
-BYTES = 4  # blue, green, red, and one that means nothing
+BYTES = 4  # blue, green, red, and an unused one
 
 
 class _Display:
@@ -59,7 +59,7 @@ class _Display:
         assert self._image.contents.bytes_per_line == BYTES * self.width
         _shared.XShmAttach(self._connection, ctypes.byref(self._segment))
         _x.XSync(self._connection, False)
-        # Gone with the last that uses it, however that ends.
+        # Frees the segment when its last user ends, even by a crash.
         _c.shmctl(self._segment.identifier, _REMOVE, None)
 
     def pixels(self):
@@ -68,7 +68,7 @@ class _Display:
         return ctypes.string_at(self._segment.address, self._length)
 
     def close(self):
-        """Before the display itself ends: Xlib would end this process with it."""
+        """Call before the display ends, because Xlib then ends this process."""
         _x.XCloseDisplay(self._connection)
         _c.shmdt(ctypes.c_void_p(self._segment.address))
 
@@ -84,7 +84,7 @@ def grab():
 
 
 def close():
-    """To be called before a display ends."""
+    """Call before the display ends."""
     global _open
     if _open:
         _open.close()

@@ -29,8 +29,7 @@ class Process:
 
 
 def _text(path):
-    """Empty where there is none to read: one that ended and waits to be
-    collected is still a process."""
+    """Empty if it cannot be read, such as that of a zombie."""
     try:
         return path.read_bytes().replace(b"\0", b" ").decode(errors="replace")
     except OSError:
@@ -57,7 +56,7 @@ def agents():
 
 
 def named():
-    """Whatever bears the agent's name anywhere on its command line."""
+    """Every process with the agent's name anywhere on its command line."""
     return [p for p in every() if AGENT in p.command]
 
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Pictures of the screen and what their pixels say."""
+"""Pictures of the screen, and what can be measured in them."""
 
 import os
 import re
@@ -25,17 +25,17 @@ class Picture:
 
     @classmethod
     def settled(cls):
-        """Once three are alike: nothing is being drawn any more."""
+        """Taken when three in a row are equal: drawing has finished."""
         taken = []
 
         def still():
             taken.append(cls())
             return len(taken) > 2 and len({p.whole() for p in taken[-3:]}) == 1 and taken[-1]
 
-        return until(still, "the screen to come to rest", step=0.15)
+        return until(still, "the screen to stop changing", step=0.15)
 
     def save(self, path, box=None):
-        """As PNG: the whole screen, or what lies in the box."""
+        """As PNG: the whole screen, or the box."""
         box = box or Box(0, 0, self._width, len(self._data) // pixels.BYTES // self._width)
         lines = bytearray()
         for y in range(box.y, box.bottom):
@@ -55,7 +55,7 @@ class Picture:
                                + chunk(b"IDAT", zlib.compress(lines, 1)) + chunk(b"IEND", b""))
 
     def whole(self):
-        """For comparing with another."""
+        """The pixels in a form that can only be compared."""
         return self._data
 
     def pixel(self, x, y):
@@ -69,7 +69,8 @@ class Picture:
             yield from zip(line[2::pixels.BYTES], line[1::pixels.BYTES], line[::pixels.BYTES])
 
     def find(self, colour, row, length):
-        """Where in a box of one row a run of so many pixels of the colour begins."""
+        """The offset of the first `length` pixels of the colour side by side in the row, a
+        box one pixel high; None if there are none."""
         start = pixels.BYTES * (row.y * self._width + row.x)
         line = self._data[start:start + pixels.BYTES * row.width]
         pixel = re.escape(bytes(reversed(colour))) + b"."
@@ -83,10 +84,10 @@ class Picture:
         return set(self.pixels(box))
 
     def ink(self, box, colour, ground=None):
-        """How fully a colour is laid on the ground inside the box, 0 to 1.
+        """The largest share of the colour in a pixel of the box, 0 to 1.
 
-        Smooth edges mix the two, so every pixel must lie on the line between
-        them; a pixel that lies elsewhere is of another colour and fails.
+        Antialiased edges mix it with the background. A pixel that is no mixture of
+        these two has another colour and fails.
         """
         ground = ground or self.pixel(box.x, box.y)
         span = [c - g for c, g in zip(colour, ground)]

@@ -33,13 +33,13 @@ NOT_RUNNING = "Agent is not running"
 
 
 def status(panel):
-    """Whether the tab says that the agent runs."""
+    """The tab's text about whether the agent runs."""
     (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
     return found
 
 
 def clean_home():
-    """As before the first run."""
+    """Removes all files, as before the first run."""
     for folder in (CONFIG.parent.parent, OLD_CONFIG.parent):
         shutil.rmtree(folder, ignore_errors=True)
 
@@ -50,14 +50,14 @@ def write_config(text, path=CONFIG):
 
 
 def enter(panel):
-    """Leaves the tab and comes back, so that it begins anew."""
+    """Leaves the tab and returns, so that it is created again."""
     panel.show("Alerts")
     panel.show("Settings")
     panel.tree.wait_for("group", "Quick Setup")
 
 
 def _in_view(panel, which):
-    """Where it can be clicked, if it can without scrolling."""
+    """Its box, if it can be clicked without scrolling."""
     if panel.scale != 1:
         return None
     page = panel.tree.find("group", "Settings")
@@ -66,7 +66,7 @@ def _in_view(panel, which):
 
 
 def focus_on(panel, which):
-    """At once, or by Tab if it is scrolled out of view: then it is not in the tree."""
+    """Directly, or by Tab if it is scrolled out of view: then it is not in the tree."""
     if found := panel.tree.find(*which):
         panel.focus_item(found)
     else:
@@ -75,7 +75,7 @@ def focus_on(panel, which):
 
 
 def press(panel, button):
-    """By pointer where the button is in view, else by keyboard."""
+    """By pointer if the button is in view, else by keyboard."""
     if box := _in_view(panel, button):
         hands.click(box)
     else:
@@ -88,7 +88,7 @@ def field(panel, which):
 
 
 def fill(panel, which, text):
-    """Replaces what a field holds."""
+    """Replaces the text of a field."""
     # Not by pointer: the second click of a double click does not move the focus.
     focus_on(panel, which)
     hands.key("ctrl+a", "BackSpace")
@@ -118,14 +118,14 @@ def ground(panel, button):
 
 
 def assert_save_is(panel, enabled):
-    """By its colour: Qt tells assistive technology of no item's being disabled."""
+    """By its colour: Qt does not report the disabled state to assistive technology."""
     colour = colours.BLUE if enabled else colours.GRAY
     until(lambda: ground(panel, SAVE) == colour,
           f"Save & Connect {'enabled' if enabled else 'disabled'}")
 
 
 def hint_colour(panel, which):
-    """The darkest that stands in an empty field, once its focus is elsewhere."""
+    """The darkest colour in an empty field without the focus."""
     panel.focus_on("tab", "Settings")
     panel.tree.wait_for(*which)
     hands.park()
@@ -135,7 +135,7 @@ def hint_colour(panel, which):
 
 
 def bring_into_view(panel, role, name):
-    """Scrolls by keyboard until the item lies wholly in the page."""
+    """Scrolls by keyboard until the whole item is visible."""
     page = panel.tree.find("group", "Settings")
 
     def inside():

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The token files, at their real places (the sandbox keeps them private)."""
+"""The token files, at their real paths (the sandbox keeps them private)."""
 
 import os
 import shutil
@@ -11,7 +11,7 @@ HOME = Path(os.environ["HOME"]) / ".quillmark" / "token"
 
 
 def write(path, content, mode=0o600):
-    """Content as bytes or text; None leaves no file."""
+    """`content` is bytes, text, or None for no file."""
     remove(path)
     if content is None:
         return

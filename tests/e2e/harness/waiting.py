@@ -7,7 +7,7 @@ import time
 from patience import PATIENCE
 
 
-SELDOM = 0.5  # seconds between two looks at what takes long
+SELDOM = 0.5  # the longest interval between two checks, in seconds
 
 
 def until(condition, what, step=0.03):
@@ -16,7 +16,7 @@ def until(condition, what, step=0.03):
     while not (value := condition()):
         if time.monotonic() > end:
             raise AssertionError(f"waited {PATIENCE} s in vain for {what}")
-        # Ever less often: looking costs what is awaited, too.
+        # Check less and less often, because checks slow the program down.
         time.sleep(step)
         step = max(step, min(1.5 * step, SELDOM))
     return value

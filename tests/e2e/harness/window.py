@@ -54,7 +54,7 @@ class Window:
 
     @property
     def box(self):
-        """Where the drawn area is on the screen."""
+        """The drawn area, in screen coordinates."""
         shown = tool("xwininfo", "-id", str(self.identifier))
         names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
         return Box(*(int(re.search(rf"{n}: +(-?\d+)", shown)[1]) for n in names))
@@ -75,14 +75,14 @@ class Window:
         tool("xdotool", "windowmove", str(self.identifier), str(x), str(y))
 
     def settled(self):
-        """Waits until the window manager has done with moving and sizing it."""
+        """Waits until the window manager has moved and resized it."""
         seen = []
 
         def still():
             seen.append(self.box)
             return len(seen) > 2 and seen[-1] == seen[-2] == seen[-3] and seen[-1]
 
-        return until(still, "the window to come to rest", step=0.15)
+        return until(still, "the window to stop moving", step=0.15)
 
     def minimise(self):
         tool("xdotool", "windowminimize", str(self.identifier))

@@ -5,9 +5,9 @@
 //
 // For each line "tree BUS_NAME OBJECT_PATH" of the input: the tree below that
 // object as assistive technology sees it, as one line of JSON. For each line
-// "focus BUS_NAME OBJECT_PATH": what has the focus in that tree, innermost last,
-// without what lies below it. An empty line if part of the tree went away
-// meanwhile. Children of hidden objects are not read, and texts have no children.
+// "focus BUS_NAME OBJECT_PATH": the focused objects in that tree, innermost last,
+// without their children. An empty line if part of the tree was removed meanwhile.
+// Children of hidden objects are not read, and texts have no children.
 // Each D-Bus call needs three processes, so roles, which never change, are read once
 // per object. In C++, because reading trees in Python took most of a test's time.
 
@@ -31,7 +31,7 @@
 
 namespace {
 
-// As the accessibility protocol numbers states and roles.
+// The accessibility protocol's numbers of states and roles.
 constexpr quint32 focused = 1U << 12U;
 constexpr quint32 showing = 1U << 25U;
 
@@ -67,7 +67,7 @@ quint32 statesIn(const QDBusPendingCall& answered) {
   return states.value(0);
 }
 
-/// None below something hidden.
+/// None for a hidden object.
 std::vector<Node> childrenIn(const QDBusPendingCall& answered, quint32 states) {
   std::vector<Node> nodes;
   if ((states & showing) == 0) {
@@ -88,7 +88,7 @@ std::vector<Node> childrenIn(const QDBusPendingCall& answered, quint32 states) {
   return nodes;
 }
 
-/// The roles of those seen so far; an object keeps its own for life.
+/// The roles of the objects seen so far. The role of an object never changes.
 class Roles final {
  public:
   [[nodiscard]] std::optional<int> find(const Node& node) const {
@@ -107,7 +107,7 @@ class Roles final {
   QHash<QString, int> roles_;
 };
 
-/// What is asked about a node of a tree, all of it before the first answer is there.
+/// The requests about one node, all of them sent before the first answer is read.
 class WholeNode final {
  public:
   WholeNode(const QDBusConnection& bus, const Node& node, const Roles& roles)
@@ -124,8 +124,8 @@ class WholeNode final {
     }
   }
 
-  /// False if the node is gone.
-  [[nodiscard]] bool answer(Roles& roles, QJsonObject& told, std::vector<Node>& below) {
+  /// False if the node was removed.
+  [[nodiscard]] bool answer(Roles& roles, QJsonObject& json, std::vector<Node>& below) {
     if (!isAnswered(name_) || !isAnswered(states_) || !isAnswered(box_) ||
         (role_ && !isAnswered(*role_)) || (children_ && !isAnswered(*children_))) {
       return false;
@@ -136,7 +136,7 @@ class WholeNode final {
     const auto states = statesIn(states_);
     QRect box;
     first(box_).value<QDBusArgument>() >> box;
-    told = {{"role", *roles.find(node_)},
+    json = {{"role", *roles.find(node_)},
             {"name", first(name_).value<QDBusVariant>().variant().toString()},
             {"states", static_cast<qint64>(states)},
             {"box", QJsonArray{box.x(), box.y(), box.width(), box.height()}},
@@ -162,7 +162,7 @@ class Reader final {
   explicit Reader(const QString& address)
       : bus_(QDBusConnection::connectToBus(address, "accessible")) {}
 
-  /// The nodes with all that is below them, in their order. False if one is gone.
+  /// The nodes with everything below them, in order. False if one was removed.
   [[nodiscard]] bool readTrees(const std::vector<Node>& nodes, QJsonArray& trees) {
     std::vector<WholeNode> asked;
     asked.reserve(nodes.size());
@@ -170,20 +170,20 @@ class Reader final {
       asked.emplace_back(bus_, node, roles_);
     }
     for (auto& node : asked) {
-      QJsonObject told;
+      QJsonObject json;
       std::vector<Node> below;
       QJsonArray children;
-      if (!node.answer(roles_, told, below) || !readTrees(below, children)) {
+      if (!node.answer(roles_, json, below) || !readTrees(below, children)) {
         return false;
       }
-      told.insert("children", children);
-      trees.append(told);
+      json.insert("children", children);
+      trees.append(json);
     }
     return true;
   }
 
-  /// Those of the nodes, and of what is below them, that have the focus. False if
-  /// one is gone.
+  /// The focused ones among the nodes and everything below them. False if one was
+  /// removed.
   [[nodiscard]] bool findFocus(std::vector<Node> nodes, QJsonArray& found) {
     nodes.erase(std::remove_if(nodes.begin(), nodes.end(),
                                [this](const auto& node) { return roles_.isText(node); }),
@@ -201,12 +201,12 @@ class Reader final {
       }
       const auto states = statesIn(state);
       if ((states & focused) != 0) {
-        QJsonObject told;
+        QJsonObject json;
         std::vector<Node> below;
-        if (!WholeNode(bus_, nodes[i], roles_).answer(roles_, told, below)) {
+        if (!WholeNode(bus_, nodes[i], roles_).answer(roles_, json, below)) {
           return false;
         }
-        found.append(told);
+        found.append(json);
       }
       if (!findFocus(childrenIn(children, states), found)) {
         return false;
@@ -230,9 +230,9 @@ int main(int argc, char* argv[]) {
   std::string path;
   while (std::cin >> wanted >> name >> path) {
     const std::vector<Node> root{{QString::fromStdString(name), QString::fromStdString(path)}};
-    QJsonArray told;
-    if (wanted == "focus" ? reader.findFocus(root, told) : reader.readTrees(root, told)) {
-      std::cout << QJsonDocument(told).toJson(QJsonDocument::Compact).toStdString();
+    QJsonArray json;
+    if (wanted == "focus" ? reader.findFocus(root, json) : reader.readTrees(root, json)) {
+      std::cout << QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString();
     }
     std::cout << std::endl;
   }
