@@ -39,8 +39,7 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
   }
   if (!place.text) {
     finding.facts["state"] = "unreadable";
-    finding.text +=
-        "cannot be read (" + place.text.error().message() + "), the panel passes it over";
+    finding.text += "cannot be read (" + place.text.error().message() + "), the panel ignores it";
     finding.mark = Mark::wrong;
     finding.step = "Make " + path + " a file that the panel's user can read, or remove it.";
   } else if (isShadowed) {
@@ -55,7 +54,7 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
   if (const auto mode = modeOf(place.path)) {
     finding.facts["mode"] = modeText(*mode);
     if (othersMayRead(*mode)) {
-      finding.say(Mark::wrong, "mode " + modeText(*mode) + " lets every user read it, key and all",
+      finding.say(Mark::wrong, "mode " + modeText(*mode) + " lets every user read it, with the key",
                   "Close " + path + " to others (mode 0600).");
     }
   }

@@ -30,7 +30,7 @@ void sayReadBack(Finding& finding, const std::optional<std::string>& written,
               counted(written->size(), "byte") + ", but the Settings tab reads back " +
                   std::to_string(readBack ? readBack->size() : 0) +
                   (isCut ? R"(: it cuts a value at its first "=")" : ": it reads line by line"),
-              "Type it anew before Save & Connect, which would write what the tab shows.");
+              "Type it again before Save & Connect, which would write what the tab shows.");
 }
 
 }  // namespace
@@ -43,11 +43,11 @@ Finding judgeToml(const ConfigToml& toml, const std::string& path) {
     finding.facts["line"] = toml.error->line;
     finding.facts["column"] = toml.error->column;
     finding.say(Mark::wrong,
-                "no TOML: line " + line + ", column " + std::to_string(toml.error->column),
-                "Mend line " + line + " of " + path + ": the agent may refuse to start with it.");
+                "not valid TOML: line " + line + ", column " + std::to_string(toml.error->column),
+                "Fix line " + line + " of " + path + ": the agent may refuse to start with it.");
   } else if (!toml.hasAgent) {
     finding.say(Mark::wrong, "no section [agent]",
-                "Add the section [agent] to " + path + ", or write it anew with Save & Connect.");
+                "Add the section [agent] to " + path + ", or write it again with Save & Connect.");
   } else {
     finding.say(Mark::ok, "TOML, with a section [agent]");
   }
@@ -58,7 +58,7 @@ Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries) {
   Finding finding;
   finding.check = "config-key";
   if (toml.apiKey && isPlaceholderKey(*toml.apiKey)) {
-    finding.say(Mark::wrong, "a placeholder, no key", enrol);
+    finding.say(Mark::wrong, "a placeholder, not a key", enrol);
   } else if (toml.apiKey ? toml.apiKey->empty() : !entries.apiKey) {
     finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrol);
   } else {

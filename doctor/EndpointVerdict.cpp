@@ -31,7 +31,7 @@ FailureText textOf(HttpFailure failure) {
     case HttpFailure::brokenOff:
       return {"broken off", "the connection ended before the answer did"};
     case HttpFailure::malformed:
-      return {"malformed", "what answers speaks no HTTP"};
+      return {"malformed", "the answer is not HTTP"};
     case HttpFailure::tooLarge:
       break;
   }
@@ -74,7 +74,7 @@ class EndpointJudge final {
       const bool isDown = query.result->error() == HttpFailure::notConnected;
       fail(fact, words,
            isDown ? startAgentStep
-                  : stepUnlessStranger(port_, "Mend or replace the agent: see its log."));
+                  : stepUnlessStranger(port_, "Fix or replace the agent: see its log."));
     } else {
       judgeAnswer(**query.result, query.took);
     }
@@ -87,7 +87,7 @@ class EndpointJudge final {
     verdict_.finding.text += words;
     verdict_.finding.mark = Mark::wrong;
     verdict_.finding.step = step;
-    verdict_.reason = std::string(endpoint_.path) + " brings nothing to show (" + words + ')';
+    verdict_.reason = std::string(endpoint_.path) + " gives nothing to show (" + words + ')';
   }
 
   void judgeAnswer(const HttpAnswer& answer, std::chrono::milliseconds took) {
@@ -106,8 +106,7 @@ class EndpointJudge final {
     verdict_.finding.mark = contents.mark;
     verdict_.finding.text += contents.summary;
     if (answer.status != httpOk) {
-      verdict_.finding.say(Mark::note,
-                           "shown all the same, the panel does not look at the HTTP status");
+      verdict_.finding.say(Mark::note, "shown anyway, the panel does not look at the HTTP status");
     }
   }
 
@@ -120,7 +119,7 @@ class EndpointJudge final {
     const auto kind = nameOf(error.kind);
     fail(kind, fault + " (" + std::string(kind) + ')', stepAfter(httpStatus, fault));
     if (httpStatus != httpOk) {
-      verdict_.reason = std::string(endpoint_.path) + " brings nothing to show (HTTP " +
+      verdict_.reason = std::string(endpoint_.path) + " gives nothing to show (HTTP " +
                         std::to_string(httpStatus) + ')';
     }
   }
@@ -129,11 +128,11 @@ class EndpointJudge final {
     if (httpStatus == httpUnauthorized || httpStatus == httpForbidden) {
       return stepUnlessStranger(
           port_,
-          "The agent refuses this token: run the agent as this user, or let its token "
-          "lie where the panel looks; then start the panel again.");
+          "The agent refuses this token: run the agent as this user, or put its token "
+          "where the panel looks; then start the panel again.");
     }
     return stepUnlessStranger(
-        port_, "Mend the agent's answer to " + std::string(endpoint_.path) + ": " + fault + ".");
+        port_, "Fix the agent's answer to " + std::string(endpoint_.path) + ": " + fault + ".");
   }
 
   const Endpoint& endpoint_;

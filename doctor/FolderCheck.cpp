@@ -39,7 +39,7 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
                     "\", which breaks Start Agent: the path of the log is not quoted",
                 startByService);
   } else if (!home.starts_with('/') && !home.empty()) {
-    finding.say(Mark::wrong, "is no absolute path", "Set HOME to an absolute path.");
+    finding.say(Mark::wrong, "is not an absolute path", "Set HOME to an absolute path.");
   } else {
     finding.say(Mark::ok, "fit for Start Agent");
   }
@@ -58,7 +58,7 @@ void judgeLogs(Findings& findings, const std::string& home, const TextSanitizer&
     finding.say(Mark::wrong, "not there, and without it Start Agent starts nothing",
                 "Make the folder " + sanitize(folder) + ".");
   } else if (!S_ISDIR(*mode)) {
-    finding.say(Mark::wrong, "no folder, so Start Agent starts nothing",
+    finding.say(Mark::wrong, "not a folder, so Start Agent starts nothing",
                 "Put a folder in place of " + sanitize(folder) + ".");
   } else if (!mayAccess(folder, W_OK | X_OK)) {
     finding.say(Mark::wrong, "not writable, so Start Agent starts nothing",

@@ -69,7 +69,7 @@ class ProcessJudge final {
     } else if (kind == Kind::ended) {
       finding.say(falseMatchMark(), who + " has ended and still counts as an agent: " + command,
                   "End the program that started process " + std::to_string(process.pid) +
-                      " and takes no notice of its end.");
+                      " and does not wait for it.");
     } else {
       finding.say(falseMatchMark(),
                   who + " is no agent, but counts as one and Stop Agent would end it: " + command,

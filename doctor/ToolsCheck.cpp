@@ -53,7 +53,7 @@ void checkTools(Findings& findings) {
   } else {
     finding.say(Mark::wrong,
                 names + " not there, so the Settings tab cannot start, stop or find an agent",
-                "Install what brings " + names + ".");
+                "Install the package that has " + names + ".");
   }
   findings.push_back(std::move(finding));
 }

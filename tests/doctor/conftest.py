@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What every file of the doctor's tests stands on."""
+"""Fixtures for all tests of the doctor."""
 
 import os
 import shutil
@@ -9,7 +9,7 @@ from pathlib import Path
 
 import pytest
 
-# A real HTTP server at the agent's place, token files, waiting: as for the panel.
+# Uses the harness of the panel's tests: HTTP server, token files, waiting.
 sys.path.insert(0, str(Path(__file__).parent.parent / "e2e"))
 pytest.register_assert_rewrite("scene")
 
@@ -19,13 +19,13 @@ import scene  # noqa: E402
 
 
 def pytest_configure():
-    # Outside, the tests would write real token paths and take the real port.
+    # Outside, the tests would write the real token files and use the real port.
     assert os.environ.get("QUILLMARK_SANDBOX"), "run these in tests/support/sandbox"
 
 
 @pytest.fixture(autouse=True)
 def machine():
-    """Token, configuration and log folder as they should be."""
+    """A valid token, configuration and log folder."""
     scene.tidy()
     yield
     for folder in (scene.HOME, scene.SYSTEM_TOKEN.parent):
@@ -35,7 +35,7 @@ def machine():
 
 @pytest.fixture
 def backend():
-    """Answers as an everyday agent does until a test says otherwise."""
+    """Gives good answers until a test sets others."""
     backend = Backend().start()
     yield backend
     backend.stop()

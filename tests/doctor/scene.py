@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A machine on which all is well but for an agent, and a look at it by the doctor."""
+"""A machine without faults except that no agent runs, and runs of the doctor on it."""
 
 import contextlib
 import json
@@ -57,7 +57,7 @@ def tidy():
 
 @dataclass
 class Look:
-    """What the doctor said; times are left out, for they differ."""
+    """The doctor's output, without times, because they differ."""
 
     text: str
     code: int
@@ -85,7 +85,7 @@ def line(mark, check, text):
 
 
 def run(*arguments, program=DOCTOR, **environment):
-    """The finished process. Whatever it says, it tells no secret."""
+    """The finished process. Its output must never contain a secret."""
     done = subprocess.run([program, *arguments], capture_output=True, text=True, timeout=PATIENCE,
                           env=os.environ | environment, check=False)
     for secret in SECRETS:
@@ -94,7 +94,7 @@ def run(*arguments, program=DOCTOR, **environment):
 
 
 def look(program=DOCTOR, **environment):
-    """The doctor's words; as JSON it must say the same, by the same exit code."""
+    """The doctor's text. Its JSON must say the same, with the same exit code."""
     done = run(program=program, **environment)
     assert done.stderr == ""
     look = Look(re.sub(r"\d+ ms", "N ms", done.stdout), done.returncode)
@@ -111,13 +111,13 @@ def assert_json_agrees(look, done):
     assert (said["next_step"] or "none.") == look.step
     assert said["online"] == look.conclusion.startswith("ONLINE")
     for check in said["checks"]:
-        # Whatever is wrong comes with what to do, but the token's summary.
+        # Everything wrong has a next step, except the token's summary.
         assert check["next_step"] or check["mark"] != "wrong" or check["check"] == "token"
 
 
 @contextlib.contextmanager
 def process(*command, **details):
-    """Runs beside the test, until it ends."""
+    """Runs until the end of the `with` block."""
     child = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                              stderr=subprocess.DEVNULL, **details)
     try:
@@ -131,15 +131,15 @@ def process(*command, **details):
 def agent():
     """The real sample agent, up and answering."""
     with process(f"./{AGENT}", cwd=PROGRAMS) as child:
-        # While it makes its first scan it listens and holds its answers back.
+        # During its first scan it listens, but does not answer yet.
         until(lambda: run().returncode == 0, "the agent to answer")
         yield child
 
 
 @contextlib.contextmanager
 def agent_that(folder, answers):
-    """A program with the agent's name that sends these bytes to whoever asks for
-    anything, and keeps the connection where there are none."""
+    """A program with the agent's name that answers every request with these bytes. If
+    there are none, it only keeps the connection open."""
     program = Path(folder) / AGENT
     shutil.copy(os.path.realpath("/usr/bin/python3"), program)
     script = write(Path(folder) / "answers.py", ANSWERS)
@@ -175,7 +175,7 @@ def _target(link):
 
 
 def bundle_at(folder):
-    """A copy of the doctor and an agent in a bundle of another path."""
+    """A copy of the doctor and an agent in a bundle at another path."""
     programs = Path(folder) / "Contents/MacOS"
     programs.mkdir(parents=True)
     shutil.copy(DOCTOR, programs)

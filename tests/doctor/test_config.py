@@ -23,7 +23,7 @@ def test_no_configuration():
     assert (found.step, found.code) == (ENROL, 0)
 
 
-def test_old_place_alone():
+def test_old_path_only():
     CONFIG.rename(OLD_CONFIG)
     found = look()
     assert found.of("config-old") == [line("ok", "config-old", f"{OLD_CONFIG}: read")]
@@ -31,7 +31,7 @@ def test_old_place_alone():
     assert found.code == 0
 
 
-def test_both_places():
+def test_both_paths():
     write(OLD_CONFIG, scene.config(key="other"))
     found = look()
     assert found.of("config-old") == [
@@ -43,16 +43,16 @@ def test_others_may_read_the_key():
     CONFIG.chmod(0o604)
     found = look()
     assert found.of("config") == [
-        line("wrong", "config", f"{CONFIG}: read; mode 0604 lets every user read it, key and all")]
+        line("wrong", "config", f"{CONFIG}: read; mode 0604 lets every user read it, with the key")]
     assert (found.step, found.code) == (f"Close {CONFIG} to others (mode 0600).", 1)
 
 
-def test_no_text_is_passed_over():
+def test_file_that_is_not_text_is_ignored():
     write(CONFIG, b"\xff" + scene.config().encode())
     found = look()
     assert found.of("config") == [
         line("wrong", "config", f"{CONFIG}: cannot be read (The file is not UTF-8 text), "
-                                "the panel passes it over")]
+                                "the panel ignores it")]
     assert found.step == f"Make {CONFIG} a file that the panel's user can read, or remove it."
 
 
@@ -60,46 +60,46 @@ def test_too_large():
     write(CONFIG, scene.config() + "#" * (64 << 20))
     assert look().of("config") == [
         line("wrong", "config", f"{CONFIG}: cannot be read (The file is too large), "
-                                "the panel passes it over")]
+                                "the panel ignores it")]
 
 
-def test_no_toml():
+def test_not_valid_toml():
     write(CONFIG, scene.config() + "batch_size = = 100\n")
     found = look()
     assert found.of("config-toml") == [
-        line("wrong", "config-toml", "no TOML: line 4, column 14")]
+        line("wrong", "config-toml", "not valid TOML: line 4, column 14")]
     assert found.of("config-key") == [
         line("ok", "config-key", "20 bytes, as the Settings tab reads it")]
-    assert found.step == f"Mend line 4 of {CONFIG}: the agent may refuse to start with it."
+    assert found.step == f"Fix line 4 of {CONFIG}: the agent may refuse to start with it."
     assert found.code == 1
 
 
-def test_key_with_a_quote_is_no_toml_and_not_told():
+def test_key_with_a_quote_is_not_valid_toml_and_not_shown():
     write(CONFIG, scene.config(key=f'{KEY}" {KEY}'))
     found = look()
     assert found.of("config-toml")[0].startswith(
-        line("wrong", "config-toml", "no TOML: line 3, column "))
+        line("wrong", "config-toml", "not valid TOML: line 3, column "))
 
 
 def test_no_agent_section():
     write(CONFIG, scene.config().replace("[agent]", "# [agent]"))
     found = look()
     assert found.of("config-toml") == [line("wrong", "config-toml", "no section [agent]")]
-    assert found.step == (f"Add the section [agent] to {CONFIG}, or write it anew with "
+    assert found.step == (f"Add the section [agent] to {CONFIG}, or write it again with "
                           "Save & Connect.")
 
 
 @pytest.mark.parametrize("key, said", [("", "empty"),
-                                       ("your-api-key-here", "a placeholder, no key"),
-                                       ("pending-registration", "a placeholder, no key")])
-def test_no_true_key(key, said):
+                                       ("your-api-key-here", "a placeholder, not a key"),
+                                       ("pending-registration", "a placeholder, not a key")])
+def test_empty_or_placeholder_key(key, said):
     write(CONFIG, scene.config(key=key))
     found = look()
     assert found.of("config-key") == [line("wrong", "config-key", said)]
     assert (found.step, found.code) == (ENROL, 1)
 
 
-def test_no_key_at_all():
+def test_missing_key():
     write(CONFIG, '[agent]\nserver_url = "https://console.example"\n')
     found = look()
     assert found.of("config-key") == [line("wrong", "config-key", "none")]
@@ -112,7 +112,7 @@ def test_key_that_is_cut():
     assert found.of("config-key") == [
         line("note", "config-key", "22 bytes, but the Settings tab reads back 20: it cuts a value "
                                    'at its first "="')]
-    assert found.step == ("Type it anew before Save & Connect, which would write what the tab "
+    assert found.step == ("Type it again before Save & Connect, which would write what the tab "
                           "shows.")
     assert found.code == 0
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the agent answers, and what the panel makes of it."""
+"""The agent's answers, and what the panel shows of them."""
 
 import re
 import subprocess
@@ -95,7 +95,7 @@ def test_status_that_does_not_decode(backend, body, fault, kind):
     assert said.startswith(
         line("wrong", "status", f"/api/status: HTTP 200, {size(body)} bytes, N ms: {fault}"))
     assert said.endswith(f" ({kind})")
-    assert found.conclusion.startswith("OFFLINE because /api/status brings nothing to show (")
+    assert found.conclusion.startswith("OFFLINE because /api/status gives nothing to show (")
     assert found.code == 1
 
 
@@ -106,7 +106,7 @@ def test_refused_token(backend):
     assert found.of("status") == [
         line("wrong", "status", f"/api/status: HTTP 401, {len(refusal.body)} bytes, N ms: "
                                 "protection_enabled: required key missing (key not found)")]
-    assert found.conclusion == "OFFLINE because /api/status brings nothing to show (HTTP 401)."
+    assert found.conclusion == "OFFLINE because /api/status gives nothing to show (HTTP 401)."
 
 
 def test_the_real_agent_refuses_a_wrong_token():
@@ -114,9 +114,9 @@ def test_the_real_agent_refuses_a_wrong_token():
         path = scene.SYSTEM_TOKEN if scene.SYSTEM_TOKEN.exists() else scene.HOME_TOKEN
         scene.write(path, "wrong")
         found = look()
-    assert found.conclusion == "OFFLINE because /api/status brings nothing to show (HTTP 401)."
-    assert found.step == ("The agent refuses this token: run the agent as this user, or let its "
-                          "token lie where the panel looks; then start the panel again.")
+    assert found.conclusion == "OFFLINE because /api/status gives nothing to show (HTTP 401)."
+    assert found.step == ("The agent refuses this token: run the agent as this user, or put its "
+                          "token where the panel looks; then start the panel again.")
 
 
 def test_error_status_with_a_good_body(backend):
@@ -124,7 +124,7 @@ def test_error_status_with_a_good_body(backend):
     found = look()
     assert found.of("status") == [
         line("note", "status", f"/api/status: HTTP 500, {size(bodies.status())} bytes, N ms: "
-                               'status "ok", threats 0; shown all the same, the panel does not '
+                               'status "ok", threats 0; shown anyway, the panel does not '
                                "look at the HTTP status")]
     assert found.conclusion == ONLINE + "."
     assert found.code == 0
@@ -139,9 +139,9 @@ def test_status_that_counts_as_unhealthy(backend):
     assert found.code == 0
 
 
-def test_key_that_cannot_be_read_back_is_not_told_either(backend):
+def test_key_that_cannot_be_read_back_is_hidden_too(backend):
     key = f"{scene.KEY}=tail"
-    # No TOML, so that the key has to be found in the line.
+    # Not valid TOML, so the key has to be found in the line.
     write(scene.CONFIG, scene.config(key=key) + "= =\n")
     backend.reply(status=bodies.status(status=key))
     assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
@@ -153,7 +153,7 @@ def test_status_that_repeats_the_secrets(backend):
                                  '"[hidden] [hidden]".')
 
 
-def test_broken_off_answer(backend):
+def test_interrupted_answer(backend):
     backend.reply(inventory=Answer(raw=b"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n{"))
     found = look()
     assert found.of("inventory") == [
@@ -168,18 +168,17 @@ def test_header_beyond_the_panels_limit(backend):
         line("wrong", "alerts", "/api/alerts: the answer is larger than the panel takes")]
 
 
-def test_silence_ends_in_time_and_says_that_the_panel_waits(backend):
+def test_silence_is_reported_early_with_the_panels_own_limit(backend):
     backend.reply(status=silence(), alerts=silence(), network=silence(), inventory=silence())
-    # Half of what the panel waits, and room enough for a busy machine.
     done = subprocess.run([scene.DOCTOR], capture_output=True, text=True, timeout=PATIENCE,
                           check=False)
     assert done.returncode == 1
     silent = "/api/status: no whole answer within 5 s; the panel would wait for 60 s"
     assert line("wrong", "status", silent) in done.stdout
-    assert "OFFLINE because /api/status brings nothing to show (no whole answer" in done.stdout
+    assert "OFFLINE because /api/status gives nothing to show (no whole answer" in done.stdout
 
 
-def test_silence_of_one_hides_no_other(backend):
+def test_one_silent_endpoint_does_not_hide_the_others(backend):
     backend.reply(network=silence())
     found = look()
     assert found.of("network")[0].startswith(
@@ -193,19 +192,19 @@ def http(body, code="200 OK"):
 
 
 FAULTY_AGENTS = [
-    (http(b"{}"), "Mend the agent's answer to /api/status: protection_enabled: required key "
+    (http(b"{}"), "Fix the agent's answer to /api/status: protection_enabled: required key "
                   "missing."),
     (http(b"{}", "403 Forbidden"), "The agent refuses this token: run the agent as this user, or "
-                                   "let its token lie where the panel looks; then start the panel "
+                                   "put its token where the panel looks; then start the panel "
                                    "again."),
-    (b"SSH-2.0-x\r\n", "Mend or replace the agent: see its log."),
+    (b"SSH-2.0-x\r\n", "Fix or replace the agent: see its log."),
     (b"", f"Look into the agent's log ({scene.LOG}) and start the agent again."),
 ]
 
 
 @pytest.mark.parametrize("answers, step", FAULTY_AGENTS)
-def test_what_to_do_about_a_faulty_agent(tmp_path, answers, step):
+def test_next_step_for_a_faulty_agent(tmp_path, answers, step):
     with scene.agent_that(tmp_path, answers):
         found = look()
-    assert found.conclusion.startswith("OFFLINE because /api/status brings nothing to show (")
+    assert found.conclusion.startswith("OFFLINE because /api/status gives nothing to show (")
     assert found.step == step

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""File modes, which count for an ordinary user alone."""
+"""File modes, which apply only to an ordinary user."""
 
 import subprocess
 import sys
@@ -8,7 +8,7 @@ import sys
 import scene
 from scene import CONFIG, HOME_TOKEN, LOG, LOGS, SYSTEM_TOKEN, line, look, write
 
-# Closed to this user as another user's process would be.
+# This user may not look into it, as into another user's process.
 CLOSED = """
 import ctypes, socket, time
 PR_SET_DUMPABLE = 4
@@ -40,8 +40,8 @@ def test_unreadable_configuration(backend):
     CONFIG.chmod(0)
     found = look()
     assert found.of("config") == [
-        line("wrong", "config", f"{CONFIG}: cannot be read (Permission denied), the panel passes "
-                                "it over")]
+        line("wrong", "config", f"{CONFIG}: cannot be read (Permission denied), the panel ignores "
+                                "it")]
     assert found.step == f"Make {CONFIG} a file that the panel's user can read, or remove it."
 
 

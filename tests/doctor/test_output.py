@@ -29,7 +29,7 @@ def on_a_terminal(**environment):
             while block := os.read(controller, 65536):
                 said += block
         except OSError:
-            pass  # How a terminal tells that nobody writes to it any more.
+            pass  # The program has closed the terminal.
     os.close(controller)
     return said.decode()
 
@@ -53,7 +53,7 @@ def test_no_colour_in_a_pipe():
 
 
 @pytest.mark.parametrize("state", ["well", "no agent", "no token", "stranger"])
-def test_json_holds_to_its_schema(state, backend):
+def test_json_matches_its_schema(state, backend):
     if state == "no agent":
         backend.stop()
     if state == "no token":
@@ -66,7 +66,7 @@ def test_json_holds_to_its_schema(state, backend):
         SCHEMA["$defs"]["check"]["properties"]["check"]["enum"])
 
 
-def test_schema_refuses_what_it_should():
+def test_schema_refuses_invalid_output():
     said = json.loads(scene.run("--json").stdout)
     for key in said:
         without = {k: v for k, v in said.items() if k != key}
@@ -87,9 +87,9 @@ def test_json_facts_of_a_fault(backend):
 def test_time_that_an_answer_took(backend):
     held = 0.3
     backend.reply(status=answer(bodies.status(), delay=held))
-    begun = time.monotonic()
+    started = time.monotonic()
     said = json.loads(scene.run("--json").stdout)
-    elapsed = time.monotonic() - begun
+    elapsed = time.monotonic() - started
     (status,) = (c for c in said["checks"] if c["check"] == "status")
     took = status["facts"]["milliseconds"]
     assert held <= took / 1000 <= elapsed

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Who takes the panel's questions."""
+"""Which process receives the panel's requests."""
 
 import socket
 import subprocess
@@ -56,21 +56,21 @@ def test_open_to_other_machines(address, family):
     assert port.endswith("; other machines can reach it, too")
 
 
-def test_a_stranger_that_speaks_no_http():
+def test_process_on_the_port_that_does_not_use_http():
     program = "import socket\ns = socket.create_server(('127.0.0.1', 7823))\n" \
               "while 1: c, _ = s.accept(); c.sendall(b'SSH-2.0-x\\r\\n'); c.close()"
     with scene.process(sys.executable, "-c", program) as stranger:
-        until(lambda: scene.run().stdout.count("no HTTP") == 5, "the stranger to answer")
+        until(lambda: scene.run().stdout.count("not HTTP") == 5, "the stranger to answer")
         found = look()
     assert found.of("status") == [
-        line("wrong", "status", "/api/status: what answers speaks no HTTP")]
-    assert found.conclusion == ("OFFLINE because /api/status brings nothing to show (what answers "
-                                "speaks no HTTP).")
+        line("wrong", "status", "/api/status: the answer is not HTTP")]
+    assert found.conclusion == ("OFFLINE because /api/status gives nothing to show (the answer "
+                                "is not HTTP).")
     assert found.step == (f"End process {stranger.pid}, which holds the agent's port, and start "
                           "the agent.")
 
 
-def test_a_command_line_tells_no_secret_and_no_escape_sequence(tmp_path):
+def test_command_line_is_shown_without_secrets_and_escape_sequences(tmp_path):
     (tmp_path / "s.py").write_text(CLOSER)
     odd = [TOKEN, f"--key={scene.KEY}", "\x1b[31mred", "\u202eback", b"\xff", "x" * 500]
     with scene.process(sys.executable, "s.py", *odd, cwd=tmp_path):

@@ -11,7 +11,7 @@ from scene import AGENT, line, look
 
 
 def real_probe():
-    """What the panel's own probe finds. The shell makes way for it, as there."""
+    """What the panel's own search finds. As there, the shell replaces itself by pgrep."""
     done = subprocess.run(["/bin/bash", "-c", f"pgrep -f {AGENT}"], capture_output=True, text=True,
                           check=False)
     return [int(pid) for pid in done.stdout.split()]
@@ -21,14 +21,14 @@ def pids(found):
     return [int(each.split("process ")[1].split()[0]) for each in found.of("probe")]
 
 
-def test_nothing():
+def test_no_agent():
     found = look()
     assert found.of("probe") == [
         line("note", "probe", 'finds no agent, so the Settings tab says "not running"')]
     assert real_probe() == []
 
 
-def test_nothing_though_something_answers(backend):
+def test_no_agent_but_something_answers(backend):
     assert look().of("probe") == [
         line("note", "probe", 'finds no agent, so the Settings tab says "not running", though '
                               "something answers")]
@@ -71,7 +71,7 @@ def test_two_agents(backend, tmp_path):
     assert found.step == f"End process {last}: one agent is enough."
 
 
-def test_agent_that_ended_and_was_not_collected(backend, tmp_path):
+def test_agent_that_is_a_zombie(backend, tmp_path):
     dead = tmp_path / AGENT
     dead.write_bytes(open("/bin/true", "rb").read())
     dead.chmod(0o700)
@@ -83,8 +83,8 @@ def test_agent_that_ended_and_was_not_collected(backend, tmp_path):
     assert found.of("probe") == [
         line("wrong", "probe", f"process {child.pid} has ended and still counts as an agent: "
                                f"{AGENT}")]
-    assert found.step == (f"End the program that started process {child.pid} and takes no notice "
-                          "of its end.")
+    assert found.step == (f"End the program that started process {child.pid} and does not wait "
+                          "for it.")
 
 
 def test_agent_with_a_blank_command_line(backend, tmp_path):

@@ -15,7 +15,7 @@ def test_no_log_folder():
     found = look()
     assert found.of("logs") == [
         line("wrong", "logs", f"{LOGS}: not there, and without it Start Agent starts nothing")]
-    # Before the agent itself, which could not be started.
+    # Before the step to start the agent, which would fail.
     assert found.step == f"Make the folder {LOGS}."
 
 
@@ -24,13 +24,13 @@ def test_file_in_place_of_the_log_folder():
     LOGS.write_text("")
     found = look()
     assert found.of("logs") == [
-        line("wrong", "logs", f"{LOGS}: no folder, so Start Agent starts nothing")]
+        line("wrong", "logs", f"{LOGS}: not a folder, so Start Agent starts nothing")]
     assert found.step == f"Put a folder in place of {LOGS}."
 
 
 @pytest.mark.parametrize("odd, shown", [(" ", " "), ("$", "$"), ("'", "'"), ("(", "("),
                                         ("\n", r"\x0A")])
-def test_home_that_is_more_than_a_word(odd, shown):
+def test_home_path_with_special_characters(odd, shown):
     home = f"{HOME}/odd{odd}home"
     found = look(HOME=home)
     assert found.of("home") == [
@@ -41,7 +41,7 @@ def test_home_that_is_more_than_a_word(odd, shown):
 
 def test_relative_home():
     found = look(HOME="somewhere")
-    assert found.of("home") == [line("wrong", "home", "somewhere: is no absolute path")]
+    assert found.of("home") == [line("wrong", "home", "somewhere: is not an absolute path")]
     assert found.step == "Set HOME to an absolute path."
 
 
@@ -67,7 +67,7 @@ def test_agent_that_is_not_executable(tmp_path):
     assert found.step == f"Make {agent} an executable program."
 
 
-def test_bundle_that_breaks_its_quotes(tmp_path):
+def test_bundle_path_with_an_apostrophe(tmp_path):
     found = look(scene.bundle_at(tmp_path / "Ann's.app"))
     assert found.of("bundle") == [
         line("wrong", "bundle", f"{tmp_path}/Ann's.app: holds an apostrophe, so Start Agent does "
@@ -89,13 +89,13 @@ def test_bundle_with_the_agents_name(tmp_path):
     assert found.step == f"Move the application to a path without {scene.AGENT}."
 
 
-def test_no_search_for_processes(tmp_path):
+def test_missing_pgrep(tmp_path):
     found = look(PATH=str(tmp_path))
     assert found.of("tools") == [
         line("wrong", "tools", "pgrep not there, so the Settings tab cannot start, stop or find an "
                                "agent")]
-    assert found.step == "Install what brings pgrep."
+    assert found.step == "Install the package that has pgrep."
 
 
-def test_with_all_in_place_the_agent_is_next():
+def test_without_other_faults_the_next_step_is_to_start_the_agent():
     assert look().step == START_AGENT

@@ -48,7 +48,7 @@ def test_blank_one_hides_the_other(backend):
              "further")]
     assert found.step == f"Remove {SYSTEM_TOKEN} and {NEW_TOKEN}"
     assert found.code == 1
-    # Whatever the agent makes of it, the panel asks.
+    # The panel sends its requests even with an empty token.
     assert found.conclusion.startswith("ONLINE")
     assert {r.header("X-Agent-Token")[0] for r in backend.seen()} == {""}
 
@@ -68,7 +68,7 @@ def test_control_character(backend, odd):
     assert backend.connections == 0
 
 
-def test_no_text(backend):
+def test_file_that_is_not_text(backend):
     write(HOME_TOKEN, b"\xff" + TOKEN.encode())
     found = look()
     assert found.of("token-home") == [
@@ -77,7 +77,7 @@ def test_no_text(backend):
     assert found.step == f"Let the panel's user read {HOME_TOKEN}, then start the panel again."
 
 
-def test_no_file(backend):
+def test_fifo_in_place_of_the_file(backend):
     HOME_TOKEN.unlink()
     os.mkfifo(HOME_TOKEN, 0o600)
     found = look()
@@ -95,7 +95,7 @@ def test_unreadable_one_that_does_not_matter(backend):
     assert found.code == 0
 
 
-def test_others_may_read_the_users(backend):
+def test_users_token_that_others_may_read(backend):
     HOME_TOKEN.chmod(0o644)
     found = look()
     assert found.of("token-home") == [
@@ -105,7 +105,7 @@ def test_others_may_read_the_users(backend):
     assert found.code == 1
 
 
-def test_others_may_read_the_system_wide_one(backend):
+def test_system_wide_token_that_others_may_read(backend):
     write(SYSTEM_TOKEN, TOKEN, mode=0o644)
     found = look()
     assert found.of("token-system") == [

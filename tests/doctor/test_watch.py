@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Looking again and again."""
+"""The option --watch."""
 
 import contextlib
 import json
@@ -24,7 +24,7 @@ def watching(*arguments):
             doctor.kill()
 
 
-def test_fault_that_is_mended():
+def test_fault_that_is_fixed():
     with watching("--json") as doctor:
         assert not json.loads(doctor.stdout.readline())["online"]
         backend = Backend().start()
@@ -46,7 +46,7 @@ def test_exit_code_is_that_of_the_last_round(number):
         assert doctor.wait(timeout=PATIENCE) == 1
 
 
-def test_rounds_of_text_are_set_apart(backend):
+def test_empty_line_between_rounds_of_text(backend):
     with watching() as doctor:
         said = []
         while sum(line.startswith("Next step: ") for line in said) < 2:

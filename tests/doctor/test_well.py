@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""All is well, with the real sample agent."""
+"""No faults, with the real sample agent."""
 
 import json
 import os
