@@ -40,7 +40,7 @@ TEST(LoadConfig, HasDefaultsWithoutAFile) {
   EXPECT_TRUE(config->collectServices);
 }
 
-TEST(LoadConfig, HeedsItsFourKeys) {
+TEST(LoadConfig, ReadsItsFourKeys) {
   const FixtureTree tree;
   const auto config =
       loadConfig({tree.write("config.toml",
@@ -65,7 +65,7 @@ TEST(LoadConfig, ReadsOnlyTheFirstFileThatExists) {
   EXPECT_TRUE(config->protection);
 }
 
-TEST(LoadConfig, PassesOverWhatIsForTheProductsAgent) {
+TEST(LoadConfig, IgnoresKeysForTheProductsAgent) {
   const FixtureTree tree;
   EXPECT_EQ(*loadConfig({tree.write("a", "detection = 5\n[telemetry]\nbatch_size = \"x\"\n")}),
             AgentConfig{});

@@ -51,7 +51,7 @@ class ApplicationReaderTest : public testing::Test {
   ApplicationReader reader_{pathsIn(tree_)};
 };
 
-TEST_F(ApplicationReaderTest, ListsPackagesThatBringACommand) {
+TEST_F(ApplicationReaderTest, ListsPackagesWithACommand) {
   tree_.write("dpkg/status", statusOf("nano") + statusOf("libfoo1") +
                                  statusOf("gone", "deinstall ok config-files"));
   tree_.write("dpkg/info/nano.list", "/.\n/usr\n/usr/bin\n/usr/bin/nano\n/usr/bin/rnano\n");
@@ -68,7 +68,7 @@ TEST_F(ApplicationReaderTest, FindsTheListOfOneOfSeveralArchitectures) {
   EXPECT_EQ(names(), Names{"tool"});
 }
 
-TEST_F(ApplicationReaderTest, GivesAPathOnlyWhereOneProgramStandsForThePackage) {
+TEST_F(ApplicationReaderTest, GivesAPathOnlyIfOneProgramRepresentsThePackage) {
   tree_.write("dpkg/status", statusOf("coreutils") + statusOf("base-passwd"));
   tree_.write("dpkg/info/coreutils.list", "/bin/cat\n/bin/ls\n");
   tree_.write("dpkg/info/base-passwd.list", "/usr/sbin/update-passwd\n");
@@ -78,7 +78,7 @@ TEST_F(ApplicationReaderTest, GivesAPathOnlyWhereOneProgramStandsForThePackage) 
   EXPECT_EQ(apps[1].path, std::nullopt);
 }
 
-TEST_F(ApplicationReaderTest, ListsWhatTheMenuShowsFirstAndByItsNameThere) {
+TEST_F(ApplicationReaderTest, ListsMenuEntriesFirstUnderTheirNamesThere) {
   tree_.write("dpkg/status", statusOf("abc") + statusOf("firefox-esr"));
   tree_.write("dpkg/info/abc.list", "/usr/bin/abc\n");
   tree_.write("dpkg/info/firefox-esr.list",
@@ -97,7 +97,7 @@ TEST_F(ApplicationReaderTest, ListsAPackageWithAHiddenEntryByItsCommand) {
   EXPECT_EQ(names(), Names{"vim"});
 }
 
-TEST_F(ApplicationReaderTest, ListsEntriesThatNoPackageBrings) {
+TEST_F(ApplicationReaderTest, ListsEntriesWithoutAPackage) {
   tree_.write("own/game.desktop", entryText("Game", "Exec=\"/opt/a game/run\" --now\n"));
   tree_.write("local/other.desktop", entryText("Other", "Exec=other\n"));
   tree_.write("local/notes.txt", entryText("Not an entry"));
@@ -107,7 +107,7 @@ TEST_F(ApplicationReaderTest, ListsEntriesThatNoPackageBrings) {
   EXPECT_EQ(reader_.read(), expected);
 }
 
-TEST_F(ApplicationReaderTest, ListsAnEntryOnceThoughSeveralFoldersHaveIt) {
+TEST_F(ApplicationReaderTest, ListsAnEntryOnceIfSeveralFoldersHaveIt) {
   tree_.write("dpkg/status", statusOf("pkg"));
   tree_.write("dpkg/info/pkg.list", "/usr/share/applications/pkg.desktop\n");
   tree_.write("packaged/pkg.desktop", entryText("Packaged"));
@@ -117,7 +117,7 @@ TEST_F(ApplicationReaderTest, ListsAnEntryOnceThoughSeveralFoldersHaveIt) {
   EXPECT_EQ(names(), (Names{"Packaged", "User's"}));
 }
 
-TEST_F(ApplicationReaderTest, SeesWhatDpkgHasChangedAndKeepsTheRest) {
+TEST_F(ApplicationReaderTest, ReadsThePackagesAgainOnlyWhenDpkgHasChangedThem) {
   tree_.write("dpkg/status", statusOf("one"));
   tree_.write("dpkg/info/one.list", "/usr/bin/one\n");
   EXPECT_EQ(names(), Names{"one"});
@@ -132,7 +132,7 @@ TEST_F(ApplicationReaderTest, SeesWhatDpkgHasChangedAndKeepsTheRest) {
   EXPECT_EQ(names(), Names{"two"});
 }
 
-TEST_F(ApplicationReaderTest, MakesTextOfBytes) {
+TEST_F(ApplicationReaderTest, ReplacesBytesThatAreNotText) {
   tree_.write("dpkg/status",
               "Package: caf\xE9\nStatus: install ok installed\nMaintainer: \xFF\nVersion: 1\n");
   tree_.write("dpkg/info/caf\xE9.list", "/usr/bin/caf\xE9\n");
@@ -153,13 +153,13 @@ TEST(ParseDesktopEntry, ReadsNameAndProgramOfTheMainGroup) {
   EXPECT_EQ(entry->command, "/usr/bin/calc");
 }
 
-TEST(ParseDesktopEntry, TakesAnUnclosedQuoteToTheEnd) {
+TEST(ParseDesktopEntry, ReadsAnUnclosedQuoteToTheEnd) {
   const auto entry = parseDesktopEntry(entryText("X", "Exec=\"/opt/x y\n"));
   ASSERT_TRUE(entry);
   EXPECT_EQ(entry->command, "/opt/x y");
 }
 
-TEST(ParseDesktopEntry, PassesOverWhatNoMenuShows) {
+TEST(ParseDesktopEntry, SkipsEntriesThatNoMenuShows) {
   EXPECT_FALSE(parseDesktopEntry(""));
   EXPECT_FALSE(parseDesktopEntry("[Desktop Entry]\nType=Link\nName=X\n"));
   EXPECT_FALSE(parseDesktopEntry("[Desktop Entry]\nType=Application\n"));

@@ -25,7 +25,7 @@ Process running(int pid, std::string name, std::string executable) {
   return process;
 }
 
-TEST(DeletedExecutables, IsHighWhereNothingIsLeftUnderTheName) {
+TEST(DeletedExecutables, IsHighIfNoFileHasThePath) {
   const FixtureTree tree;
   tree.folder("12/root");
   const auto alerts =
@@ -39,7 +39,7 @@ TEST(DeletedExecutables, IsHighWhereNothingIsLeftUnderTheName) {
   EXPECT_EQ(alerts[0].file_path, "/tmp/mine\uFFFD");
 }
 
-TEST(DeletedExecutables, IsLowWhereAnotherFileHasTakenItsPlace) {
+TEST(DeletedExecutables, IsLowIfAnotherFileHasReplacedIt) {
   const FixtureTree tree;
   tree.write("12/root/usr/bin/server", "");
   const auto alerts =
@@ -74,7 +74,7 @@ TEST(DeletedExecutables, ReportsAnExecutableOnceForAllItsProcesses) {
             "Process 5 (a) and 2 others run from /opt/a, which has been deleted.");
 }
 
-TEST(DeletedExecutables, KnowsAFileThatIsSoCalled) {
+TEST(DeletedExecutables, IgnoresAFileWhoseNameEndsWithDeleted) {
   const FixtureTree tree;
   tree.write("12/root/opt/x (deleted)", "");
   const auto alerts = deletedExecutables(
@@ -131,7 +131,7 @@ TEST(ExposedCleartextServices, ReportsAPortOnceForBothFamilies) {
   EXPECT_EQ(alerts[0].file_path, "/usr/sbin/inetd");
 }
 
-TEST(ExposedCleartextServices, SaysNothingOfAProcessThatItCannotSee) {
+TEST(ExposedCleartextServices, OmitsAProcessThatItCannotSee) {
   const auto alerts = exposedCleartextServices(
       {{"tcp", Transport::tcp, {"0.0.0.0", 21}, {"0.0.0.0", 0}, 0x0A, 8}}, {});
   ASSERT_EQ(alerts.size(), 1U);
@@ -168,14 +168,14 @@ TEST(AlertHistory, KeepsTheTimeOfTheFirstScanThatFoundIt) {
   EXPECT_EQ(summary(history.dated({finding("a")}, at(61))), Lines{"a 00:01"});
 }
 
-TEST(AlertHistory, TakesWhatComesBackForNew) {
+TEST(AlertHistory, TreatsAFindingThatReturnsAsNew) {
   AlertHistory history;
   EXPECT_EQ(history.dated({finding("a")}, at(1)).size(), 1U);
   EXPECT_TRUE(history.dated({}, at(2)).empty());
   EXPECT_EQ(summary(history.dated({finding("a")}, at(3))), Lines{"a 00:03"});
 }
 
-TEST(AlertHistory, ListsTheNewestFirstAndOfOneTimeTheGravest) {
+TEST(AlertHistory, ListsTheNewestFirstAndThenTheMostSevere) {
   AlertHistory history;
   EXPECT_EQ(summary(history.dated(
                 {finding("low", "low"), finding("odd", "unheard of"),

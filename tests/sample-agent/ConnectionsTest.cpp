@@ -37,10 +37,10 @@ TEST(ConnectionsOf, WritesAPortThatMeansAnyAsAStar) {
   ASSERT_EQ(connections.size(), 1U);
   EXPECT_EQ(connections[0].remote_port, "*");
   EXPECT_EQ(connections[0].risk_level, "medium");
-  EXPECT_EQ(connections[0].pid, std::nullopt) << "nobody seen to hold it";
+  EXPECT_EQ(connections[0].pid, std::nullopt) << "no visible process has it";
 }
 
-TEST(ConnectionsOf, GivesNoProcessToASocketThatIsHeldByNone) {
+TEST(ConnectionsOf, GivesNoProcessForASocketWithoutOne) {
   Process process;
   process.sockets = {0};
   const auto connections =

@@ -10,9 +10,9 @@
 
 namespace quillmark::sample::test {
 
-/// A folder of its own, below the system's temporary one or the one named, that
-/// is gone at the end. Paths given to it are relative; the folders on the way
-/// are made.
+/// A temporary folder below `parent` or the system's temporary folder, which is
+/// deleted at the end. Paths given to it are relative; missing parent folders are
+/// created.
 class FixtureTree final {
  public:
   explicit FixtureTree(const std::string& parent = {});
@@ -33,7 +33,7 @@ class FixtureTree final {
   std::string root_;
 };
 
-/// The program's files under a /proc that is a fixture.
+/// The files of a process in a fake /proc.
 struct FakeProcess {
   int pid = 100;
   std::string name = "program";
@@ -46,7 +46,7 @@ struct FakeProcess {
   std::string cgroup = "0::/\n";
 };
 
-/// Writes it below `proc`.
+/// Writes it below the folder `proc`.
 void addProcess(const FixtureTree& tree, const FakeProcess& process);
 
 }  // namespace quillmark::sample::test

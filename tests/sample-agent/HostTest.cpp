@@ -40,7 +40,7 @@ TEST(EffectiveCapabilities, AreNamed) {
   EXPECT_EQ(effectiveCapabilities(tree.root()), (Names{"CAP_CHOWN", "CAP_NET_RAW", "CAP_41"}));
 }
 
-/// Those of Linux, in the order of their numbers.
+/// Linux's names, in the order of their numbers.
 Names capabilitiesOfLinux() {
   Names names;
   std::ifstream header("/usr/include/linux/capability.h");
@@ -54,7 +54,7 @@ Names capabilitiesOfLinux() {
   return names;
 }
 
-TEST(EffectiveCapabilities, AreAllNamedByLinux) {
+TEST(EffectiveCapabilities, HaveTheNamesOfLinux) {
   const FixtureTree tree;
   tree.write("self/status", "CapEff:\t000001ffffffffff\n");
   const auto names = effectiveCapabilities(tree.root());

@@ -11,8 +11,8 @@
 
 namespace quillmark::sample::test {
 
-/// One TCP connection to a port of this machine, byte by byte. Whatever has not
-/// come after some seconds does not come.
+/// One TCP connection to a port of this machine. Sending and receiving time out after
+/// `patience()`.
 class RawClient final {
  public:
   explicit RawClient(std::uint16_t port);
@@ -21,10 +21,10 @@ class RawClient final {
   RawClient& operator=(const RawClient&) = delete;
 
   [[nodiscard]] bool isConnected() const { return connected_; }
-  /// False when the other side is gone.
+  /// False if the other side has closed the connection.
   bool send(std::string_view bytes) const;
-  /// What comes until the other side ends the connection; no value when it
-  /// does not end it. Rests between any two reads.
+  /// Everything until the other side ends the connection; no value if it does not end
+  /// it. Pauses for `rest` between two reads.
   [[nodiscard]] std::optional<std::string> receiveAll(
       std::chrono::milliseconds rest = std::chrono::milliseconds::zero()) const;
 
@@ -45,8 +45,7 @@ struct RequestText {
   [[nodiscard]] std::string text() const;
 };
 
-/// Sends `request` over a connection of its own; the answer is empty if the
-/// connection fails.
+/// Sends `request` over a new connection; the answer is empty if the connection fails.
 [[nodiscard]] std::string ask(std::uint16_t port, std::string_view request);
 
 /// The three digits after "HTTP/1.1 ", or 0.

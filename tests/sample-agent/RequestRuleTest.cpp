@@ -44,7 +44,7 @@ TEST(AnswerTo, GivesEachPathItsBody) {
   }
 }
 
-TEST(AnswerTo, KnowsItsTwoHosts) {
+TEST(AnswerTo, AcceptsItsTwoHosts) {
   auto request = good();
   for (const auto* host : {"127.0.0.1:7823", "localhost:7823", "LocalHost:7823"}) {
     request.hosts = {host};
@@ -57,7 +57,7 @@ TEST(AnswerTo, KnowsItsTwoHosts) {
   }
 }
 
-TEST(AnswerTo, WantsExactlyOneHost) {
+TEST(AnswerTo, RequiresExactlyOneHost) {
   auto request = good();
   request.hosts = {};
   EXPECT_EQ(statusOf(request), 400U);
@@ -65,7 +65,7 @@ TEST(AnswerTo, WantsExactlyOneHost) {
   EXPECT_EQ(statusOf(request), 400U);
 }
 
-TEST(AnswerTo, WantsExactlyTheToken) {
+TEST(AnswerTo, RequiresExactlyTheToken) {
   auto request = good();
   for (const std::string_view wrong :
        {std::string_view(), rightToken.substr(1), rightToken.substr(0, 15),
@@ -82,7 +82,7 @@ TEST(AnswerTo, WantsExactlyTheToken) {
   EXPECT_EQ(statusOf(request), 401U);
 }
 
-TEST(AnswerTo, KnowsNoOtherPath) {
+TEST(AnswerTo, RefusesOtherPaths) {
   auto request = good();
   for (const auto* target :
        {"/", "", "/api", "/api/", "/api/status/", "/API/status", "//api/status", "/api/status%20",
@@ -103,13 +103,13 @@ TEST(AnswerTo, ServesGetOnly) {
   }
 }
 
-TEST(AnswerTo, TakesNoBody) {
+TEST(AnswerTo, RefusesABody) {
   auto request = good();
   request.body = Request::Body::present;
   EXPECT_EQ(statusOf(request), 413U);
 }
 
-TEST(AnswerTo, LooksAtHostTokenPathMethodAndBodyInThisOrder) {
+TEST(AnswerTo, ChecksHostTokenPathMethodAndBodyInThisOrder) {
   auto request = good();
   request.body = Request::Body::present;
   EXPECT_EQ(statusOf(request), 413U);
@@ -123,7 +123,7 @@ TEST(AnswerTo, LooksAtHostTokenPathMethodAndBodyInThisOrder) {
   EXPECT_EQ(statusOf(request), 421U);
 }
 
-TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNoRecord) {
+TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNotARecord) {
   auto request = good();
   std::vector<Answer> errors = {malformedAnswer(), headerTooLargeAnswer()};
   request.body = Request::Body::present;
@@ -139,7 +139,7 @@ TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNoRecord) {
 
   for (const auto& error : errors) {
     EXPECT_TRUE(error.body.starts_with(R"({"error":")")) << error.body;
-    // An object without the record's keys, and not something that is no JSON.
+    // Valid JSON, but an object without the record's keys.
     const auto failure = [&](const auto& decoded) {
       return !decoded && decoded.error().kind == DecodeFailure::keyNotFound;
     };

@@ -97,7 +97,7 @@ TEST_F(ScannerTest, EncodesTheFourBodies) {
   EXPECT_EQ(inventory->permissions, std::vector<std::string>{"CAP_NET_BIND_SERVICE"});
 }
 
-TEST_F(ScannerTest, ReportsASetUidFileAndASearchThatWasCutShort) {
+TEST_F(ScannerTest, ReportsASetUidFileAndAnIncompleteSearch) {
   tree_.write("home/ann/tool", "");
   tree_.setMode("home/ann/tool", 04755);
   const auto alerts = decode<AlertsResponse>(scan().snapshot->alerts);
@@ -131,7 +131,7 @@ TEST_F(ScannerTest, KeepsAnAlertsTimeFromScanToScan) {
   EXPECT_EQ(decode<AgentStatus>(second->status)->last_scan, minuteLaterText);
 }
 
-TEST_F(ScannerTest, SaysSoWhenThereIsNoAlert) {
+TEST_F(ScannerTest, ReportsThatThereAreNoAlerts) {
   paths_.proc = tree_.folder("empty");
   const auto snapshot = scan().snapshot;
   EXPECT_EQ(snapshot->alerts, R"({"alerts":[]})");
@@ -216,7 +216,7 @@ class Counter {
   int count_ = 0;
 };
 
-TEST_F(ScannerTest, LoopScansAtOnceAndEndsInTheMiddleOfItsPause) {
+TEST_F(ScannerTest, LoopScansImmediatelyAndCanEndDuringItsPause) {
   Scanner scanner(paths_, {});
   Counter counter;
   std::ostringstream log;
@@ -225,7 +225,7 @@ TEST_F(ScannerTest, LoopScansAtOnceAndEndsInTheMiddleOfItsPause) {
   EXPECT_TRUE(decode<AgentStatus>(counter.last()->status));
 }
 
-TEST_F(ScannerTest, LoopScansAgainAndAgainAndNotesAThingOnce) {
+TEST_F(ScannerTest, LoopScansRepeatedlyAndLogsANoteOnce) {
   tree_.folder("home/ann");
   WalkLimits limits;
   limits.depth = 0;
@@ -240,7 +240,7 @@ TEST_F(ScannerTest, LoopScansAgainAndAgainAndNotesAThingOnce) {
                            " reached its limit; not all files were looked at\n");
 }
 
-TEST_F(ScannerTest, LoopOutlivesAScanThatFails) {
+TEST_F(ScannerTest, LoopContinuesAfterAFailedScan) {
   Scanner scanner(paths_, {});
   Counter counter;
   std::ostringstream log;

@@ -29,7 +29,7 @@ std::shared_ptr<const Snapshot> snapshotWith(std::string status) {
 
 std::string filler(std::size_t size) { return std::string(size, 'x'); }
 
-/// A server on a port of its own, with its thread.
+/// A server on a free port, with its thread.
 class RunningServer {
  public:
   explicit RunningServer(const ServerLimits& limits = {}, bool isReady = true)
@@ -94,7 +94,7 @@ TEST(Server, LetsClientsWaitForTheFirstSnapshot) {
   EXPECT_EQ(bodyOf(early.receiveAll().value_or("")), "ready");
 }
 
-TEST(Server, TellsErrorsApart) {
+TEST(Server, AnswersEachErrorWithItsStatus) {
   const RunningServer server;
   const auto status = [&](const RequestText& request) {
     return statusOf(ask(server.port(), request.text()));
@@ -133,10 +133,10 @@ TEST(Server, TellsErrorsApart) {
   EXPECT_EQ(status(request), 413);
   request = good;
   request.moreFields = "Content-Length: 0\r\n";
-  EXPECT_EQ(status(request), 200) << "a length of nothing is no body";
+  EXPECT_EQ(status(request), 200) << "a length of 0 means no body";
 }
 
-TEST(Server, NamesTheFieldsThatAnErrorAsksFor) {
+TEST(Server, SendsTheFieldsThatAnErrorRequires) {
   const RunningServer server;
   RequestText request;
   EXPECT_NE(ask(server.port(), request.text()).find("\r\nWWW-Authenticate: X-Agent-Token\r\n"),
@@ -156,7 +156,7 @@ TEST(Server, SendsNoBodyToHead) {
   EXPECT_TRUE(answer.ends_with("\r\n\r\n")) << answer;
 }
 
-TEST(Server, AnswersBytesThatMakeNoRequest) {
+TEST(Server, AnswersBytesThatAreNoRequest) {
   const RunningServer server;
   EXPECT_EQ(statusOf(ask(server.port(), "what is this?\r\n\r\n")), 400);
   EXPECT_EQ(statusOf(ask(server.port(), std::string("\0\x16\x03\x01\r\n\r\n", 8))), 400);
@@ -181,7 +181,7 @@ TEST(Server, RefusesAHeaderThatIsTooLarge) {
   EXPECT_EQ(statusOf(ask(server.port(), request.text())), 431);
 }
 
-TEST(Server, DeliversALargeBodyWhole) {
+TEST(Server, SendsALargeBodyCompletely) {
   RunningServer server;
   const std::string large = filler(20'000'000);
   server.publish(snapshotWith(large));
@@ -194,7 +194,7 @@ TEST(Server, FinishesAnAnswerFromItsOwnSnapshot) {
   server.publish(snapshotWith(large));
   const RawClient slow(server.port());
   ASSERT_TRUE(slow.send(goodRequest()));
-  // The answer to this one shows that the server has come past the slow one.
+  // This answer shows that the server has already handled the slow client's request.
   EXPECT_EQ(bodyOf(ask(server.port(), goodRequest())).size(), large.size());
   server.publish(snapshotWith("second"));
   EXPECT_EQ(bodyOf(ask(server.port(), goodRequest())), "second");
@@ -218,7 +218,7 @@ TEST(Server, ClosesAConnectionAtItsDeadline) {
   EXPECT_LT(sluggish.receiveAll(milliseconds(10)).value_or("").size(), 50'000'000U);
 }
 
-TEST(Server, DeadlineRunsOnWhileBytesTrickleIn) {
+TEST(Server, ReceivedBytesDoNotExtendTheDeadline) {
   ServerLimits limits;
   limits.deadline = milliseconds(200);
   const RunningServer server(limits);
@@ -241,14 +241,14 @@ TEST(Server, ClosesTheOldestConnectionForTheNewest) {
     clients.push_back(std::make_unique<RawClient>(server.port()));
   }
   EXPECT_EQ(statusOf(ask(server.port(), goodRequest())), 200);
-  EXPECT_EQ(clients[0]->receiveAll(), "") << "the oldest has made room";
+  EXPECT_EQ(clients[0]->receiveAll(), "") << "the oldest was closed";
   for (std::size_t i = 1; i < clients.size(); ++i) {
     ASSERT_TRUE(clients[i]->send(goodRequest()));
     EXPECT_EQ(statusOf(clients[i]->receiveAll().value_or("")), 200) << i;
   }
 }
 
-TEST(Server, ServesAtOnceBehindManySlowConnections) {
+TEST(Server, ServesAtOnceDespiteManySlowConnections) {
   ServerLimits limits;
   limits.deadline = std::chrono::hours(1);
   const RunningServer server(limits);

@@ -58,9 +58,9 @@ TEST_F(SetUidFilesTest, ReportsAProgramThatRunsWithItsOwnersRights) {
   EXPECT_EQ(found.alerts[0].file_path, path);
 }
 
-TEST_F(SetUidFilesTest, TellsRootFromOtherOwners) {
+TEST_F(SetUidFilesTest, DistinguishesRootFromOtherOwners) {
   if (geteuid() != 0) {
-    GTEST_SKIP() << "only root can give a file away";
+    GTEST_SKIP() << "only root can change the owner of a file";
   }
   const auto path = addProgram("tool");
   ASSERT_EQ(chown(path.c_str(), 1000, 1000), 0);
@@ -71,7 +71,7 @@ TEST_F(SetUidFilesTest, TellsRootFromOtherOwners) {
   EXPECT_NE(found.alerts[0].description->find("user 1000"), std::string::npos);
 }
 
-TEST_F(SetUidFilesTest, PassesOverWhatDoesNotRunWithOthersRights) {
+TEST_F(SetUidFilesTest, SkipsFilesThatDoNotRunWithTheirOwnersRights) {
   addProgram("plain", 0755);
   addProgram("group", 02755);
   addProgram("not-a-program", 04644);
@@ -97,7 +97,7 @@ TEST_F(SetUidFilesTest, EntersARootThatIsALink) {
   EXPECT_EQ(paths(found), Paths{other.path("home/tool")});
 }
 
-TEST_F(SetUidFilesTest, WaitsForNoFifo) {
+TEST_F(SetUidFilesTest, DoesNotBlockOnAFifo) {
   ASSERT_EQ(mkfifo(tree_.path("fifo").c_str(), 0600), 0);
   const auto path = addProgram("tool");
   EXPECT_EQ(paths(search()), Paths{path});
@@ -107,7 +107,7 @@ TEST_F(SetUidFilesTest, StaysInItsFileSystem) {
   struct stat outer {};
   struct stat inner {};
   if (stat("/dev", &outer) != 0 || stat("/dev/shm", &inner) != 0 || outer.st_dev == inner.st_dev) {
-    GTEST_SKIP() << "/dev/shm is no file system of its own here";
+    GTEST_SKIP() << "/dev/shm is not a separate file system here";
   }
   const FixtureTree elsewhere("/dev/shm");
   const auto path = elsewhere.write("tool", "");
@@ -126,7 +126,7 @@ TEST_F(SetUidFilesTest, ReportsInTheOrderOfTheNames) {
   EXPECT_EQ(paths(search()), (Paths{a, b, c}));
 }
 
-TEST_F(SetUidFilesTest, EndsAtTheDepth) {
+TEST_F(SetUidFilesTest, EndsAtTheMaximumDepth) {
   const auto path = addProgram("1/2/reached");
   addProgram("1/2/3/beyond");
   WalkLimits limits;
@@ -136,7 +136,7 @@ TEST_F(SetUidFilesTest, EndsAtTheDepth) {
   EXPECT_FALSE(found.complete);
 }
 
-TEST_F(SetUidFilesTest, EndsAtTheNumberOfNames) {
+TEST_F(SetUidFilesTest, EndsAtTheMaximumNumberOfNames) {
   for (int i = 0; i < 20; ++i) {
     addProgram(std::to_string(i));
   }
@@ -149,7 +149,7 @@ TEST_F(SetUidFilesTest, EndsAtTheNumberOfNames) {
   EXPECT_FALSE(search(limits).complete);
 }
 
-TEST_F(SetUidFilesTest, EndsWithItsTime) {
+TEST_F(SetUidFilesTest, EndsAtItsTimeLimit) {
   addProgram("tool");
   WalkLimits limits;
   limits.time = std::chrono::steady_clock::duration::zero();
@@ -157,7 +157,7 @@ TEST_F(SetUidFilesTest, EndsWithItsTime) {
   EXPECT_FALSE(search(limits).complete);
 }
 
-TEST_F(SetUidFilesTest, EndsWhenTold) {
+TEST_F(SetUidFilesTest, EndsWhenStopIsRequested) {
   addProgram("tool");
   std::stop_source stop;
   stop.request_stop();

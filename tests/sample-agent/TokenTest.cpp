@@ -34,7 +34,7 @@ TEST(TokenPath, IsSystemWideForRootOnly) {
   EXPECT_EQ(tokenPath(1000, "/home/ann"), "/home/ann/.quillmark/token");
 }
 
-TEST(LoadOrMakeToken, MakesAFileForThisUserAlone) {
+TEST(LoadOrMakeToken, CreatesAFileForThisUserOnly) {
   const FixtureTree tree;
   const auto token = loadOrMakeToken(tree.path("quillmark/token"));
   ASSERT_TRUE(token) << token.error().text;
@@ -47,7 +47,7 @@ TEST(LoadOrMakeToken, MakesAFileForThisUserAlone) {
       << "nothing else is left behind";
 }
 
-TEST(LoadOrMakeToken, DependsOnNoUmask) {
+TEST(LoadOrMakeToken, IgnoresTheUmask) {
   const FixtureTree tree;
   const mode_t former = umask(0277);
   const auto token = loadOrMakeToken(tree.path("token"));
@@ -64,7 +64,7 @@ TEST(LoadOrMakeToken, GivesTheSameTokenAgain) {
   EXPECT_EQ(*first, *second);
 }
 
-TEST(LoadOrMakeToken, MakesAnotherTokenElsewhere) {
+TEST(LoadOrMakeToken, CreatesAnotherTokenAtAnotherPath) {
   const FixtureTree tree;
   const auto first = loadOrMakeToken(tree.path("a"));
   const auto second = loadOrMakeToken(tree.path("b"));
@@ -72,14 +72,14 @@ TEST(LoadOrMakeToken, MakesAnotherTokenElsewhere) {
   EXPECT_NE(*first, *second);
 }
 
-TEST(LoadOrMakeToken, TakesATokenWithTheLineBreakOfAnEditor) {
+TEST(LoadOrMakeToken, AcceptsATokenWithTheLineBreakOfAnEditor) {
   const FixtureTree tree;
   const auto token = loadOrMakeToken(tree.write("token", goodToken + "\r\n"));
   ASSERT_TRUE(token) << token.error().text;
   EXPECT_EQ(*token, goodToken);
 }
 
-TEST(LoadOrMakeToken, ClosesATokenThatOthersMayRead) {
+TEST(LoadOrMakeToken, RemovesThePermissionsOfOtherUsers) {
   const FixtureTree tree;
   tree.write("token", goodToken);
   tree.setMode("token", 0644);
@@ -89,7 +89,7 @@ TEST(LoadOrMakeToken, ClosesATokenThatOthersMayRead) {
   EXPECT_EQ(tree.mode("token"), 0600U);
 }
 
-TEST(LoadOrMakeToken, OverwritesNothingThatIsNoToken) {
+TEST(LoadOrMakeToken, KeepsAFileThatIsNoToken) {
   const FixtureTree tree;
   for (const std::string& content :
        {std::string(), std::string("\n"), std::string("secret"), goodToken.substr(1),
@@ -112,9 +112,9 @@ TEST(LoadOrMakeToken, ReadsRegularFilesOnly) {
             tree.path("dangling") + ": not a regular file");
 }
 
-TEST(LoadOrMakeToken, TakesNoTokenOfAnotherUser) {
+TEST(LoadOrMakeToken, RefusesATokenOfAnotherUser) {
   if (geteuid() != 0) {
-    GTEST_SKIP() << "only root can give a file away";
+    GTEST_SKIP() << "only root can change the owner of a file";
   }
   const FixtureTree tree;
   const auto path = tree.write("token", goodToken);
@@ -122,14 +122,14 @@ TEST(LoadOrMakeToken, TakesNoTokenOfAnotherUser) {
   EXPECT_EQ(failureOf(path), path + ": belongs to another user");
 }
 
-TEST(LoadOrMakeToken, FailsWhereNoFileCanBeMade) {
+TEST(LoadOrMakeToken, FailsIfNoFileCanBeCreated) {
   const FixtureTree tree;
   tree.write("file", "");
   EXPECT_NE(failureOf(tree.path("file/token")), "no failure");
   EXPECT_NE(failureOf(tree.path("missing/folder/token")), "no failure");
 }
 
-TEST(LoadOrMakeToken, GivesOneTokenToAllThatStartAtOnce) {
+TEST(LoadOrMakeToken, GivesOneTokenToAllThatStartAtTheSameTime) {
   for (int round = 0; round < 50; ++round) {
     const FixtureTree tree;
     constexpr std::size_t startCount = 8;
@@ -150,7 +150,7 @@ TEST(LoadOrMakeToken, GivesOneTokenToAllThatStartAtOnce) {
   }
 }
 
-TEST(MakePrivateFile, TakesTheirPlaceFromNoOtherFile) {
+TEST(MakePrivateFile, ReplacesNoOtherFile) {
   const FixtureTree tree;
   const auto path = tree.write("file", "old");
   EXPECT_EQ(makePrivateFile(path, "new"), boost::system::errc::file_exists);
@@ -158,7 +158,7 @@ TEST(MakePrivateFile, TakesTheirPlaceFromNoOtherFile) {
   EXPECT_EQ(namesIn(tree.root()).size(), 1U);
 }
 
-TEST(RandomHex, HasTwoDigitsAByte) {
+TEST(RandomHex, HasTwoDigitsPerByte) {
   EXPECT_EQ(randomHex(0), "");
   EXPECT_EQ(randomHex(32).size(), 64U);
   EXPECT_NE(randomHex(32), randomHex(32));

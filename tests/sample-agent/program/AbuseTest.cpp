@@ -26,8 +26,8 @@ std::size_t countOf(std::string_view piece, std::string_view text) {
   return count;
 }
 
-/// Clients that mean harm, each with the right token: were one of them taken
-/// for two, or for another one, it would get data.
+/// Malicious requests, each with the right token: if the server read one as two, or as
+/// another request, the client would get data.
 class Abuse : public RunningProgramTest {
  protected:
   void TearDown() override {
@@ -36,8 +36,8 @@ class Abuse : public RunningProgramTest {
     EXPECT_EQ(agent_->errors(), "");
   }
 
-  /// That these bytes get one answer with this status, and nothing of the data
-  /// unless it is 200.
+  /// Expects that these bytes get one answer with this status, without data unless the
+  /// status is 200.
   static void expectOneAnswer(const std::string& bytes, int status) {
     SCOPED_TRACE(testing::PrintToString(bytes.substr(0, 200)));
     const std::string answer = ask(programPort, bytes);
@@ -85,7 +85,7 @@ TEST_F(Abuse, ByARequestHiddenInAnother) {
   expectOneAnswer(good() + good(), 200);
 }
 
-TEST_F(Abuse, ByLinesThatOthersReadOtherwise) {
+TEST_F(Abuse, ByLinesThatOtherServersReadDifferently) {
   const std::string start = "GET /api/status HTTP/1.1\r\n";
   expectOneAnswer(start + "X: y\n" + authentic() + "\r\n", 400);
   expectOneAnswer("GET /api/status HTTP/1.1\n" + authentic() + "\r\n", 400);
@@ -114,7 +114,8 @@ TEST_F(Abuse, ByAnotherTarget) {
   }
 }
 
-// A web page whose name is made to lead here names itself in the Host field.
+// DNS rebinding: the Host field has the domain name of a web page that resolves to this
+// machine.
 TEST_F(Abuse, ByAWebPage) {
   for (const std::string host :
        {"attacker.example", "attacker.example:7823", "127.0.0.1.attacker.example:7823",
@@ -151,11 +152,11 @@ TEST_F(Abuse, BySize) {
   expectWithFields("Content-Length: 18446744073709551615\r\n", 413);
 }
 
-TEST_F(Abuse, ByWhatNeverEnds) {
+TEST_F(Abuse, ByRequestsThatNeverEnd) {
   for (const std::string piece : {"x", "a: b\r\n", "\r\n"}) {
     const RawClient client(programPort);
     ASSERT_TRUE(client.isConnected());
-    bool isHeard = client.send("GET /api/status HTTP/1.1\r\n");
+    bool isOpen = client.send("GET /api/status HTTP/1.1\r\n");
     const std::string pieces = [&] {
       std::string text;
       while (text.size() < 4096) {
@@ -163,8 +164,8 @@ TEST_F(Abuse, ByWhatNeverEnds) {
       }
       return text;
     }();
-    while (isHeard) {
-      isHeard = client.send(pieces);
+    while (isOpen) {
+      isOpen = client.send(pieces);
     }
     EXPECT_EQ(statusOf(get("/api/status")), 200);
   }

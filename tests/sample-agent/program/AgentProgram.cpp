@@ -22,7 +22,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto glance = std::chrono::milliseconds(5);
+constexpr auto checkInterval = std::chrono::milliseconds(5);
 constexpr uid_t ordinaryUser = 1000;
 
 /// In the child: only calls that are safe between fork and exec.
@@ -36,7 +36,7 @@ constexpr uid_t ordinaryUser = 1000;
     }
     setenv("HOME", home, 1);
     char* const arguments[] = {const_cast<char*>("agent"), nullptr};
-    // By descriptor: the folder of the build may be closed to him.
+    // By descriptor: this user may have no access to the build folder.
     fexecve(program, arguments, environ);
   } else {
     execl(SAMPLE_AGENT_PROGRAM, SAMPLE_AGENT_PROGRAM, nullptr);
@@ -52,7 +52,7 @@ AgentProgram::AgentProgram(User user) {
   const int errors = open(files_.path("errors").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
   if (geteuid() == 0 && user == User::ordinary &&
       chown(files_.root().c_str(), ordinaryUser, ordinaryUser) != 0) {
-    throw std::runtime_error("home directory not given away");
+    throw std::runtime_error("owner of the home directory not changed");
   }
   pid_ = fork();
   if (pid_ == 0) {
@@ -84,7 +84,7 @@ bool AgentProgram::waitUntilReady() {
     if (statusOf(ask(programPort, RequestText{}.text())) == 401) {
       return true;
     }
-    std::this_thread::sleep_for(glance);
+    std::this_thread::sleep_for(checkInterval);
   }
   return false;
 }
@@ -95,7 +95,7 @@ int AgentProgram::waitForEnd() {
     if (Clock::now() > end) {
       throw std::runtime_error("the program does not end");
     }
-    std::this_thread::sleep_for(glance);
+    std::this_thread::sleep_for(checkInterval);
   }
   return WIFEXITED(status_) ? WEXITSTATUS(status_) : -WTERMSIG(status_);
 }

@@ -17,8 +17,7 @@ inline constexpr std::uint16_t programPort = 7823;
 /// The built program as a child process; ended with this object.
 class AgentProgram final {
  public:
-  /// Who runs it: this user, or one with no rights of his own, whose home
-  /// directory is `home()`.
+  /// Who runs it: this user, or an ordinary one, whose home directory is `home()`.
   enum class User { current, ordinary };
 
   explicit AgentProgram(User user = User::current);
@@ -30,7 +29,7 @@ class AgentProgram final {
   [[nodiscard]] std::string home() const { return files_.root(); }
 
   [[nodiscard]] bool hasEnded();
-  /// Waits until its port answers; false when it ends instead.
+  /// Waits until its port answers; false if it ends instead.
   [[nodiscard]] bool waitUntilReady();
   /// Waits for its end; the exit code, or the signal's number made negative.
   [[nodiscard]] int waitForEnd();

@@ -54,10 +54,10 @@ TEST_F(Interface, AnswersTheFourRequests) {
   EXPECT_EQ(std::count_if(inventory->services.begin(), inventory->services.end(),
                           [](const auto& name) { return name.ends_with("-agent"); }),
             1)
-      << "it serves itself";
+      << "the agent is one of the services";
 }
 
-TEST_F(Interface, TellsErrorsApart) {
+TEST_F(Interface, AnswersEachErrorWithItsStatus) {
   EXPECT_EQ(statusOfRequest(good_), 200);
   auto request = good_;
   request.token.back() = request.token.back() == '0' ? '1' : '0';
@@ -88,7 +88,7 @@ TEST_F(Interface, ListensOnLoopbackAddressOneOnly) {
   close(descriptor);
 }
 
-TEST_F(Interface, ServesAtOnceBehindAThousandSlowConnections) {
+TEST_F(Interface, ServesAtOnceDespiteAThousandSlowConnections) {
   rlimit files{};
   ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
   files.rlim_cur = std::min<rlim_t>(files.rlim_max, 4096);
@@ -101,14 +101,14 @@ TEST_F(Interface, ServesAtOnceBehindAThousandSlowConnections) {
     slow.back()->send("GET /api/status HTTP/1.1\r\nX-Filler: " + std::string(4000, 'x'));
   }
   EXPECT_EQ(statusOfRequest(good_), 200);
-  EXPECT_LE(openSockets(), 65) << "the one that listens, and 64 clients";
-  EXPECT_GE(openSockets(), 60) << "the slow ones are there as well";
+  EXPECT_LE(openSockets(), 65) << "the listening one, and 64 clients";
+  EXPECT_GE(openSockets(), 60) << "the slow ones are open, too";
 }
 
 class Findings : public ProgramTest {
  protected:
-  /// Those that are not about the home directories of this machine's users,
-  /// which the sandbox leaves in sight.
+  /// All except those about home directories of this machine's users, which are visible
+  /// in the sandbox.
   [[nodiscard]] static std::vector<ThreatAlert> alerts() {
     auto response = decode<AlertsResponse>(bodyOf(get("/api/alerts")));
     if (!response) {
@@ -159,7 +159,7 @@ TEST_F(Findings, ShowASetUidFileAndADeletedProgramThatRuns) {
   EXPECT_GE(decode<AgentStatus>(bodyOf(get("/api/status")))->threat_count, 2);
 }
 
-TEST_F(Findings, ShowACleartextServiceAndWhoServesIt) {
+TEST_F(Findings, ShowACleartextServiceAndItsProcess) {
   const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   sockaddr_in address{};
   address.sin_family = AF_INET;

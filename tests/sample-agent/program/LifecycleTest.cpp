@@ -25,7 +25,7 @@ class Lifecycle : public ProgramTest {
   }
 };
 
-TEST_F(Lifecycle, EndsCleanlyWhenTold) {
+TEST_F(Lifecycle, EndsCleanlyOnASignal) {
   for (const int signal : {SIGTERM, SIGINT}) {
     AgentProgram agent;
     ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
@@ -35,18 +35,18 @@ TEST_F(Lifecycle, EndsCleanlyWhenTold) {
   }
 }
 
-TEST_F(Lifecycle, EndsCleanlyInTheMiddleOfRequests) {
+TEST_F(Lifecycle, EndsCleanlyDuringRequests) {
   AgentProgram agent;
   ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
   const RawClient unfinished(programPort);
   ASSERT_TRUE(unfinished.send("GET /api/status HTTP/1.1\r\n"));
-  // Its answer shows that the one before it has been taken on.
+  // This answer shows that the server has accepted the connection before it.
   EXPECT_EQ(statusOf(get("/api/status")), 200);
   EXPECT_EQ(agent.stop(SIGTERM), 0);
   EXPECT_EQ(agent.errors(), "");
 }
 
-TEST_F(Lifecycle, KeepsItsTokenToItselfAndForTheNextStart) {
+TEST_F(Lifecycle, KeepsItsTokenPrivateAndForTheNextStart) {
   std::string first;
   {
     AgentProgram agent;
@@ -66,7 +66,7 @@ TEST_F(Lifecycle, KeepsItsTokenToItselfAndForTheNextStart) {
   EXPECT_EQ(statusOf(get("/api/status")), 200);
 }
 
-TEST_F(Lifecycle, KeepsAnOrdinaryUsersTokenInHisHome) {
+TEST_F(Lifecycle, KeepsAnOrdinaryUsersTokenInTheHomeDirectory) {
   AgentProgram agent(AgentProgram::User::ordinary);
   ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
   const auto path = agent.home() + "/.quillmark/token";
@@ -80,7 +80,7 @@ TEST_F(Lifecycle, KeepsAnOrdinaryUsersTokenInHisHome) {
   EXPECT_EQ(statusOf(ask(programPort, request.text())), 200);
 }
 
-TEST_F(Lifecycle, ServesOnceWhenStartedTwiceAtOnce) {
+TEST_F(Lifecycle, ServesOnceWhenStartedTwiceAtTheSameTime) {
   for (int round = 0; round < 5; ++round) {
     SetUp();
     AgentProgram one;
@@ -98,23 +98,23 @@ TEST_F(Lifecycle, ServesOnceWhenStartedTwiceAtOnce) {
   }
 }
 
-TEST_F(Lifecycle, SaysThatThePortIsTaken) {
+TEST_F(Lifecycle, ReportsThatThePortIsInUse) {
   AgentProgram first;
   ASSERT_TRUE(first.waitUntilReady()) << first.errors();
   AgentProgram second;
   EXPECT_EQ(second.waitForEnd(), 1);
   EXPECT_EQ(second.errors(), "127.0.0.1:7823: Address already in use\n");
   EXPECT_EQ(second.output(), "");
-  EXPECT_EQ(statusOf(get("/api/status")), 200) << "the first goes on";
+  EXPECT_EQ(statusOf(get("/api/status")), 200) << "the first still serves";
 }
 
-TEST_F(Lifecycle, ComesBackWithTokenAndPortWhenKilled) {
+TEST_F(Lifecycle, StartsWithTheSameTokenAndPortAfterItWasKilled) {
   std::string first;
   {
     AgentProgram agent;
     ASSERT_TRUE(agent.waitUntilReady()) << agent.errors();
     first = token();
-    // Connections of all ages stay behind in the system.
+    // Connections in several states remain in the system.
     const RawClient waiting(programPort);
     ASSERT_TRUE(waiting.send("GET /api"));
     EXPECT_EQ(statusOf(get("/api/status")), 200);
@@ -127,8 +127,8 @@ TEST_F(Lifecycle, ComesBackWithTokenAndPortWhenKilled) {
   EXPECT_EQ(statusOf(get("/api/status")), 200);
 }
 
-// It would be sent to whoever holds the port.
-TEST_F(Lifecycle, MakesNoTokenForWhoeverHoldsThePort) {
+// Clients would send it to the process that has the port.
+TEST_F(Lifecycle, CreatesNoTokenIfAnotherProcessHasThePort) {
   boost::asio::io_context context;
   const auto other = listenForClients(context);
   ASSERT_TRUE(other);
@@ -145,10 +145,10 @@ TEST_F(Lifecycle, RefusesAMalformedConfiguration) {
   EXPECT_EQ(agent.waitForEnd(), 2);
   EXPECT_TRUE(agent.errors().starts_with(path + ":2:")) << agent.errors();
   EXPECT_TRUE(isOneLine(agent.errors())) << agent.errors();
-  EXPECT_FALSE(std::filesystem::exists(tokenFile())) << "it has not begun to serve";
+  EXPECT_FALSE(std::filesystem::exists(tokenFile())) << "it did not start to serve";
 }
 
-TEST_F(Lifecycle, HeedsTheConfiguration) {
+TEST_F(Lifecycle, FollowsTheConfiguration) {
   writeFile(home() + "/.quillmark/config.toml",
             "[detection]\nenabled = false\n[protection]\nenabled = true\n"
             "[telemetry]\ncollect_network = false\ncollect_services = false\n");
@@ -163,7 +163,7 @@ TEST_F(Lifecycle, HeedsTheConfiguration) {
   EXPECT_NE(bodyOf(get("/api/inventory")).find("\"services\":[],"), std::string::npos);
 }
 
-TEST_F(Lifecycle, RefusesATokenFileThatIsNone) {
+TEST_F(Lifecycle, RefusesAFolderInPlaceOfTheTokenFile) {
   std::filesystem::create_directories(tokenFile());
   AgentProgram agent;
   EXPECT_EQ(agent.waitForEnd(), 1);

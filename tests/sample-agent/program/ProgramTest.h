@@ -21,8 +21,8 @@
 
 namespace quillmark::sample::test {
 
-/// Each test begins as on a machine that has never seen the agent. The paths
-/// and the port are the real ones, so it runs in the sandbox only.
+/// Each test starts as on a machine on which the agent has never run. The paths and the
+/// port are the real ones, so it runs only in the sandbox.
 class ProgramTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -52,7 +52,7 @@ class ProgramTest : public testing::Test {
   }
 };
 
-/// With the agent up, and a request that it answers.
+/// With a running agent, and a request that it answers.
 class RunningProgramTest : public ProgramTest {
  protected:
   void SetUp() override {
