@@ -26,11 +26,11 @@
 namespace quillmark::test {
 namespace {
 
-// By what curves may differ that are drawn in opposite directions: less than
-// anyone can see, and far less than a pixel out of place.
+// How much a curve may differ from its mirror image: invisible, and far less than
+// a pixel out of place.
 constexpr int tolerance = 8;
 
-/// A white window with one thing in it, moved to a screen of another scale.
+/// A white window with one item, on a screen with the given scale.
 class BoxWindow : public testing::Test {
  protected:
   BoxWindow() { prepareForViews(engine_); }
@@ -86,7 +86,7 @@ TEST_P(BoxShapeTest, HasCornersThatMirrorEachOther) {
   show(std::get<1>(GetParam()), std::get<0>(GetParam()));
   const auto atRest = drawn();
   ASSERT_FALSE(atRest.isNull());
-  // As a page does that scrolls, by parts of a pixel too.
+  // As a page that scrolls moves it, also by fractions of a pixel.
   for (const qreal way : {0.0, 1.0, 2.0, 3.0, 0.3, 0.4, 0.7, 11.1}) {
     holder()->setPosition(QPointF(20 + way, 20 + way));
     const auto image = drawn();
@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
 class BoxTest : public BoxWindow, public testing::WithParamInterface<std::string> {};
 
 TEST_P(BoxTest, HasTheSizeOfItsItem) {
-  // At first no more than its corners.
+  // The first size has room only for the corners.
   show("Box { width: 12; height: 24; radius: 6; color: 'green' }", GetParam());
   for (const QSize size : {QSize(12, 24), QSize(104, 56), QSize(24, 12)}) {
     box()->setSize(size);
@@ -129,7 +129,7 @@ TEST_P(BoxTest, HasRoundCorners) {
   const auto image = drawn();
   const QColor white("white");
   const QColor green("green");
-  // Where a circle about the corner's middle meets the diagonal.
+  // How far from the box's corner the arc meets the diagonal.
   const auto tip = 12 * scale() * (1 - std::sqrt(0.5));
   const int outside = static_cast<int>(std::floor(tip)) - 1;
   const int inside = static_cast<int>(std::ceil(tip)) + 1;
@@ -137,10 +137,10 @@ TEST_P(BoxTest, HasRoundCorners) {
   EXPECT_EQ(image.pixelColor(inside, inside), green);
 }
 
-TEST_P(BoxTest, HasABorderAsThickOnAllSides) {
+TEST_P(BoxTest, HasABorderOfOneThicknessOnAllSides) {
   show("Box { width: 93; height: 29; radius: 6; color: 'yellow'; borderColor: 'blue' }",
        GetParam());
-  // The thinnest is not lost, but as thin as can be.
+  // Even the thinnest border has one pixel.
   for (const qreal width : {0.2, 1.0, 2.0}) {
     box()->setProperty("borderWidth", width);
     const auto image = drawn();
@@ -155,7 +155,7 @@ TEST_P(BoxTest, HasABorderAsThickOnAllSides) {
   }
 }
 
-TEST_P(BoxTest, FollowsItsLook) {
+TEST_P(BoxTest, FollowsItsProperties) {
   show("Box { width: 40; height: 24; color: 'green' }", GetParam());
   const std::vector<std::pair<const char*, QVariant>> changes{{"color", QColor("red")},
                                                               {"radius", 9},
@@ -169,7 +169,7 @@ TEST_P(BoxTest, FollowsItsLook) {
   }
 }
 
-TEST_P(BoxTest, IsNothingWithoutSize) {
+TEST_P(BoxTest, DrawsNothingWithoutASize) {
   show("Box { width: 40; height: 24; color: 'green' }", GetParam());
   box()->setHeight(0);
   EXPECT_TRUE(drawn().isNull());
@@ -177,7 +177,7 @@ TEST_P(BoxTest, IsNothingWithoutSize) {
   EXPECT_FALSE(drawn().isNull());
 }
 
-TEST_P(BoxTest, IsAsFaintAsItsItem) {
+TEST_P(BoxTest, HasTheOpacityOfItsItem) {
   show("Box { width: 40; height: 24; radius: 6; color: 'black'; opacity: 0.5 }", GetParam());
   EXPECT_NEAR(drawn().pixelColor(drawn().rect().center()).red(), 127, 2);
 }

@@ -58,7 +58,7 @@ double coverage(const QImage& image) {
 class IconTest : public testing::TestWithParam<std::string> {};
 
 // The sizes that views use, at the pixel ratios of common displays.
-TEST_P(IconTest, HasExactlyTheSizeAskedFor) {
+TEST_P(IconTest, HasExactlyTheRequestedSize) {
   for (const int side : {16, 24, 28, 32, 42, 48, 64, 72, 96}) {
     const auto image = drawn(GetParam(), Qt::black, QSize(side, side));
     EXPECT_EQ(image.size(), QSize(side, side));
@@ -67,14 +67,14 @@ TEST_P(IconTest, HasExactlyTheSizeAskedFor) {
   }
 }
 
-TEST_P(IconTest, HasNothingButItsColour) {
+TEST_P(IconTest, HasOnlyItsColour) {
   for (const QColor color :
        {QColor(0x0B, 0x5F, 0xD9), QColor(0xC4, 0x23, 0x2B), QColor(Qt::white)}) {
     const auto image = drawn(GetParam(), color, QSize(48, 48));
     for (int y = 0; y < image.height(); ++y) {
       for (int x = 0; x < image.width(); ++x) {
         const auto pixel = image.pixelColor(x, y);
-        // Fainter pixels are stored too coarsely to tell their colour.
+        // The colour of fainter pixels is stored too coarsely for a comparison.
         if (pixel.alpha() >= 128) {
           ASSERT_NEAR(pixel.red(), color.red(), 2);
           ASSERT_NEAR(pixel.green(), color.green(), 2);
@@ -107,7 +107,7 @@ TEST(IconProvider, DrawsEveryNameDifferently) {
   }
 }
 
-TEST(IconProvider, TakesItsOwnSizeWhereNoneIsAskedFor) {
+TEST(IconProvider, HasADefaultSize) {
   EXPECT_EQ(drawn("gear", Qt::black, QSize()).size(), QSize(24, 24));
 }
 

@@ -17,10 +17,10 @@
 namespace quillmark::test {
 namespace {
 
-/// Notes which sizes the views ask for.
-class NotingProvider final : public QQuickImageProvider {
+/// Records the sizes that the views request.
+class RecordingProvider final : public QQuickImageProvider {
  public:
-  explicit NotingProvider(QList<QSize>& sizes) : QQuickImageProvider(Image), sizes_(sizes) {}
+  explicit RecordingProvider(QList<QSize>& sizes) : QQuickImageProvider(Image), sizes_(sizes) {}
 
   QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override {
     sizes_.append(requestedSize);
@@ -37,7 +37,7 @@ TEST(SymbolIcon, IsDrawnInThePixelsOfTheDisplay) {
   QList<QSize> sizes;
   QQmlEngine engine;
   prepareForViews(engine);
-  engine.addImageProvider(QStringLiteral("icon"), new NotingProvider(sizes));
+  engine.addImageProvider(QStringLiteral("icon"), new RecordingProvider(sizes));
   QQmlComponent component(&engine);
   component.setData(R"(
       import QtQuick.Window

@@ -40,17 +40,17 @@ class MaskedTextTest : public testing::Test {
   std::unique_ptr<QObject> field_;
 };
 
-TEST_F(MaskedTextTest, IsKeptBack) {
+TEST_F(MaskedTextTest, IsTextOfAMaskedField) {
   make("Password");
   expectTextIsMasked(true);
 }
 
-TEST_F(MaskedTextTest, IsNoOtherFieldsText) {
+TEST_F(MaskedTextTest, IsNotTextOfAnotherField) {
   make("Normal");
   expectTextIsMasked(false);
 }
 
-TEST_F(MaskedTextTest, IsNothingThatIsNoField) {
+TEST_F(MaskedTextTest, IsNotTextOfOtherObjects) {
   QObject object;
   EXPECT_FALSE(tellsMaskedText(QAccessibleTextInsertEvent(&object, 0, QStringLiteral("a"))));
 }

@@ -8,12 +8,12 @@
 
 namespace quillmark::test {
 
-/// How far apart the two pixels are that differ most, 0 to 255. Pictures of
-/// unequal size are as far apart as can be.
+/// The largest difference between two pixels at the same place, 0 to 255; 255 for
+/// pictures of unequal size.
 [[nodiscard]] int difference(const QImage& one, const QImage& other);
 
-/// What is not of the colour in the top left corner. What moves may leave a trace
-/// behind of the faintest shade.
+/// The bounds of what differs from the colour in the top left corner. Ignores the
+/// faintest shade, which an item may leave behind when it moves.
 [[nodiscard]] QRect inked(const QImage& image);
 
 /// How many pixels of the colour there are from one point on, in one direction.

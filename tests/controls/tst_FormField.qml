@@ -48,14 +48,14 @@ ViewTest {
         compareColor(border.borderColor, Theme.blue);
     }
 
-    function test_placeholderStandsInAnEmptyField() {
+    function test_placeholderIsShownInAnEmptyField() {
         const view = field();
         compareLabel(labelOf(view, "Type it"), 12, Font.Normal, Theme.gray);
         view.value = "x";
         compare(textsIn(view).includes("Type it"), false);
     }
 
-    function test_tellsWhatIsTyped() {
+    function test_reportsWhatIsTyped() {
         const view = field();
         mouseClick(inputOf(view));
         keyClick("a");

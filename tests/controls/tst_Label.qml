@@ -13,23 +13,23 @@ ViewTest {
         compareLabel(label, 13, Font.Normal, Theme.text);
     }
 
-    function test_isReadAloudAsItIs() {
+    function test_isReadAloudUnchanged() {
         const label = make(component, { text: "a<b && c>d" });
         compare(label.Accessible.role, Accessible.StaticText);
         compare(label.Accessible.name, "a<b && c>d");
     }
 
-    // A right-to-left text begins where every other does.
+    // Right-to-left texts, too.
     function test_beginsAtTheLeft() {
         const label = make(component, { text: "שלום", width: 300 });
         compare(label.effectiveHorizontalAlignment, Text.AlignLeft);
     }
 
-    function test_wrapsWhereItsWidthEnds_data() {
+    function test_wrapsAtItsWidth_data() {
         return [{ tag: "words", text: "many words ".repeat(20) }, { tag: "one word", text: "X".repeat(200) }];
     }
 
-    function test_wrapsWhereItsWidthEnds(data) {
+    function test_wrapsAtItsWidth(data) {
         const free = make(component, { text: data.text });
         compare(free.lineCount, 1);
         const label = make(component, { text: data.text, width: free.width / 2.5 });

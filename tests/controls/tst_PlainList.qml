@@ -17,19 +17,19 @@ ViewTest {
         return view;
     }
 
-    /// How far down a list goes that is at its end.
+    /// The `contentY` of a list that is scrolled to its end.
     function endOf(view) {
         return view.originY + view.contentHeight - view.height;
     }
 
-    function test_rowsLieOnWhiteWithALineBetween() {
+    function test_rowsAreWhiteWithALineBetween() {
         const view = list(3);
         const row = view.itemAtIndex(1);
         const inset = Theme.listRowInset;
         compare(row.width, 400);
         compare(row.height, rowHeight + 2 * inset);
         const line = itemsOfType(row, "Rectangle").filter(item => item.height === 1)[0];
-        // But for the part of a pixel that decides how it is rounded.
+        // Except for a fraction of a pixel, which decides how it is rounded.
         fuzzyCompare(boxIn(line, row).bottom, row.height, 0.25);
         compareColor(line.color, Theme.separator);
         const content = itemsOfType(row, "Rectangle").filter(item => item.height === rowHeight)[0];
@@ -38,7 +38,7 @@ ViewTest {
         compareColor(ground.pixel(200, 290), Theme.listGround);
     }
 
-    function test_rowsLieCloseTogether() {
+    function test_rowsHaveNoGaps() {
         const view = list(3);
         compare(roomBelow(view.itemAtIndex(0), view.itemAtIndex(1)), 0);
         compare(view.contentHeight, 3 * view.itemAtIndex(0).height);
@@ -75,7 +75,7 @@ ViewTest {
         compare(view.contentY, view.originY);
     }
 
-    function test_keysLeaveAShortListWhereItIs() {
+    function test_keysDoNotScrollAShortList() {
         const view = list(2);
         for (const key of [Qt.Key_Down, Qt.Key_PageDown, Qt.Key_End, Qt.Key_Up, Qt.Key_Home]) {
             keyClick(key);
@@ -115,7 +115,7 @@ ViewTest {
         verify(!view.highlightItem);
     }
 
-    function test_clickTakesTheKeyboardWithoutARing() {
+    function test_clickTakesTheFocusWithoutARing() {
         const view = make(component, { width: 400, height: 300, model: 1000 });
         mouseClick(view, 100, 100);
         verify(view.activeFocus);

@@ -34,10 +34,10 @@ ViewTest {
     // From the middle of the button's left half; each move is relative to that.
     function test_pointer_data() {
         return [
-            { tag: "drifts inside", moves: [[10, 5], [25, 12], [40, -10]], count: 1 },
+            { tag: "moves inside", moves: [[10, 5], [25, 12], [40, -10]], count: 1 },
             { tag: "leaves", moves: [[0, 60]], count: 0 },
-            { tag: "leaves by little", moves: [[0, 21]], count: 0 },
-            { tag: "leaves and comes back", moves: [[0, 60], [5, 60], [5, 5]], count: 1 }
+            { tag: "leaves by a few pixels", moves: [[0, 21]], count: 0 },
+            { tag: "leaves and returns", moves: [[0, 60], [5, 60], [5, 5]], count: 1 }
         ];
     }
 
@@ -68,15 +68,15 @@ ViewTest {
         return test_pointer_data().concat([{ tag: "taps", moves: [[0, 0]], count: 1 }]);
     }
 
-    // Only a lapse of time makes a press a long one.
-    function holdOn() {
+    // A press becomes a long press only after this time.
+    function waitForLongPress() {
         wait(Qt.styleHints.mousePressAndHoldInterval + 200);
     }
 
     function test_held() {
         const view = pressable();
         mousePress(view);
-        holdOn();
+        waitForLongPress();
         mouseRelease(view);
         compare(pressed.count, 1);
     }
@@ -85,12 +85,12 @@ ViewTest {
         const view = pressable();
         const finger = touchEvent(view);
         finger.press(0, view, 25, 20).commit();
-        holdOn();
+        waitForLongPress();
         finger.release(0, view, 25, 20).commit();
         compare(pressed.count, 1);
     }
 
-    function test_quickTapsAreAsManyClicks() {
+    function test_everyQuickTapIsAClick() {
         const view = pressable();
         const finger = touchEvent(view);
         for (let i = 0; i < 5; ++i) {
@@ -121,15 +121,15 @@ ViewTest {
         return view;
     }
 
-    // Far enough for a drag to scroll the page.
-    function test_driftInAPage_data() {
+    // Moves far enough to scroll the page.
+    function test_moveInAPage_data() {
         return [
             { tag: "on the button", y: 90, scrolls: false, count: 1 },
             { tag: "below the button", y: 180, scrolls: true, count: 0 }
         ];
     }
 
-    function test_driftInAPage(data) {
+    function test_moveInAPage(data) {
         const view = page();
         mousePress(view, 100, data.y);
         for (let step = 1; step <= 6; ++step)
@@ -139,17 +139,17 @@ ViewTest {
         compare(pressed.count, data.count);
     }
 
-    function test_driftOfAFingerInAPage_data() {
-        return test_driftInAPage_data();
+    function test_moveOfAFingerInAPage_data() {
+        return test_moveInAPage_data();
     }
 
-    function test_driftOfAFingerInAPage(data) {
+    function test_moveOfAFingerInAPage(data) {
         const view = page();
         const finger = touchEvent(view);
         finger.press(0, view, 100, data.y).commit();
         for (let step = 1; step <= 6; ++step) {
             finger.move(0, view, 100, data.y - 10 * step).commit();
-            // Moves between two frames are taken for one.
+            // Qt merges the moves between two frames into one.
             verify(waitForRendering(view, patience));
         }
         finger.release(0, view, 100, data.y - 60).commit();
@@ -217,7 +217,7 @@ ViewTest {
         compare(ringOf(view).length, 1);
     }
 
-    function test_clickMayLeaveTheFocusAlone() {
+    function test_clickDoesNotHaveToTakeTheFocus() {
         const view = pressable();
         view.takesFocus = false;
         mouseClick(view);

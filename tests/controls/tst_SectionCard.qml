@@ -24,7 +24,7 @@ ViewTest {
         compareMiddleHeight(icon, title);
     }
 
-    function test_rowsLieUnderTheHeader() {
+    function test_rowsAreBelowTheHeader() {
         const view = card();
         const header = labelOf(view, "Section").parent;
         const row = itemOfType(view, "Rectangle");

@@ -8,7 +8,7 @@ import "../support/qml"
 ViewTest {
     name: "SoftShadow"
 
-    /// From each side's middle outwards, what is left of the white ground.
+    /// The colours from the middle of each side outwards.
     function sides() {
         const view = make(component);
         const image = grabImage(view);
@@ -23,7 +23,7 @@ ViewTest {
         ];
     }
 
-    function test_fallsOnAllSidesAlike() {
+    function test_isTheSameOnAllSides() {
         const [first, ...others] = sides();
         for (const other of others)
             compare(other, first);

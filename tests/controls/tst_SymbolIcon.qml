@@ -24,7 +24,7 @@ ViewTest {
         const sides = [12, 13, 14, 16, 24, 40].map(size => {
             const icon = make(component, { name: "gear", size: size });
             compare(icon.width, icon.height);
-            // Straight strokes lie on whole pixels then.
+            // An even width puts straight strokes on whole pixels.
             compare(icon.width % 2, 0);
             return icon.width;
         });

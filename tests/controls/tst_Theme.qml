@@ -50,7 +50,7 @@ ViewTest {
             compareContrast(data.tag, ground, 4.5);
     }
 
-    // White text stands on filled buttons.
+    // Filled buttons have white text.
     function test_textOnButtons_data() {
         return ["blue", "gray", "green", "red"].map(name => ({ tag: name }));
     }
@@ -80,7 +80,7 @@ ViewTest {
         compareColor(Theme.white, "#ffffff");
     }
 
-    // Told apart, since each says something of its own.
+    // They must differ, because each has its own meaning.
     function test_namedColoursDiffer() {
         const names = ["blue", "gray", "green", "red", "orange", "yellow", "black", "white"];
         compare(new Set(names.map(name => String(Theme[name]))).size, names.length);
