@@ -16,7 +16,7 @@ using std::filesystem::perms;
 
 class AccessTokenAsUser : public WithTokenFiles {};
 
-TEST_F(AccessTokenAsUser, IsThatOfTheHomeWhenTheSystemFileMayNotBeRead) {
+TEST_F(AccessTokenAsUser, IsTheHomeTokenWhenTheSystemFileMayNotBeRead) {
   writeFile(systemTokenPath(), "system");
   writeFile(homeTokenPath(), "home");
   EXPECT_EQ(readAccessToken(), "system");
@@ -24,7 +24,7 @@ TEST_F(AccessTokenAsUser, IsThatOfTheHomeWhenTheSystemFileMayNotBeRead) {
   EXPECT_EQ(readAccessToken(), "home");
 }
 
-TEST_F(AccessTokenAsUser, IsThatOfTheHomeWhenTheSystemFolderMayNotBeEntered) {
+TEST_F(AccessTokenAsUser, IsTheHomeTokenWhenTheSystemFolderMayNotBeEntered) {
   const std::string folder = "/var/run/quillmark";
   writeFile(systemTokenPath(), "system");
   writeFile(homeTokenPath(), "home");

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 class AccessToken : public WithTokenFiles {
  protected:
-  /// The folder of the system-wide file, for what is put there otherwise.
+  /// Creates the folder of the system-wide file, for tests that put something else there.
   static void makeSystemFolder() { fs::create_directories("/var/run/quillmark"); }
 
   static void expectHomeToken() {
@@ -31,14 +31,14 @@ class AccessToken : public WithTokenFiles {
 
 TEST_F(AccessToken, IsNoneWithoutAFile) { EXPECT_EQ(readAccessToken(), std::nullopt); }
 
-TEST_F(AccessToken, IsThatOfTheSystemFirst) {
+TEST_F(AccessToken, IsTheSystemTokenFirst) {
   writeFile(systemTokenPath(), "system");
   EXPECT_EQ(readAccessToken(), "system");
   writeFile(homeTokenPath(), "home");
   EXPECT_EQ(readAccessToken(), "system");
 }
 
-TEST_F(AccessToken, IsThatOfTheHomeOtherwise) { expectHomeToken(); }
+TEST_F(AccessToken, IsTheHomeTokenOtherwise) { expectHomeToken(); }
 
 TEST_F(AccessToken, HasNoWhiteSpaceAround) {
   for (const std::string space : {"\n", "\r\n", " ", "\t", "\n\n", " \t\r\n\f\v", "\u00A0",
@@ -55,7 +55,7 @@ TEST_F(AccessToken, HasNoWhiteSpaceAroundInTheHomeEither) {
   EXPECT_EQ(readAccessToken(), "token");
 }
 
-TEST_F(AccessToken, IsOtherwiseKeptAsItIs) {
+TEST_F(AccessToken, IsOtherwiseUnchanged) {
   for (const auto& token : {"two words\tand\nlines"s, "\uFEFFtoken"s, "\u200Btoken\u200B"s, "a\0b"s,
                             "caf\u00E9 \U0001F600"s, std::string(10000, 'x')}) {
     writeFile(systemTokenPath(), token + "\n");
@@ -76,7 +76,7 @@ TEST_F(AccessToken, IsEmptyWhenTheHomeFileIsBlank) {
   EXPECT_EQ(readAccessToken(), "");
 }
 
-TEST_F(AccessToken, IsThatOfTheHomeWhenTheSystemFileIsNotUtf8) {
+TEST_F(AccessToken, IsTheHomeTokenWhenTheSystemFileIsNotUtf8) {
   for (const std::string text : {"\xFF", "token\xE9\n", "\xED\xA0\x80", "\n\xC3"}) {
     writeFile(systemTokenPath(), text);
     expectHomeToken();
@@ -89,20 +89,20 @@ TEST_F(AccessToken, IsNoneWhenNeitherFileIsUtf8) {
   EXPECT_EQ(readAccessToken(), std::nullopt);
 }
 
-TEST_F(AccessToken, IsThatOfTheHomeWhenAFolderHasTheSystemFilesName) {
+TEST_F(AccessToken, IsTheHomeTokenWhenAFolderHasTheSystemFilesName) {
   fs::create_directories(systemTokenPath());
   expectHomeToken();
 }
 
 // Nobody writes to it: reading would wait for ever.
-TEST_F(AccessToken, IsThatOfTheHomeWhenAFifoHasTheSystemFilesName) {
+TEST_F(AccessToken, IsTheHomeTokenWhenAFifoHasTheSystemFilesName) {
   makeSystemFolder();
   ASSERT_EQ(mkfifo(systemTokenPath().c_str(), 0600), 0);
   EXPECT_EQ(readAccessToken(), std::nullopt);
   expectHomeToken();
 }
 
-TEST_F(AccessToken, IsThatOfTheHomeWhenADeviceHasTheSystemFilesName) {
+TEST_F(AccessToken, IsTheHomeTokenWhenADeviceHasTheSystemFilesName) {
   makeSystemFolder();
   fs::create_symlink("/dev/zero", systemTokenPath());
   expectHomeToken();
@@ -124,7 +124,7 @@ TEST_F(AccessToken, HasAFileOfAtMostOneMebibyte) {
   expectHomeToken();
 }
 
-TEST_F(AccessToken, IsReadAnewEachTime) {
+TEST_F(AccessToken, IsReadAgainEachTime) {
   writeFile(systemTokenPath(), "first");
   EXPECT_EQ(readAccessToken(), "first");
   writeFile(systemTokenPath(), "second");

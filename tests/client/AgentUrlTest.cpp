@@ -10,7 +10,7 @@
 namespace quillmark::test {
 namespace {
 
-TEST(AgentUrl, TakesAUrlApart) {
+TEST(AgentUrl, SplitsAUrl) {
   const auto request = quillmark::requestTo("http://127.0.0.2:80/some/path?with=query");
   ASSERT_TRUE(request);
   EXPECT_EQ(request->server.address().to_string(), "127.0.0.2");
@@ -21,14 +21,14 @@ TEST(AgentUrl, TakesAUrlApart) {
   EXPECT_EQ(request->token, "");
 }
 
-TEST(AgentUrl, IsNoneForWhatIsNoUrl) {
+TEST(AgentUrl, IsNoneForMalformedUrls) {
   for (const std::string text :
        {"", "/api/status", "127.0.0.1:7823", "http://127.0.0.1:7823/a b"}) {
     EXPECT_FALSE(quillmark::requestTo(text)) << text;
   }
 }
 
-// To look up a name is to ask somebody.
+// Looking up a name would send a request to another server.
 TEST(AgentUrl, IsNoneForNamesAndForOtherAddresses) {
   for (const std::string host : {"localhost", "agent.example", "127.0.0.256", "[::1]", ""}) {
     EXPECT_FALSE(quillmark::requestTo("http://" + host + ":7823/api/status")) << host;

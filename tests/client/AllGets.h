@@ -13,7 +13,7 @@
 
 namespace quillmark::test {
 
-/// What the four operations of one client completed with.
+/// The results of the four operations of one client.
 struct AllGets {
   std::optional<AgentStatus> status;
   std::optional<std::vector<ThreatAlert>> alerts;
@@ -23,7 +23,7 @@ struct AllGets {
   friend bool operator==(const AllGets&, const AllGets&) = default;
 };
 
-/// So that a failed comparison can be read.
+/// Makes failed comparisons readable.
 inline void PrintTo(const AllGets& gets, std::ostream* out) {
   *out << "status: " << (gets.status ? encode(*gets.status) : "none")
        << "\nalerts: " << (gets.alerts ? encode(AlertsResponse{*gets.alerts}) : "none")

@@ -15,10 +15,10 @@
 namespace quillmark::test {
 namespace {
 
-// Just enough for what is read here, so that a little more than that is too much.
+// A low limit, so that short texts can exceed it.
 constexpr HttpLimits limits{.headerBytes = 64};
 
-/// The body of an answer that comes in pieces of this size.
+/// The body of an answer that arrives in pieces of this size.
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
   AnswerReader reader(limits);
   while (!reader.isOver() && !answer.empty()) {
@@ -72,13 +72,13 @@ TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {
   EXPECT_TRUE(isSameInPieces(answer("", fifty + fifty), std::nullopt));
 }
 
-// The size of the last chunk is then the first thing of the body.
-TEST(AnswerReaderInPieces, ReadsNoChunks) {
+// The body then begins with the size of the last chunk.
+TEST(AnswerReaderInPieces, ReadsTheSameEmptyBody) {
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n\r\n", ""));
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\nX: y\r\n\r\n", ""));
 }
 
-TEST(AnswerReaderInPieces, RefusesTheSame) {
+TEST(AnswerReaderInPieces, RefusesTheSameMalformedAnswers) {
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
   EXPECT_TRUE(isSameInPieces(chunkedHeader + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));

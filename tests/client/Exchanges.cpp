@@ -71,7 +71,7 @@ std::vector<Body> exchangesCutAtEveryByte(const std::string& answer,
       [&](const ReceivedRequest& request, Connection& connection) {
         const auto cut = std::stoul(request.target().substr(1));
         connection.send(std::string_view(answer).substr(0, cut));
-        // So that the client most likely takes it before the end comes.
+        // So that the client most likely reads it before the connection ends.
         connection.pause(50ms);
         end(connection);
       },

@@ -18,7 +18,7 @@
 
 namespace quillmark::test {
 
-/// What an exchange completes with.
+/// The result of an exchange.
 using Body = std::optional<std::string>;
 inline constexpr auto noBody = std::nullopt;
 
@@ -33,14 +33,14 @@ class WithExecutor : public testing::Test {
 
 [[nodiscard]] std::future<Body> startExchange(HttpRequest request, HttpLimits limits = {});
 
-/// All that an exchange with a server that does this completes with.
+/// The full result of one exchange with a server that does `behaviour`.
 [[nodiscard]] HttpResult resultWith(const std::function<void(Connection&)>& behaviour,
                                     HttpLimits limits = {});
 
 /// One exchange with the server on `port`.
 [[nodiscard]] Body exchangeWith(std::uint16_t port, HttpLimits limits = {});
 
-/// One exchange with a server that does this.
+/// One exchange with a server that does `behaviour`.
 [[nodiscard]] Body exchangeWith(const std::function<void(Connection&)>& behaviour,
                                 HttpLimits limits = {});
 
@@ -50,13 +50,13 @@ class WithExecutor : public testing::Test {
 /// One exchange with a server that sends `answer` and keeps the connection.
 [[nodiscard]] Body exchangeForKept(std::string answer, HttpLimits limits = {});
 
-/// As many exchanges at once as `answer` has places to be cut at: in the n-th,
-/// n bytes of the answer arrive, and then the connection comes to this end.
+/// Concurrent exchanges, one for each place at which `answer` can be cut: in number n,
+/// the server sends n bytes of the answer and then calls `end`.
 [[nodiscard]] std::vector<Body> exchangesCutAtEveryByte(
     const std::string& answer, const std::function<void(Connection&)>& end);
 
-/// How many connections reached `backend` so far. It must answer: one more
-/// connection, which is sure to come after all others, is counted off.
+/// How many connections reached `backend` so far. `backend` must answer, because this
+/// opens one more connection, which comes after all others and is not counted.
 [[nodiscard]] int connectionsSoFar(const Backend& backend);
 
 }  // namespace quillmark::test

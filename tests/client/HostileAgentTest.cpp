@@ -27,7 +27,7 @@ constexpr auto theRequest =
     "GET /api/status HTTP/1.1\r\nHost: 127.0.0.1:7823\r\nX-Agent-Token: token\r\n"
     "Connection: close\r\n\r\n";
 
-/// A place that a client could be sent to; whoever connects stays in its queue.
+/// A server to which a client could be redirected; connections stay in its queue.
 class Elsewhere {
  public:
   explicit Elsewhere(const char* address)
@@ -51,8 +51,8 @@ class Elsewhere {
   tcp::acceptor acceptor_;
 };
 
-/// A client with a token, and at the agent's port one that sends what it is
-/// told to, or else behaves.
+/// A client with a token, and a server on the agent's port that sends what a test sets
+/// or good answers.
 class HostileAgent : public WithTokenFiles {
  protected:
   HostileAgent() { writeFile(systemTokenPath(), "token\n"); }
@@ -62,8 +62,8 @@ class HostileAgent : public WithTokenFiles {
     return completed(client().getStatus());
   }
 
-  /// That the agent is asked no more than that, and that a good answer is taken
-  /// as if nothing had been.
+  /// Expects that the agent got only `asked` requests, and that the client still accepts
+  /// a good answer.
   void expectNoHarm(std::size_t asked) {
     EXPECT_EQ(backend_.requests().size(), asked);
     EXPECT_EQ(statusFrom(good), goodStatus);
@@ -124,23 +124,25 @@ class HostileAgent : public WithTokenFiles {
   }};
 };
 
-TEST_F(HostileAgent, SendsTheClientNowhereByAStatus) {
+TEST_F(HostileAgent, CannotRedirectTheClientByAStatus) {
   for (const auto& place : otherPlaces()) {
     expectEach(answersOfEveryStatus(statusBody, place));
   }
 }
 
-TEST_F(HostileAgent, SendsTheClientNowhereByAField) {
+TEST_F(HostileAgent, CannotRedirectTheClientByAField) {
   for (const auto& place : otherPlaces()) {
     expectEach(answersWithDemands(statusBody, place));
   }
 }
 
-TEST_F(HostileAgent, FramesItsAnswersAsItLikes) { expectEach(answersInEveryFraming(statusBody)); }
+TEST_F(HostileAgent, FramesItsAnswersInEveryWay) { expectEach(answersInEveryFraming(statusBody)); }
 
-TEST_F(HostileAgent, EncodesItsAnswersAsItLikes) { expectEach(answersInEveryEncoding(statusBody)); }
+TEST_F(HostileAgent, EncodesItsAnswersInEveryWay) {
+  expectEach(answersInEveryEncoding(statusBody));
+}
 
-TEST_F(HostileAgent, SpeaksAnotherProtocol) { expectEach(answersOfOtherProtocols(statusBody)); }
+TEST_F(HostileAgent, UsesAnotherProtocol) { expectEach(answersOfOtherProtocols(statusBody)); }
 
 TEST_F(HostileAgent, ResetsTheConnectionAfterAnyByte) {
   const std::string answer = okAnswer(statusBody);

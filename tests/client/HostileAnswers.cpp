@@ -12,7 +12,7 @@ using namespace std::string_literals;
 using enum HostileAnswer::Yields;
 using Answers = std::vector<HostileAnswer>;
 
-/// A 200 answer with this field on top.
+/// A 200 answer with this additional field.
 HostileAnswer withField(const std::string& field, const std::string& body,
                         HostileAnswer::Yields yields) {
   return {field.substr(0, 60), answer("200 OK", body, field + "\r\n"), yields};

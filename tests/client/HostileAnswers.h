@@ -9,31 +9,30 @@
 
 namespace quillmark::test {
 
-/// What somebody in the agent's place may send when asked for the status.
+/// What a hostile server on the agent's port may send as the status.
 struct HostileAnswer {
   enum class Yields { theRecord, nothing };
 
-  std::string what;  ///< for the eyes
+  std::string what;  ///< a description, for failure messages
   std::string bytes;
   Yields yields;
 };
 
-/// This piece that many times.
+/// `piece`, repeated `count` times.
 std::string repeated(int count, std::string_view piece);
 
-/// Whatever the status says, the body decides: the good `body` yields the
-/// record and any other nothing. Where a status or field names another place to
-/// go to, it is `elsewhere`, the beginning of a URL.
+/// For almost every status only the body decides: the good `body` yields the record,
+/// any other nothing. Redirections lead to `elsewhere`, the beginning of a URL.
 std::vector<HostileAnswer> answersOfEveryStatus(const std::string& body,
                                                 const std::string& elsewhere);
 /// Fields that ask for something that the client never does.
 std::vector<HostileAnswer> answersWithDemands(const std::string& body,
                                               const std::string& elsewhere);
-/// Every way to tell where the body ends, and every lie about it.
+/// Every way to mark the end of the body, correct and incorrect.
 std::vector<HostileAnswer> answersInEveryFraming(const std::string& body);
-/// Bodies in other encodings, and far too much of one.
+/// Bodies in other encodings, and bodies that are too large.
 std::vector<HostileAnswer> answersInEveryEncoding(const std::string& body);
-/// What is no answer at all.
+/// Answers of other protocols, and malformed status lines.
 std::vector<HostileAnswer> answersOfOtherProtocols(const std::string& body);
 
 }  // namespace quillmark::test

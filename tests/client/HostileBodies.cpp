@@ -15,7 +15,7 @@ using Answers = std::vector<HostileAnswer>;
 
 const std::string statusLine = "HTTP/1.1 200 OK\r\n";
 
-/// A 200 answer whose framing is these fields alone.
+/// A 200 answer that has only these fields, which determine its framing.
 HostileAnswer framed(const std::string& fields, const std::string& rest,
                      HostileAnswer::Yields yields) {
   return {fields + " " + rest.substr(0, 20), statusLine + fields + "\r\n\r\n" + rest, yields};
@@ -97,9 +97,9 @@ Answers answersInEveryEncoding(const std::string& body) {
        answer("200 OK", "\x1F\x8B\x08\0\0\0\0\0\0\x03\x4B\x04\0"s, "Content-Encoding: gzip\r\n"),
        nothing},
       {"two bodies", okAnswer(body + body), nothing},
-      {"endlessly deep", okAnswer(repeated(100'000, R"({"a":)")), nothing},
-      {"past 64 MiB", okAnswer(body + std::string(std::size_t{64} << 20, ' ')), nothing},
-      {"blanks alone", okAnswer(std::string(1'000'000, ' ')), nothing},
+      {"nested too deeply", okAnswer(repeated(100'000, R"({"a":)")), nothing},
+      {"more than 64 MiB", okAnswer(body + std::string(std::size_t{64} << 20, ' ')), nothing},
+      {"only spaces", okAnswer(std::string(1'000'000, ' ')), nothing},
       {"many keys", okAnswer('{' + repeated(200'000, R"("k":0,)") + body.substr(1)), theRecord},
   };
 }

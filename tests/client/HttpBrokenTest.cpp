@@ -19,7 +19,7 @@ class HttpBroken : public WithExecutor {};
 const std::string smallChunkedAnswer =
     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n4\r\nbody\r\n0\r\n\r\n";
 
-TEST_F(HttpBroken, ServerThatIsNotThere) {
+TEST_F(HttpBroken, NoServer) {
   asio::io_context context;
   asio::ip::tcp::acceptor acceptor(context, {asio::ip::address_v4::loopback(), 0});
   const auto port = acceptor.local_endpoint().port();
@@ -29,7 +29,7 @@ TEST_F(HttpBroken, ServerThatIsNotThere) {
 
 TEST_F(HttpBroken, ServerThatClosesAtOnce) { EXPECT_EQ(exchangeFor(""), noBody); }
 
-TEST_F(HttpBroken, AnswerThatBreaksOffAnywhere) {
+TEST_F(HttpBroken, AnswerThatEndsAfterAnyByte) {
   const auto close = [](Connection&) {};
   for (const auto& answer : {okAnswer("body"), smallChunkedAnswer}) {
     for (const auto& body : exchangesCutAtEveryByte(answer, close)) {
@@ -38,7 +38,7 @@ TEST_F(HttpBroken, AnswerThatBreaksOffAnywhere) {
   }
 }
 
-TEST_F(HttpBroken, AnswerThatIsResetAnywhere) {
+TEST_F(HttpBroken, AnswerThatIsResetAfterAnyByte) {
   const auto reset = [](Connection& connection) { connection.reset(); };
   for (const auto& answer :
        {okAnswer("body"), smallChunkedAnswer, "HTTP/1.1 200 OK\r\n\r\nbody"s}) {
@@ -48,7 +48,7 @@ TEST_F(HttpBroken, AnswerThatIsResetAnywhere) {
   }
 }
 
-TEST_F(HttpBroken, ResetAtTheEndOfABodyThatOnlyTheEndOfTheConnectionEnds) {
+TEST_F(HttpBroken, ResetAfterABodyWithoutALength) {
   EXPECT_EQ(exchangeWith([](Connection& connection) {
               connection.send("HTTP/1.1 200 OK\r\n\r\nbody");
               connection.reset();
@@ -56,7 +56,7 @@ TEST_F(HttpBroken, ResetAtTheEndOfABodyThatOnlyTheEndOfTheConnectionEnds) {
             noBody);
 }
 
-TEST_F(HttpBroken, ResetAfterAWholeAnswerDoesNotMatter) {
+TEST_F(HttpBroken, ResetAfterACompleteAnswerDoesNotMatter) {
   EXPECT_EQ(exchangeWith([](Connection& connection) {
               connection.send(okAnswer("body"));
               connection.reset();

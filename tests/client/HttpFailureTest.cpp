@@ -20,7 +20,7 @@ HttpResult resultFor(const std::string& answer, HttpLimits limits = {}) {
   return resultWith([&](Connection& connection) { connection.send(answer); }, limits);
 }
 
-TEST_F(Failure, IsTheServersAbsence) {
+TEST_F(Failure, IsNotConnectedWithoutAServer) {
   asio::io_context context;
   asio::ip::tcp::acceptor acceptor(context, {asio::ip::address_v4::loopback(), 0});
   const auto port = acceptor.local_endpoint().port();
@@ -28,18 +28,18 @@ TEST_F(Failure, IsTheServersAbsence) {
   EXPECT_EQ(completed(exchange(requestTo(port), {})).error(), HttpFailure::notConnected);
 }
 
-TEST_F(Failure, IsAnAnswerThatBreaksOff) {
+TEST_F(Failure, IsBrokenOffForAnIncompleteAnswer) {
   for (const std::string answer :
        {"", "HTTP/1.1 200 OK\r\nContent-Le", "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nbody"}) {
     EXPECT_EQ(resultFor(answer).error(), HttpFailure::brokenOff) << answer;
   }
 }
 
-TEST_F(Failure, IsWhatIsNoHttp) {
+TEST_F(Failure, IsMalformedForAnotherProtocol) {
   EXPECT_EQ(resultFor("SSH-2.0-Server\r\n").error(), HttpFailure::malformed);
 }
 
-TEST_F(Failure, IsTooMuchOfHeaderOrBody) {
+TEST_F(Failure, IsTooLargeForALongHeaderOrBody) {
   HttpLimits limits;
   limits.headerBytes = 1024;
   limits.bodyBytes = 10;
@@ -48,7 +48,7 @@ TEST_F(Failure, IsTooMuchOfHeaderOrBody) {
   EXPECT_EQ(resultFor(okAnswer("twelve bytes"), limits).error(), HttpFailure::tooLarge);
 }
 
-TEST_F(Failure, IsNotAStatusThatTellsOfOne) {
+TEST_F(Failure, IsNoneForAnErrorStatus) {
   const auto result = resultFor(answer("503 Service Unavailable", "body"));
   ASSERT_TRUE(result);
   EXPECT_EQ(result->status, 503U);

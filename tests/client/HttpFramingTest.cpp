@@ -20,37 +20,37 @@ const std::string chunkedAnswer =
     "0;last\r\nX-Trailer: t\r\n\r\n";
 const std::string chunkedBody = "{\"a\":1,\"b\":\"\r\n\"}";
 
-TEST_F(HttpFraming, IsALength) {
+TEST_F(HttpFraming, IsByLength) {
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nbody"), "body");
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\ncontent-length:4\r\n\r\nbody"), "body");
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"), "");
 }
 
-TEST_F(HttpFraming, IsChunks) {
+TEST_F(HttpFraming, IsByChunks) {
   EXPECT_EQ(exchangeFor(chunkedAnswer), chunkedBody);
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n\r\n"), "");
 }
 
-TEST_F(HttpFraming, IsTheEndOfTheConnection) {
+TEST_F(HttpFraming, IsByTheEndOfTheConnection) {
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\nbody"), "body");
   EXPECT_EQ(exchangeFor("HTTP/1.0 200 OK\r\n\r\nbody"), "body");
   EXPECT_EQ(exchangeFor("HTTP/1.1 200 OK\r\n\r\n"), "");
 }
 
-// Waiting for such a server to close would take until the silence is too long.
-TEST_F(HttpFraming, EndsAnAnswerOnAConnectionThatIsKept) {
+// Such a server does not close the connection before the client's time limit.
+TEST_F(HttpFraming, EndsAnAnswerOnAConnectionThatStaysOpen) {
   EXPECT_EQ(exchangeForKept(okAnswer("body")), "body");
   EXPECT_EQ(exchangeForKept(answer("200 OK", "body", "Connection: keep-alive\r\n")), "body");
   EXPECT_EQ(exchangeForKept(okAnswer("")), "");
   EXPECT_EQ(exchangeForKept(chunkedAnswer), chunkedBody);
 }
 
-TEST_F(HttpFraming, EndsAnAnswerThatHasNoBodyByItsStatus) {
+TEST_F(HttpFraming, EndsAnAnswerWhoseStatusAllowsNoBody) {
   EXPECT_EQ(exchangeForKept("HTTP/1.1 204 No Content\r\n\r\n"), "");
   EXPECT_EQ(exchangeForKept("HTTP/1.1 304 Not Modified\r\nContent-Length: 4\r\n\r\n"), "");
 }
 
-TEST_F(HttpFraming, LeavesAloneWhatFollowsTheAnswer) {
+TEST_F(HttpFraming, IgnoresWhatFollowsTheAnswer) {
   EXPECT_EQ(exchangeFor(okAnswer("body") + "more"), "body");
   EXPECT_EQ(exchangeFor(okAnswer("body") + okAnswer("another")), "body");
   EXPECT_EQ(exchangeFor(chunkedAnswer + chunkedAnswer), chunkedBody);

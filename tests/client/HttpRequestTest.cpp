@@ -46,7 +46,7 @@ TEST_F(HttpRequestBytes, CarryAnEmptyTokenAsAnEmptyField) {
                                   "\r\nX-Agent-Token: \r\nConnection: close\r\n\r\n");
 }
 
-TEST_F(HttpRequestBytes, CarryTheTokenAsItIs) {
+TEST_F(HttpRequestBytes, CarryTheTokenUnchanged) {
   for (const std::string token : {"a b", "a\tb", "a:b,c;d=\"e\"", "tok\u00E9n \U0001F600 \u200B"}) {
     auto request = requestTo(backend.port());
     request.token = token;
@@ -55,20 +55,20 @@ TEST_F(HttpRequestBytes, CarryTheTokenAsItIs) {
   }
 }
 
-TEST_F(HttpRequestBytes, CarryMethodAndTargetAsTheyAre) {
+TEST_F(HttpRequestBytes, CarryMethodAndTargetUnchanged) {
   auto request = requestTo(backend.port(), "/x?y=%20z");
   request.method = "OPTIONS";
   EXPECT_TRUE(bytesOf(request).starts_with("OPTIONS /x?y=%20z HTTP/1.1\r\n"));
 }
 
-TEST_F(HttpRequestBytes, TravelOnAConnectionOfTheirOwn) {
+TEST_F(HttpRequestBytes, UseASeparateConnectionEach) {
   for (int i = 1; i <= 3; ++i) {
     EXPECT_EQ(exchangeWith(backend.port()), "{}");
     EXPECT_EQ(backend.connections(), i);
   }
 }
 
-// The whole stream up to the client's end, not only what a server would parse.
+// Everything until the client closes, not only what a server would parse.
 TEST_F(HttpRequestBytes, AreAllThatIsSent) {
   asio::io_context context;
   asio::ip::tcp::acceptor acceptor(context, {asio::ip::address_v4::loopback(), 0});

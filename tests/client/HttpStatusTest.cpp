@@ -12,7 +12,7 @@ namespace {
 
 class HttpStatus : public WithExecutor {};
 
-TEST_F(HttpStatus, OfAnInterimAnswerIsNotTheLast) {
+TEST_F(HttpStatus, OfInterimAnswersIsSkipped) {
   const std::string interim =
       "HTTP/1.1 100 Continue\r\n\r\n"
       "HTTP/1.1 102 Processing\r\nX-Note: 1\r\n\r\n"
@@ -26,7 +26,7 @@ TEST_F(HttpStatus, OfAnInterimAnswerAloneIsNoAnswer) {
   EXPECT_EQ(exchangeFor("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200"), noBody);
 }
 
-TEST_F(HttpStatus, OfInterimAnswersWithoutEndIsNoAnswer) {
+TEST_F(HttpStatus, OfEndlessInterimAnswersIsNoAnswer) {
   EXPECT_EQ(exchangeWith([](Connection& connection) {
               while (connection.send("HTTP/1.1 100 Continue\r\n\r\n")) {
               }
@@ -34,7 +34,7 @@ TEST_F(HttpStatus, OfInterimAnswersWithoutEndIsNoAnswer) {
             noBody);
 }
 
-// Nobody asked for another protocol; what follows belongs to it.
+// The client did not request another protocol; the bytes that follow belong to it.
 TEST_F(HttpStatus, OfAnotherProtocolEndsTheAnswer) {
   EXPECT_EQ(exchangeForKept("HTTP/1.1 101 Switching Protocols\r\nUpgrade: x\r\n\r\n{}"), "");
 }

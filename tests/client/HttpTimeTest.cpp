@@ -24,9 +24,9 @@ class HttpTime : public WithExecutor {};
 
 constexpr HttpLimits shortTime{.time = 200ms};
 
-TEST_F(HttpTime, IsAMinuteUnlessToldOtherwise) { EXPECT_EQ(HttpLimits{}.time, 1min); }
+TEST_F(HttpTime, IsAMinuteByDefault) { EXPECT_EQ(HttpLimits{}.time, 1min); }
 
-TEST_F(HttpTime, EndsTheExchangeWhereverTheServerFallsSilent) {
+TEST_F(HttpTime, EndsTheExchangeWhereverTheServerStopsSending) {
   const std::string header = "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\n";
   const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
   for (const auto& said :
@@ -39,8 +39,8 @@ TEST_F(HttpTime, EndsTheExchangeWhereverTheServerFallsSilent) {
   }
 }
 
-// A server with a full queue lets nobody in, and says nothing about it.
-TEST_F(HttpTime, EndsAConnectionThatIsNotMade) {
+// A server with a full queue neither accepts nor refuses a connection.
+TEST_F(HttpTime, EndsAConnectionThatIsNotAccepted) {
   asio::io_context context;
   asio::ip::tcp::acceptor acceptor(context);
   acceptor.open(asio::ip::tcp::v4());
@@ -49,7 +49,7 @@ TEST_F(HttpTime, EndsAConnectionThatIsNotMade) {
   std::vector<asio::ip::tcp::socket> queue;
   for (int i = 0; i < 4; ++i) {
     queue.emplace_back(context).open(asio::ip::tcp::v4());
-    // Under way at once, though nobody waits for it.
+    // Starts at once, although no thread runs the context.
     queue.back().async_connect(acceptor.local_endpoint(), [](boost::system::error_code) {});
   }
   const auto start = Clock::now();
@@ -62,7 +62,7 @@ TEST_F(HttpTime, IsNotProlongedByBytes) {
   for (const auto& said : {"HTTP/1.1 200 OK\r\nX: "s, "HTTP/1.1 200 OK\r\n\r\n"s}) {
     const auto result = resultWith(
         [&](Connection& connection) {
-          for (bool heard = connection.send(said); heard; heard = connection.send("x")) {
+          for (bool isOpen = connection.send(said); isOpen; isOpen = connection.send("x")) {
             connection.pause(10ms);
           }
         },
@@ -72,7 +72,7 @@ TEST_F(HttpTime, IsNotProlongedByBytes) {
   }
 }
 
-TEST_F(HttpTime, OfWaitingTakesNoThread) {
+TEST_F(HttpTime, OfWaitingBlocksNoThread) {
   const Backend silent(
       [](const ReceivedRequest&, Connection& connection) { connection.staySilent(); }, 0);
   std::vector<std::future<Body>> waiting;

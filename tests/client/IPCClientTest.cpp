@@ -71,7 +71,7 @@ TEST_F(IPCClientGets, AskForOneTargetEach) {
   EXPECT_EQ(backend.connections(), 4);
 }
 
-TEST_F(IPCClientGets, TellAnEmptyListFromNone) {
+TEST_F(IPCClientGets, DistinguishAnEmptyListFromNone) {
   EXPECT_EQ(
       getAllFor(okAnswer(R"({"alerts":[],"connections":[]})")),
       (AllGets{noRecord, std::vector<ThreatAlert>{}, std::vector<NetworkConnection>{}, noRecord}));
@@ -117,7 +117,7 @@ TEST_F(IPCClientGets, YieldNothingForOneBadElement) {
             AllGets{});
 }
 
-TEST_F(IPCClientGets, YieldNothingForWhatIsNoJson) {
+TEST_F(IPCClientGets, YieldNothingForOtherBodies) {
   for (const std::string body : {"", "<html></html>", "{", "null", "[]"}) {
     EXPECT_EQ(getAllFor(okAnswer(body)), AllGets{}) << body;
   }

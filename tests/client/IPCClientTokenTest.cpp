@@ -19,7 +19,7 @@ class IPCClientToken : public WithTokenFiles {
  protected:
   Backend backend{goodAnswers()};
 
-  /// Completes all four, and tells which tokens came in.
+  /// Runs all four operations, and returns the tokens that arrived.
   std::vector<std::string> tokensOf(const IPCClient& client) const {
     const std::size_t before = backend.requests().size();
     static_cast<void>(getAll(client));
@@ -49,7 +49,7 @@ TEST_F(IPCClientToken, IsSentWithoutItsLineBreak) {
   EXPECT_EQ(tokensOf(client), fourTimes("system-token"));
 }
 
-TEST_F(IPCClientToken, IsThatOfTheHomeOtherwise) {
+TEST_F(IPCClientToken, IsTheHomeTokenOtherwise) {
   writeFile(homeTokenPath(), "home-token\r\n");
   const IPCClient client;
   EXPECT_EQ(tokensOf(client), fourTimes("home-token"));
@@ -60,10 +60,11 @@ TEST_F(IPCClientToken, IsSentEmptyWhenTheSystemFileIsBlank) {
   writeFile(homeTokenPath(), "home-token");
   const IPCClient client;
   EXPECT_EQ(tokensOf(client), fourTimes(""));
-  EXPECT_NE(getAll(client).status, std::nullopt) << "what the agent makes of it is its own affair";
+  EXPECT_NE(getAll(client).status, std::nullopt)
+      << "the agent decides whether it accepts the token";
 }
 
-TEST_F(IPCClientToken, IsSentInItsOwnBytes) {
+TEST_F(IPCClientToken, IsSentUnchanged) {
   for (const std::string token : {"two words", "a\tb", "caf\u00E9 \U0001F600", "\uFEFFtoken"}) {
     writeFile(systemTokenPath(), token);
     const IPCClient client;
@@ -78,12 +79,12 @@ TEST_F(IPCClientToken, MayBeLong) {
   EXPECT_EQ(tokensOf(client), fourTimes(token));
 }
 
-TEST_F(IPCClientToken, IfMissingLetsNothingBeSent) {
+TEST_F(IPCClientToken, IfMissingPreventsAllRequests) {
   const IPCClient client;
   expectNothingSent(client);
 }
 
-TEST_F(IPCClientToken, WithControlCharactersLetsNothingBeSent) {
+TEST_F(IPCClientToken, WithControlCharactersPreventsAllRequests) {
   for (const auto& token :
        {"two\nlines"s, "token\r\nHost: elsewhere"s, "a\0b"s, "a\x1B[0m"s, "a\x7F"s}) {
     writeFile(systemTokenPath(), token);
@@ -107,7 +108,7 @@ TEST_F(IPCClientToken, IsReadOnlyOnce) {
   EXPECT_EQ(tokensOf(client), fourTimes("first"));
 }
 
-TEST_F(IPCClientToken, IfMissingAtFirstIsMissedForEver) {
+TEST_F(IPCClientToken, IfMissingAtFirstIsNotReadLater) {
   const IPCClient client;
   writeFile(systemTokenPath(), "late");
   writeFile(homeTokenPath(), "late");
@@ -116,7 +117,7 @@ TEST_F(IPCClientToken, IfMissingAtFirstIsMissedForEver) {
 
 using IPCClientBeforeTheAgent = WithTokenFiles;
 
-TEST_F(IPCClientBeforeTheAgent, WithoutATokenSendsNothingWhenTheAgentComes) {
+TEST_F(IPCClientBeforeTheAgent, WithoutATokenSendsNothingWhenTheAgentStarts) {
   const IPCClient client;
   EXPECT_EQ(getAll(client), AllGets{});
   writeFile(systemTokenPath(), "token");
@@ -128,7 +129,7 @@ TEST_F(IPCClientBeforeTheAgent, WithoutATokenSendsNothingWhenTheAgentComes) {
   EXPECT_NE(getAll(restarted).status, std::nullopt);
 }
 
-TEST_F(IPCClientBeforeTheAgent, WithATokenYieldsRecordsOnceTheAgentComes) {
+TEST_F(IPCClientBeforeTheAgent, WithATokenYieldsRecordsWhenTheAgentStarts) {
   writeFile(systemTokenPath(), "token");
   const IPCClient client;
   EXPECT_EQ(getAll(client), AllGets{});

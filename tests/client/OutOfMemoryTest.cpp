@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
 
-/// Lets this process map `extra` bytes more than it does now; none: any number.
+/// Lets this process map `extra` bytes more than it does now; 0 removes the limit.
 void limitMemory(std::size_t extra) {
   rlimit limit{};
   getrlimit(RLIMIT_AS, &limit);
@@ -30,8 +30,8 @@ void limitMemory(std::size_t extra) {
   setrlimit(RLIMIT_AS, &limit);
 }
 
-/// Ends this process with 0 if a large body came to nothing for want of memory,
-/// and to a record with enough of it.
+/// Ends this process with 0 if a large body yields nothing with too little memory, and
+/// a record with enough.
 [[noreturn]] void pollWithLittleMemory(std::size_t extra) {
   writeFile(systemTokenPath(), "token");
   const Backend backend([](const ReceivedRequest&, Connection& connection) {
@@ -54,7 +54,7 @@ class OutOfMemory : public testing::Test {
   OutOfMemory() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 };
 
-TEST_F(OutOfMemory, WhileTheBodyComesYieldsNothing) {
+TEST_F(OutOfMemory, WhileTheBodyIsReceivedYieldsNothing) {
   EXPECT_EXIT(pollWithLittleMemory(20 * mebibyte), testing::ExitedWithCode(0), "");
 }
 
