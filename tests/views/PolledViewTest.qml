@@ -7,8 +7,8 @@ import Quillmark.Tests
 import Quillmark.ViewModel
 import "../support/qml"
 
-/// A test of views that show a view model with data from a real backend. Each
-/// test function has a view model of its own and good answers at first.
+/// A test of views that show a view model with data from a real backend. Each test
+/// function starts with a new view model and good answers.
 ViewTest {
     id: testCase
 
@@ -28,8 +28,8 @@ ViewTest {
         awaitPollOf(model ?? viewModel, () => lastAssigned.target.startPolling());
     }
 
-    /// A view with a view model of its own, which polls as soon as it is on
-    /// screen; that poll is over.
+    /// A view that has its own view model and polls as soon as it is on screen. Waits
+    /// for the end of that poll.
     function makePolling(component, properties) {
         const view = createTemporaryObject(component, testCase, properties);
         awaitPollOf(view.viewModel, () => {});
@@ -78,7 +78,7 @@ ViewTest {
             testBackend.fail("/api/" + name);
     }
 
-    /// A list of `count` elements, made of their numbers.
+    /// The list of `make(number)` for the numbers below `count`.
     function listOf(count, make) {
         return Array.from({ length: count }, (_, number) => make(number));
     }

@@ -8,7 +8,7 @@ import Quillmark.ViewModel
 import Quillmark.Views
 import "../support/qml"
 
-/// A test of one card of the Settings tab, on real settings in a home of its own.
+/// A test of one card of the Settings tab, with real settings in a temporary home.
 ViewTest {
     id: testCase
 
@@ -25,28 +25,28 @@ ViewTest {
         return makeWide(600, component, { settings: settings });
     }
 
-    /// The one button with this text.
+    /// The only button with this text.
     function buttonOf(card, text) {
         const found = itemsOfType(card, "ActionButton").filter(button => button.text === text);
         compare(found.length, 1, "buttons with the text " + text);
         return found[0];
     }
 
-    /// What else a button looks like is the same for all of them.
+    /// Checks what differs between buttons.
     function compareButton(button, icon, padding, ground) {
         compare(button.icon, icon);
         compare(button.padding, padding, "padding of " + button.text);
         compareColor(button.ground, ground, "ground of " + button.text);
     }
 
-    /// What else a card looks like is the same for all of them.
+    /// Checks what differs between cards.
     function compareCard(card, icon, title, spacing) {
         compare(card.icon, icon);
         compare(card.title, title);
         compare(card.spacing, spacing);
     }
 
-    /// The room between a card's rows, from its header on.
+    /// The gaps between a card's rows, including its header.
     function gapsIn(card) {
         const rows = Array.from(card.children[0].children).filter(row => row.visible);
         return rows.slice(1).map((row, index) => roomBelow(rows[index], row));

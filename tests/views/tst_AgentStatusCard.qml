@@ -41,7 +41,7 @@ SettingsCardTest {
         const view = card();
         compareStatus(view, "Agent is not running", Theme.red);
         verify(home.startAgent());
-        // The card shows what the last look found.
+        // The card shows the result of the last search.
         tryVerify(() => {
             settings.appear();
             return settings.isAgentRunning;

@@ -6,7 +6,7 @@ import Quillmark.Tests
 import Quillmark.Views
 import "../support/qml"
 
-/// Every text of the agent is painted whole; the header alone stops at three lines.
+/// Every text of the agent is painted completely; only the header stops at three lines.
 ViewTest {
     name: "AgentTexts"
 
@@ -32,21 +32,21 @@ ViewTest {
         ];
     }
 
-    /// Nothing of these labels is left out, hidden under another or outside `view`.
-    function verifyPaintedWhole(labels, view) {
+    /// No part of these labels is cut off, hidden under another one or outside `view`.
+    function verifyPaintedCompletely(labels, view) {
         const boxes = labels.map(label => boxIn(label, view));
         labels.forEach((label, i) => {
-            verify(!label.truncated, "whole: " + label.text.slice(0, 20));
-            // Qt breaks a word to within a pixel.
+            verify(!label.truncated, "complete: " + label.text.slice(0, 20));
+            // Qt breaks words with an accuracy of one pixel.
             verify(label.contentWidth < label.width + 1 && label.contentHeight <= label.height);
             verify(boxes[i].left >= 0 && boxes[i].right <= view.width);
             verify(boxes[i].top >= 0 && boxes[i].bottom <= view.height);
             for (const other of boxes.slice(0, i))
-                verify(other.bottom <= boxes[i].top || other.right <= boxes[i].left, "none lies over another");
+                verify(other.bottom <= boxes[i].top || other.right <= boxes[i].left, "none overlaps another");
         });
     }
 
-    /// Where there is ink in `box`, in an image of a view on a plain ground.
+    /// The first and last painted column in `box`, in an image of a view on a plain background.
     function inkIn(image, box) {
         let found = { left: Infinity, right: -Infinity };
         for (let y = Math.ceil(box.top); y < Math.floor(box.bottom); ++y) {
@@ -76,11 +76,11 @@ ViewTest {
         const shown = [[text, text], [text, "v" + text], [text + ":" + text, "→ " + text + ":" + text, text]];
         rows(text).forEach((row, i) => {
             compare(textsIn(row), shown[i]);
-            verifyPaintedWhole(labelsIn(row), row);
+            verifyPaintedCompletely(labelsIn(row), row);
         });
     }
 
-    // On no width is there a warning.
+    // No width causes a warning.
     function test_everyWidth_data() {
         return test_rows_data();
     }
@@ -89,7 +89,7 @@ ViewTest {
         for (const row of rows(data.text)) {
             for (row.width = 960; row.width > 400; row.width -= 33.3) {
                 settle(row);
-                verifyPaintedWhole(labelsIn(row), row);
+                verifyPaintedCompletely(labelsIn(row), row);
             }
         }
         const view = make(header, { width: 900, status: Sample.status(data.text, 3, data.text) });
@@ -114,12 +114,12 @@ ViewTest {
         }
     }
 
-    function test_onlyTheBeginningOfATextWithoutEnd() {
+    function test_onlyTheBeginningOfATextThatIsTooLong() {
         const beginning = texts["longest"] + "…";
         for (const row of rows(texts["longest"] + "X")) {
             for (const label of labelsIn(row))
                 compare(label.text.split(beginning).join("").replace(/^(v|→ )?:?$/, ""), "");
-            verifyPaintedWhole(labelsIn(row), row);
+            verifyPaintedCompletely(labelsIn(row), row);
         }
     }
 
@@ -127,7 +127,7 @@ ViewTest {
         return test_rows_data();
     }
 
-    // The window may be as narrow as this.
+    // At the minimum width of the window.
     function test_header(data) {
         const view = make(header, { width: 1000 - 2 * 20, status: Sample.status(data.text, -1234567890, data.text) });
         const lastScan = labelsIn(view).pop();
@@ -137,12 +137,12 @@ ViewTest {
             verify(label.lineCount <= headerLines);
             compare(label.truncated, label.lineCount === headerLines, "truncated only where there is no more room");
         }
-        verifyPaintedWhole(labelsIn(view).filter(label => !label.truncated), view);
-        verify(boxIn(lastScan, view).left >= boxIn(itemsOfType(view, "StatusBadge")[1], view).right, "none lies over another");
+        verifyPaintedCompletely(labelsIn(view).filter(label => !label.truncated), view);
+        verify(boxIn(lastScan, view).left >= boxIn(itemsOfType(view, "StatusBadge")[1], view).right, "none overlaps another");
         verify(boxIn(lastScan, view).bottom <= view.height);
     }
 
-    function test_headerSaysThatThereIsMore() {
+    function test_headerShowsThatTextIsCutOff() {
         const view = make(header, { width: 960, status: Sample.status("ok", 0, "a\nb\nc\nd") });
         const other = make(header, { width: 960, status: Sample.status("ok", 0, "a\nb\nc") });
         const [cut, whole] = [view, other].map(one => labelsIn(one).pop());
@@ -153,18 +153,18 @@ ViewTest {
         verify(cutInk.right - cutInk.left > wholeInk.right - wholeInk.left, "an ellipsis is painted");
     }
 
-    function test_headerUsesTheRoomThereIs_data() {
+    function test_headerUsesTheAvailableRoom_data() {
         const wide = "X".repeat(50);
         return [{ tag: "status", status: wide, lastScan: "yesterday" }, { tag: "last scan", status: "ok", lastScan: wide }];
     }
 
-    function test_headerUsesTheRoomThereIs(data) {
+    function test_headerUsesTheAvailableRoom(data) {
         const view = make(header, { width: 960, status: Sample.status(data.status, 0, data.lastScan) });
         for (const label of labelsIn(view))
             compare(label.lineCount, 1, label.text);
     }
 
-    function test_linesAtTheRightEndThere_data() {
+    function test_linesAtTheRightAreAlignedRight_data() {
         const text = "wide line of text\nend";
         return [
             { tag: "last scan", component: header, properties: { width: 960, status: Sample.status("ok", 0, text) } },
@@ -172,7 +172,7 @@ ViewTest {
         ];
     }
 
-    function test_linesAtTheRightEndThere(data) {
+    function test_linesAtTheRightAreAlignedRight(data) {
         const view = make(data.component, data.properties);
         const label = labelsIn(view).pop();
         const image = grabImage(view);

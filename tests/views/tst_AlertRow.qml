@@ -38,7 +38,7 @@ ViewTest {
         const icon = itemOfType(row(data.tag, "found"), "SymbolIcon");
         compare(icon.name, data.icon);
         compareColor(icon.color, data.color);
-        // As large as the text it stands in by default.
+        // As large as the default text.
         compare(icon.size, Theme.bodySize);
         compare(icon.status, Image.Ready);
     }
@@ -57,7 +57,7 @@ ViewTest {
         compareMiddleHeight(icon, view);
     }
 
-    function test_nothingTakesThePlaceOfAnAbsentDescription() {
+    function test_absentDescriptionTakesNoRoom() {
         const view = row("high", undefined);
         const icon = itemOfType(view, "SymbolIcon");
         const type = labelOf(view, "malware");

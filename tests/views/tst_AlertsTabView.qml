@@ -58,7 +58,7 @@ PolledViewTest {
         compare(listed, listOf(100, number => ["type " + number]));
     }
 
-    function test_orderIsTheAgents() {
+    function test_keepsTheAgentsOrder() {
         answerAlerts([alert(5), alert(1), alert(9), alert(1)]);
         poll();
         compare(rowsOf(tab()).map(row => textsIn(row)[0]), ["type 5", "type 1", "type 9", "type 1"]);
@@ -76,7 +76,7 @@ PolledViewTest {
         compare(rowsOf(view).length, 1);
     }
 
-    // Rows are used again: what one alert had must not stay for the next.
+    // Rows are reused: nothing of the alert before must remain.
     function test_rowsShowTheNewValues() {
         const view = tab();
         answerAlerts([{ alert_type: "one", severity: "critical", description: "described" }, alert(2)]);

@@ -41,7 +41,7 @@ ViewTest {
         compare(view.borderWidth, 0);
     }
 
-    function test_longPathEndsInAnEllipsisOnItsOneLine() {
+    function test_longPathIsOneLineWithAnEllipsis() {
         const view = row({ path: "/a/long/folder".repeat(20) });
         const path = labelOf(view, view.path);
         compare(path.lineCount, 1);

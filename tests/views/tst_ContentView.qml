@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.Views
 
-/// How the bands of the root view lie; tabs and polling have tests of their own.
+/// The layout of the root view; tabs and polling have their own tests.
 PolledViewTest {
     name: "ContentView"
 
@@ -16,12 +16,12 @@ PolledViewTest {
         return makePolling(component, { width: 1000, height: 700 });
     }
 
-    /// The white band round the header.
+    /// The white band around the header.
     function bandOf(view) {
         return itemOfType(view, "HeaderView").parent;
     }
 
-    /// The names of the tab views that exist, seen or not.
+    /// The names of the tab views that exist, visible or not.
     function tabViewsIn(item) {
         let found = tabViews.filter(name => isOfType(item, name));
         for (const child of Array.from(item.children))
@@ -39,7 +39,7 @@ PolledViewTest {
         compareColor(band.color, Theme.white);
     }
 
-    function test_headerCastsItsShadowOnWhatLiesBelow() {
+    function test_headerHasAShadowOnTheViewBelow() {
         const view = content();
         const band = bandOf(view);
         const shadow = itemsOfType(band, "SoftShadow")[0];

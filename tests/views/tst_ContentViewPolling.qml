@@ -6,7 +6,7 @@ import QtQuick.Window
 import QtTest
 import Quillmark.Views
 
-/// When the root view polls, and what of that the header shows.
+/// When the root view polls, and what the header then shows.
 PolledViewTest {
     id: testCase
 
@@ -14,7 +14,7 @@ PolledViewTest {
 
     readonly property var onePoll: ["/api/status", "/api/alerts", "/api/network", "/api/inventory"]
 
-    /// The requests that came in while `action` ran and its polls completed.
+    /// The requests that arrived while `action` ran and its polls completed.
     function requestsDuring(content, polls, action) {
         const before = backend.requests().length;
         completed.target = content.viewModel;
@@ -45,10 +45,10 @@ PolledViewTest {
         compare(requestsDuring(window.content, 1, () => window.show()), onePoll);
     }
 
-    function test_doesNotPollOnceMoreForAMaximizedWindow() {
+    function test_maximizingDoesNotPollAgain() {
         const window = openWindow();
         requestsDuring(window.content, 1, () => window.show());
-        // Only the poll asked for here is seen.
+        // There is only the poll that is started here.
         compare(requestsDuring(window.content, 1, () => {
             window.showMaximized();
             window.showNormal();
@@ -90,11 +90,11 @@ PolledViewTest {
         compare(content.selectedTab, "alerts");
     }
 
-    function test_everyWindowHasAViewModelOfItsOwn() {
+    function test_everyWindowHasItsOwnViewModel() {
         verify(openWindow().content.viewModel !== openWindow().content.viewModel);
     }
 
-    function test_closingAWindowWarnsOfNothing() {
+    function test_closingAWindowCausesNoWarning() {
         const window = openWindow();
         requestsDuring(window.content, 1, () => window.show());
         destroyed.target = window.content.Component;

@@ -114,7 +114,7 @@ PolledViewTest {
         compare(itemsOfType(view, "ScrollBar"), []);
     }
 
-    // The cards of the inventory go while the keyboard is in the page.
+    // The cards of the inventory disappear while the page has the focus.
     function test_keepsTheFocusWhenThereIsNothingLeftToScroll() {
         poll();
         const view = tab();

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Tests
 import Quillmark.Views
 
-/// Whatever the agent sends is shown as itself, and fetches nothing.
+/// Every text of the agent is shown unchanged, and fetches nothing.
 PolledViewTest {
     name: "HostileText"
 
@@ -31,7 +31,7 @@ PolledViewTest {
         return Object.keys(texts).map(tag => ({ tag: tag, text: texts[tag] }));
     }
 
-    /// The labels of `view` say exactly this, without reading it as anything.
+    /// The labels of `view` show exactly these texts, as plain text.
     function compareShown(view, expected) {
         compare(textsIn(view), expected);
         for (const label of labelsIn(view)) {
@@ -72,7 +72,7 @@ PolledViewTest {
         const view = makePolling(content, { width: 1000, height: 700, selectedTab: data.tag });
         verify(textsIn(view).includes(field.toUpperCase()));
         grabImage(view);
-        // A fetch would have been asked for before this poll.
+        // A fetch would have been requested before this poll.
         poll(view.viewModel);
         compare(backend.requests().filter(target => !target.startsWith("/api/")), []);
     }

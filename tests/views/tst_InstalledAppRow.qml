@@ -32,7 +32,7 @@ ViewTest {
         compare(view.height, name.height + 4 + version.height);
     }
 
-    function test_nothingTakesThePlaceOfAnAbsentVersion() {
+    function test_absentVersionTakesNoRoom() {
         const view = row("editor", undefined);
         compare(textsIn(view), ["editor"]);
         compare(view.height, labelOf(view, "editor").height);

@@ -20,7 +20,7 @@ PolledViewTest {
         return itemsOfType(view, "InstalledAppRow").sort((a, b) => boxIn(a, view).y - boxIn(b, view).y);
     }
 
-    /// The texts of all rows, whether in view or not, each seen once.
+    /// The texts of all rows, visible or not.
     function listedIn(view) {
         const list = itemOfType(view, "PlainList");
         return listOf(list.count, index => {

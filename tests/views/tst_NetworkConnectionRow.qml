@@ -48,7 +48,7 @@ ViewTest {
         compareMiddleHeight(state, view);
     }
 
-    function test_isOneHeightWhateverTheState() {
+    function test_heightDoesNotDependOnTheState() {
         compare(row("a", "1", "").implicitHeight, row("a", "1", "ESTABLISHED").implicitHeight);
     }
 
@@ -57,7 +57,7 @@ ViewTest {
         compare(labelsIn(view).map(label => label.lineCount), [1, 1, 1]);
     }
 
-    function test_eachHasHalfWhereBothAreLong() {
+    function test_eachSideHasHalfIfBothAreLong() {
         const view = row("endless".repeat(100), "1", "endless".repeat(100));
         const [local, remote, state] = labelsIn(view).map(label => boxIn(label, view));
         compare(local.width, state.width);
@@ -65,7 +65,7 @@ ViewTest {
         compare(state.right, view.width);
     }
 
-    // The taller side makes the row, the other one stands in its middle.
+    // The taller side determines the row's height, the other one is in the middle.
     function test_sidesOfUnequalHeight_data() {
         return [{ tag: "state", address: "a", state: "1\n2\n3\n4\n5" }, { tag: "endpoints", address: "1\n2", state: "a" }];
     }

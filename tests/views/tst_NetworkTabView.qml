@@ -52,14 +52,14 @@ PolledViewTest {
         ]);
     }
 
-    function test_orderIsTheAgents() {
+    function test_keepsTheAgentsOrder() {
         answerConnections([5, 1, 9, 1, 3].map(number => connection(number)));
         poll();
         compare(rowsOf(tab()).map(row => textsIn(row)[0]),
                 ["127.0.0.1:5", "127.0.0.1:1", "127.0.0.1:9", "127.0.0.1:1", "127.0.0.1:3"]);
     }
 
-    function test_riskLooksLikeNoRisk() {
+    function test_riskDoesNotChangeTheLook() {
         answerConnections([connection(1), connection(1, "high")]);
         poll();
         const rows = rowsOf(tab());

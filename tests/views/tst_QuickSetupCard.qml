@@ -40,7 +40,7 @@ SettingsCardTest {
         compare(key.echoMode, TextInput.Password);
     }
 
-    function test_fieldsFollowTheSettingsAndTheSettingsThem() {
+    function test_fieldsAndSettingsFollowEachOther() {
         const view = card();
         settings.serverUrl = "https://other.example";
         settings.apiKeyInput = "k";

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.Views
 
-/// A list that was scrolled stays where it is, whatever the polls bring.
+/// Polls do not move a list that was scrolled.
 PolledViewTest {
     name: "ScrollPosition"
 
@@ -25,7 +25,7 @@ PolledViewTest {
         return list;
     }
 
-    /// What is at the top of the list: its row and where that begins.
+    /// The row at the top of the list, and its position.
     function placeOf(list) {
         const row = list.indexAt(10, list.contentY + 1);
         return { contentY: list.contentY, row: row, y: list.itemAtIndex(row).y };
@@ -93,12 +93,12 @@ PolledViewTest {
 
     function test_goesToTheEndWhenTheRowsInViewAreGone_data() {
         return [
-            { tag: "and many above them", left: 100 },
-            { tag: "and none above them", left: 5000 }
+            { tag: "and many rows above them", left: 100 },
+            { tag: "and no row above them", left: 5000 }
         ];
     }
 
-    // There is nothing to stay at: the end is the nearest.
+    // The old place no longer exists; the end is the nearest.
     function test_goesToTheEndWhenTheRowsInViewAreGone(data) {
         const list = listAt(5000);
         answerRows(data.left, "LISTEN");

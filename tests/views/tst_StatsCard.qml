@@ -42,7 +42,7 @@ ViewTest {
         compare(boxIn(ground, ground.parent), Qt.rect(0, 0, ground.parent.width, ground.parent.height));
     }
 
-    function test_castsTheSoftShadow() {
+    function test_hasTheSoftShadow() {
         const view = card();
         const shadow = itemOfType(view, "SoftShadow");
         compare(shadow.radius, 8);

@@ -17,7 +17,7 @@ ViewTest {
         return itemOfType(view, "Box");
     }
 
-    function toldOf(view) {
+    function accessibleItemOf(view) {
         return view.children[0];
     }
 
@@ -62,24 +62,24 @@ ViewTest {
         ];
     }
 
-    // The dot's colour is nothing to those who cannot see it.
+    // Users who cannot see the dot's colour need its meaning as text.
     function test_accessible(data) {
         const view = badge(data.isHealthy);
-        const told = toldOf(view);
-        compare(told.Accessible.name, "Status: OK");
-        compare(told.Accessible.description, data.description);
-        verify(told.Accessible.focusable);
+        const item = accessibleItemOf(view);
+        compare(item.Accessible.name, "Status: OK");
+        compare(item.Accessible.description, data.description);
+        verify(item.Accessible.focusable);
         view.value = "OFFLINE";
-        compare(told.Accessible.name, "Status: OFFLINE");
+        compare(item.Accessible.name, "Status: OFFLINE");
     }
 
     function test_keyboardReachesIt() {
         const view = badge(true);
         compare(itemsOfType(view, "FocusRing").length, 0);
         keyClick(Qt.Key_Tab);
-        verify(toldOf(view).activeFocus);
+        verify(accessibleItemOf(view).activeFocus);
         const ring = boxIn(itemOfType(view, "FocusRing"), view);
-        verify(ring.left < 0 && ring.right > view.width, "the ring is clear of the texts");
+        verify(ring.left < 0 && ring.right > view.width, "the ring does not touch the texts");
     }
 
     Component {

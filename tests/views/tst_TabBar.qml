@@ -67,12 +67,12 @@ ViewTest {
         compareColor(bar("one").color, Theme.panelTint);
     }
 
-    function test_tellsWhichTabWasTapped() {
+    function test_reportsWhichTabWasTapped() {
         const view = bar("one");
         mouseClick(buttonsOf(view)[2]);
         compare(tapped.count, 1);
         compare(tapped.signalArguments[0][0], "three");
-        // Which tab is selected is the owner's to say.
+        // The owner decides which tab is selected.
         compare(view.selectedTab, "one");
     }
 
@@ -106,12 +106,12 @@ ViewTest {
             { tag: "previous", selected: "three", key: Qt.Key_PageUp, chosen: ["two"] },
             { tag: "none after the last", selected: "three", key: Qt.Key_PageDown, chosen: [] },
             { tag: "none before the first", selected: "one", key: Qt.Key_PageUp, chosen: [] },
-            { tag: "the first after none", selected: "four", key: Qt.Key_PageDown, chosen: ["one"] },
-            { tag: "nothing before none", selected: "four", key: Qt.Key_PageUp, chosen: [] }
+            { tag: "the first if none is selected", selected: "four", key: Qt.Key_PageDown, chosen: ["one"] },
+            { tag: "nothing if none is selected", selected: "four", key: Qt.Key_PageUp, chosen: [] }
         ];
     }
 
-    // Wherever the focus is.
+    // Independent of the focus.
     function test_neighbours(data) {
         bar(data.selected);
         keyClick(data.key, Qt.ControlModifier);

@@ -39,7 +39,7 @@ PolledViewTest {
         compare(underlined(), [button(data.tag).title]);
     }
 
-    function test_clickMovesTheLook() {
+    function test_clickChangesTheLook() {
         open();
         mouseClick(button("alerts"));
         compareColor(labelOf(button("alerts"), "Alerts").color, Theme.blue);
@@ -102,8 +102,8 @@ PolledViewTest {
         compare(content.selectedTab, "dashboard");
     }
 
-    // From the tabs on, Tab leads into the list, which the keys then scroll.
-    function test_tabLeadsIntoTheContent() {
+    // Tab moves the focus from the tabs into the list, which the keys then scroll.
+    function test_tabMovesTheFocusIntoTheContent() {
         backend.answer("/api/network", backend.connectionsBody(100, "LISTEN"));
         open();
         content.selectedTab = "network";
@@ -118,7 +118,7 @@ PolledViewTest {
         verify(button("settings").activeFocus);
     }
 
-    function test_comingBackShowsTheLatestWithoutARequest() {
+    function test_returningShowsTheLatestDataWithoutARequest() {
         open();
         mouseClick(button("network"));
         answerConnections([]);
