@@ -12,8 +12,7 @@
 
 namespace quillmark::test {
 
-/// An application bundle `name` with a small panel and a stand-in for the agent
-/// side by side.
+/// An application bundle `name` with a small panel and a substitute for the agent.
 class Bundle final {
  public:
   explicit Bundle(const std::string& name = "X.app") : path_(folder_ / name) {
@@ -26,12 +25,12 @@ class Bundle final {
   [[nodiscard]] const std::string& path() const { return path_; }
   [[nodiscard]] std::string programs() const { return path_ + "/Contents/MacOS"; }
 
-  /// What the panel of this bundle tells after `action`.
-  [[nodiscard]] std::string tells(const std::string& action) const {
+  /// The first line that the panel of this bundle prints for `action`.
+  [[nodiscard]] std::string resultOf(const std::string& action) const {
     return firstLineOf({programs() + "/panel", action});
   }
 
-  /// Whether its agent ever came up.
+  /// Whether its agent was ever started.
   [[nodiscard]] bool wasStarted() const { return std::filesystem::exists(programs() + "/started"); }
 
  private:

@@ -9,7 +9,7 @@
 namespace quillmark::test {
 namespace {
 
-/// Starting from bundles whose path a shell could take for more than a path.
+/// Starting from bundles whose path has characters that a shell interprets.
 class BundlePaths : public WithAgents {
  protected:
   BundlePaths() { makeLogFolder(); }
@@ -18,7 +18,7 @@ class BundlePaths : public WithAgents {
 TEST_F(BundlePaths, ThatBreakOutOfTheQuotesStartNothing) {
   for (const std::string name : {"Ann's.app", "'; touch injected; '.app", "'", "two\n'lines.app"}) {
     const Bundle bundle(name);
-    EXPECT_EQ(bundle.tells("start"), "Error: The application's path holds an apostrophe")
+    EXPECT_EQ(bundle.resultOf("start"), "Error: The application's path holds an apostrophe")
         << testing::PrintToString(name);
     EXPECT_TRUE(waitUntil(isAlone));
     EXPECT_EQ(namesIn(std::filesystem::path(bundle.path()).parent_path()),
@@ -36,12 +36,12 @@ TEST_F(BundlePaths, ThatStayQuotedStartTheirAgent) {
     const Bundle bundle(name);
     startAgent(bundle);
     EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); })) << testing::PrintToString(name);
-    endBearersOfTheName();
+    endProcessesWithTheName();
   }
 }
 
-// A program that lies in no bundle starts what lies in the same layout below
-// its own folder.
+// A program outside a bundle looks for the agent in the same layout, below its own
+// folder.
 TEST_F(BundlePaths, OfAProgramOutsideABundleAreItsFolder) {
   const Bundle bundle;
   const auto panel = bundle.path() + "/panel";
@@ -50,7 +50,7 @@ TEST_F(BundlePaths, OfAProgramOutsideABundleAreItsFolder) {
   EXPECT_TRUE(waitUntil([&] { return bundle.wasStarted(); }));
 }
 
-TEST_F(BundlePaths, AreThoseBehindALink) {
+TEST_F(BundlePaths, FollowALink) {
   const Bundle bundle;
   const TemporaryFolder elsewhere;
   std::filesystem::create_symlink(bundle.programs() + "/panel", elsewhere / "panel");

@@ -12,8 +12,8 @@
 #include <unistd.h>
 
 namespace quillmark::test {
-// The first line of the child's output. What the child started may live on and
-// keep that output open, so nobody waits for its end.
+// Reads one line and does not wait for the end of the output: a process that the child
+// started may keep it open.
 std::string firstLineOf(const std::vector<std::string>& program) {
   std::array<int, 2> ends{};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) {

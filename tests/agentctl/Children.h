@@ -11,8 +11,8 @@ namespace quillmark::test {
 /// The first line that a program prints.
 [[nodiscard]] std::string firstLineOf(const std::vector<std::string>& program);
 
-/// The first line that the driver prints for `action` on a machine that differs
-/// from this one by `options`, which are bubblewrap's.
+/// The first line that the driver prints for `action` inside bubblewrap with these
+/// `options`.
 [[nodiscard]] std::string elsewhere(const std::vector<std::string>& options,
                                     const std::vector<std::string>& action);
 

@@ -16,7 +16,7 @@ TEST(Commands, StartRunsTheAgentOfTheBundleInTheBackgroundWithItsOutputInTheLog)
   EXPECT_EQ(startCommand("/Applications/X.app", "/Users/u"), expected);
 }
 
-TEST(Commands, StartTakesBothPathsAsTheyAre) {
+TEST(Commands, StartUsesBothPathsUnchanged) {
   const Command expected{"/bin/bash",
                          {"-c",
                           "cd '/opt/My \"App\"/$X/Contents/MacOS' && ./tovel-agent > "
@@ -24,11 +24,11 @@ TEST(Commands, StartTakesBothPathsAsTheyAre) {
   EXPECT_EQ(startCommand("/opt/My \"App\"/$X", "/home/a b"), expected);
 }
 
-TEST(Commands, StopSignalsByTheWholeCommandLine) {
+TEST(Commands, StopMatchesTheWholeCommandLine) {
   EXPECT_EQ(stopCommand(), (Command{"/usr/bin/pkill", {"-f", "tovel-agent"}}));
 }
 
-TEST(Commands, ProbeLooksThroughAShell) {
+TEST(Commands, ProbeSearchesThroughAShell) {
   EXPECT_EQ(probeCommand(), (Command{"/bin/bash", {"-c", "pgrep -f tovel-agent"}}));
 }
 

@@ -8,7 +8,7 @@
 namespace quillmark::test {
 namespace {
 
-// Written out as it lies on the disk, not put together as the code does it.
+// The complete text as it is on the disk, not assembled as the code does it.
 constexpr auto expected = R"([agent]
 agent_id = "macos-host-0123ABCD"
 machine_identifier = "host"
@@ -50,7 +50,7 @@ level = "info"
 file_path = "/Users/u/.quillmark/logs/agent.log"
 audit_path = "/Users/u/.quillmark/logs/audit.log")";
 
-TEST(ConfigText, IsThisByteForByte) {
+TEST(ConfigText, IsExactlyThisText) {
   EXPECT_EQ(configText({.agentId = "macos-host-0123ABCD",
                         .machineIdentifier = "host",
                         .serverUrl = "https://server.example:8443/x",
@@ -63,7 +63,7 @@ TEST(ConfigText, Has750CharactersAroundTheValues) { EXPECT_EQ(configText({}).siz
 
 TEST(ConfigText, EndsWithoutALineFeed) { EXPECT_TRUE(configText({}).ends_with("audit.log\"")); }
 
-TEST(ConfigText, HoldsValuesAsTheyAre) {
+TEST(ConfigText, ContainsValuesUnchanged) {
   for (const std::string value : {"", " around ", "a\"b", "back\\slash", "two\nlines", "cr\r\n",
                                   "tab\t", "caf\u00E9 \U0001F600", "a = b # c", "[agent]"}) {
     const auto text = configText({.agentId = value,
@@ -83,7 +83,7 @@ TEST(ConfigText, HoldsValuesAsTheyAre) {
   }
 }
 
-TEST(ConfigText, HoldsNulCharacters) {
+TEST(ConfigText, ContainsNulCharacters) {
   const std::string key("a\0b", 3);
   EXPECT_NE(
       configText(

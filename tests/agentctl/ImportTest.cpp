@@ -21,7 +21,7 @@ using Outcome = ImportResult::Outcome;
 
 class Import : public WithHome {
  protected:
-  /// Every byte of `text` arrives.
+  /// Expects that every byte of `text` is imported.
   void expectImported(const std::string& text) const {
     writeFile(source, text);
     const auto result = importConfigFile(source);
@@ -29,7 +29,7 @@ class Import : public WithHome {
     EXPECT_TRUE(contentOf(configFile()) == text) << text.size() << " bytes";
   }
 
-  /// What is there does not even make a folder.
+  /// Expects a failure that does not even create a folder.
   void expectRefused(const std::string& path, const std::string& message) const {
     const auto result = importConfigFile(path);
     EXPECT_EQ(result.outcome, Outcome::failed);
@@ -56,7 +56,7 @@ TEST_F(Import, CopiesEveryByte) {
   expectImported(std::string("[agent]\0\n", 9));
 }
 
-TEST_F(Import, TakesAnAgentSectionAnywhere) {
+TEST_F(Import, AcceptsAnAgentSectionAnywhere) {
   expectImported("# [agent]\n");
   expectImported("x = \"[agent]\"\n");
   expectImported("[[agent]]\n");
@@ -67,11 +67,11 @@ TEST_F(Import, RefusesAFileWithoutAnAgentSection) {
   for (const std::string text : {"", "\n", "agent", "[Agent]", "[AGENT]", "[ agent ]", "[agent",
                                  "[agents]", "[agent.x]", "[age\nnt]", "api_key = \"k\"\n"}) {
     expectNoAgentSection(text);
-    EXPECT_FALSE(fs::exists(home() + "/.config")) << "nothing is made";
+    EXPECT_FALSE(fs::exists(home() + "/.config")) << "nothing is created";
   }
 }
 
-TEST_F(Import, WithoutAnAgentSectionLeavesTheConfigurationAsItIs) {
+TEST_F(Import, WithoutAnAgentSectionKeepsTheConfiguration) {
   writeFile(configFile(), "the old one");
   expectNoAgentSection("[other]");
   EXPECT_EQ(contentOf(configFile()), "the old one");
@@ -83,7 +83,7 @@ TEST_F(Import, ReplacesTheWholeFile) {
   EXPECT_EQ(namesIn(configFolder()), std::set<std::string>{"config.toml"});
 }
 
-TEST_F(Import, TakesSixtyFourMebibytesAndNoByteMore) {
+TEST_F(Import, AcceptsAtMostSixtyFourMebibytes) {
   std::string text = "[agent]\n";
   text.resize(67108864, '#');
   expectImported(text);
@@ -99,7 +99,7 @@ TEST_F(Import, RefusesWhatIsNotUtf8) {
   }
 }
 
-TEST_F(Import, RefusesWhatIsNoRegularFile) {
+TEST_F(Import, RefusesFilesThatAreNotRegular) {
   const auto fifo = home() + "/fifo";
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   fs::create_symlink(fifo, home() + "/link");
@@ -108,7 +108,7 @@ TEST_F(Import, RefusesWhatIsNoRegularFile) {
   }
 }
 
-TEST_F(Import, RefusesWhatIsNotThere) {
+TEST_F(Import, RefusesMissingFiles) {
   fs::create_symlink("nowhere", home() + "/dangling");
   fs::create_symlink("ring", home() + "/ring");
   expectRefused(source, "No such file or directory");
@@ -124,14 +124,14 @@ TEST_F(Import, FollowsALinkToAFile) {
   EXPECT_EQ(contentOf(configFile()), "[agent] behind a link");
 }
 
-TEST_F(Import, TakesTheConfigurationItself) {
+TEST_F(Import, AcceptsTheConfigurationItself) {
   writeFile(configFile(), "[agent]\nmine = 1\n");
   EXPECT_EQ(importConfigFile(configFile()).outcome, Outcome::imported);
   EXPECT_EQ(contentOf(configFile()), "[agent]\nmine = 1\n");
   EXPECT_EQ(namesIn(configFolder()), std::set<std::string>{"config.toml"});
 }
 
-TEST_F(Import, TakesALinkToTheConfigurationAndOneFromIt) {
+TEST_F(Import, AcceptsTheFileThatTheConfigurationLinksTo) {
   writeFile(home() + "/real", "[agent]\n");
   fs::create_directories(configFolder());
   fs::create_symlink(home() + "/real", configFile());
@@ -140,7 +140,7 @@ TEST_F(Import, TakesALinkToTheConfigurationAndOneFromIt) {
   EXPECT_EQ(contentOf(home() + "/real"), "[agent]\n");
 }
 
-TEST_F(Import, KeepsTheCopyForTheUserAlone) {
+TEST_F(Import, MakesTheCopyReadableForTheUserOnly) {
   writeFile(source, "[agent]");
   fs::permissions(source, fs::perms{0644});
   EXPECT_EQ(importConfigFile(source).outcome, Outcome::imported);

@@ -11,39 +11,39 @@
 namespace quillmark::test {
 namespace {
 
-/// What the user reads after `action` with nothing in the folder of programs.
+/// The first line that the driver prints for `action` with an empty /usr/bin.
 std::string withoutPrograms(const std::string& action) {
   return elsewhere({"--tmpfs", "/usr/bin"}, {action});
 }
 
-/// And where the program at `path` may not be run.
-std::string withBarred(const std::string& path, const std::string& action) {
+/// The same where the program at `path` may not be run.
+std::string withForbidden(const std::string& path, const std::string& action) {
   return elsewhere({"--bind", "/dev/null", path}, {action});
 }
 
 class MissingPrograms : public WithAgents {};
 
-TEST_F(MissingPrograms, AreAnErrorOfStartInTheSystemsWords) {
+TEST_F(MissingPrograms, AreReportedByStartWithTheSystemsMessage) {
   EXPECT_EQ(withoutPrograms("start"), "Error: No such file or directory");
-  EXPECT_EQ(withBarred("/usr/bin/bash", "start"), "Error: Permission denied");
+  EXPECT_EQ(withForbidden("/usr/bin/bash", "start"), "Error: Permission denied");
 }
 
-TEST_F(MissingPrograms, AreAnErrorOfStopInTheSystemsWords) {
+TEST_F(MissingPrograms, AreReportedByStopWithTheSystemsMessage) {
   EXPECT_EQ(withoutPrograms("stop"), "Error: No such file or directory");
-  EXPECT_EQ(withBarred("/usr/bin/pgrep", "stop"), "Error: Permission denied")
-      << "the other one is a link to this";
+  EXPECT_EQ(withForbidden("/usr/bin/pgrep", "stop"), "Error: Permission denied")
+      << "pkill is a link to pgrep";
 }
 
-TEST_F(MissingPrograms, AreAnErrorOfTheProbeInTheSystemsWords) {
+TEST_F(MissingPrograms, AreReportedByTheProbeWithTheSystemsMessage) {
   EXPECT_EQ(withoutPrograms("probe"), "Error: No such file or directory");
-  EXPECT_EQ(withBarred("/usr/bin/bash", "probe"), "Error: Permission denied");
+  EXPECT_EQ(withForbidden("/usr/bin/bash", "probe"), "Error: Permission denied");
 }
 
-TEST_F(MissingPrograms, AreNoRunningAgentToTheProbesShell) {
+TEST_F(MissingPrograms, MeanNoRunningAgentIfTheProbesShellLacksThem) {
   const Bundle bundle;
   startAgent(bundle);
   EXPECT_EQ(elsewhere({}, {"probe"}), "running");
-  EXPECT_EQ(withBarred("/usr/bin/pgrep", "probe"), "not running");
+  EXPECT_EQ(withForbidden("/usr/bin/pgrep", "probe"), "not running");
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ class Probe : public WithAgents {
   const Bundle bundle;
 };
 
-// Its own shell bears the name in its command line for a moment.
+// Its own shell has the name in its command line for a moment.
 TEST_F(Probe, NeverFindsItself) {
   for (int i = 0; i < 50; ++i) {
     ASSERT_FALSE(isRunning());
@@ -23,7 +23,7 @@ TEST_F(Probe, NeverFindsItself) {
 
 TEST_F(Probe, NeverFindsThePanel) {
   for (int i = 0; i < 10; ++i) {
-    ASSERT_EQ(bundle.tells("probe"), "not running");
+    ASSERT_EQ(bundle.resultOf("probe"), "not running");
   }
 }
 
@@ -31,18 +31,18 @@ TEST_F(Probe, FindsAnAgentThatThePanelDidNotStart) {
   std::filesystem::create_symlink("/bin/bash", home() + "/" + agentName);
   ASSERT_FALSE(startDetached({home() + "/" + agentName, {"-c", "while :; do sleep 0.1; done"}}));
   EXPECT_TRUE(waitUntil([] { return isRunning(); }));
-  EXPECT_EQ(bundle.tells("probe"), "running");
+  EXPECT_EQ(bundle.resultOf("probe"), "running");
 }
 
 TEST_F(Probe, FindsOneThatAnotherPanelStarted) {
   startAgent(bundle);
-  EXPECT_EQ(Bundle("Other.app").tells("probe"), "running");
+  EXPECT_EQ(Bundle("Other.app").resultOf("probe"), "running");
 }
 
-TEST_F(Probe, SeesThatAnAgentDied) {
+TEST_F(Probe, DetectsThatAnAgentHasEnded) {
   startAgent(bundle);
   EXPECT_TRUE(isRunning());
-  endBearersOfTheName();
+  endProcessesWithTheName();
   EXPECT_FALSE(isRunning());
 }
 

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 Process processAt(const fs::path& folder) {
   Process process;
   process.id = std::stoi(folder.filename());
-  // The name before the state is in brackets and may hold anything.
+  // The name before the state is in parentheses and may contain any character.
   const std::string stat = contentOf(folder / "stat");
   const auto nameStart = std::min(stat.find('(') + 1, stat.size());
   process.name = stat.substr(nameStart, stat.rfind(')') - nameStart);
@@ -60,13 +60,13 @@ std::vector<Process> agents() {
   return processesWhere([](const Process& process) { return process.program == agentName; });
 }
 
-std::vector<Process> bearersOfTheName() {
+std::vector<Process> processesWithTheName() {
   return processesWhere([](const Process& process) {
     return process.commandLine.find(agentName) != std::string::npos || process.name == agentName;
   });
 }
 
-bool startBearerOfTheName() {
+bool startProcessWithTheName() {
   return !startDetached(
       {"/bin/bash",
        {"-c", "while :; do sleep 0.1; done", "notes/" + std::string(agentName) + ".txt"}});
@@ -93,9 +93,9 @@ std::vector<Process> children() {
   return processesWhere([](const Process& process) { return process.parent == getpid(); });
 }
 
-void endBearersOfTheName() {
+void endProcessesWithTheName() {
   static_cast<void>(waitUntil([] {
-    for (const auto& process : bearersOfTheName()) {
+    for (const auto& process : processesWithTheName()) {
       kill(process.id, SIGKILL);
     }
     return isAlone();

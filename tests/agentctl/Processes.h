@@ -19,7 +19,7 @@ struct Process {
   pid_t parent = 0;
   char state = '?';
   pid_t session = 0;
-  std::string name;         ///< as the system keeps it, brackets dropped
+  std::string name;         ///< as in /proc/PID/stat, without parentheses
   std::string program;      ///< its executable's file name
   std::string commandLine;  ///< arguments joined by spaces
 };
@@ -29,23 +29,22 @@ struct Process {
 /// Those that run an executable with the agent's name.
 [[nodiscard]] std::vector<Process> agents();
 
-/// Those with the agent's name in their command line: the shells around agents
-/// too. An agent that has ended and is not yet accounted for has only its name,
-/// which the probe's tool takes for the command line.
-[[nodiscard]] std::vector<Process> bearersOfTheName();
+/// Those with the agent's name in their command line, including the shells that start
+/// agents. For a zombie, which has no command line, the probe's tool uses the name.
+[[nodiscard]] std::vector<Process> processesWithTheName();
 
-/// Starts a process that is no agent but has the name amidst its command line; it
-/// lasts until it is ended. Whether that worked.
-[[nodiscard]] bool startBearerOfTheName();
+/// Starts a process that is no agent but has the name in its command line, and runs
+/// until it is killed. False if that fails.
+[[nodiscard]] bool startProcessWithTheName();
 
-/// Whether nobody is there but this process and those above it. Looks twice: a
-/// shell that forks and ends in the midst of a look is missed with all it leaves.
+/// Whether only this process and its ancestors exist. Checks twice: one check may miss a
+/// shell that forks and ends meanwhile, and its children.
 [[nodiscard]] bool isAlone();
 
-/// Those that this process has to account for, zombies included.
+/// The children of this process, including zombies.
 [[nodiscard]] std::vector<Process> children();
 
-/// Ends every bearer of the name, by its id, and waits until it is gone.
-void endBearersOfTheName();
+/// Kills every process with the name, by its id, and waits for its end.
+void endProcessesWithTheName();
 
 }  // namespace quillmark::test

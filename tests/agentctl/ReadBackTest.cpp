@@ -34,7 +34,7 @@ TEST(ReadBack, FindsWhatWasSaved) {
             (ConfigEntries{"the-key", "https://server.example"}));
 }
 
-TEST(ReadBack, FindsNothingInNothing) {
+TEST(ReadBack, FindsNothingWithoutTheKeys) {
   EXPECT_EQ(readEntries(""), none);
   EXPECT_EQ(readEntries("\n\n\n"), none);
   EXPECT_EQ(readEntries("[agent]\nother = 1\n"), none);
@@ -47,7 +47,7 @@ TEST(ReadBack, CutsTheValueAtItsFirstEqualsSign) {
   EXPECT_EQ(readEntries("api_key == \"abc\""), none);
 }
 
-TEST(ReadBack, GoesByHowALineStarts) {
+TEST(ReadBack, ComparesOnlyTheStartOfALine) {
   EXPECT_EQ(readEntries("api_keys = \"k\""), key("k"));
   EXPECT_EQ(readEntries("api_key_of_another = \"k\""), key("k"));
   EXPECT_EQ(readEntries("server_url_old = \"u\""), url("u"));
@@ -61,23 +61,23 @@ TEST(ReadBack, SkipsComments) {
   EXPECT_EQ(readEntries("# api_key = \"k\"\n#api_key = \"k\"\n  #server_url = \"u\""), none);
 }
 
-TEST(ReadBack, KeepsACommentBehindAValue) {
+TEST(ReadBack, KeepsACommentAfterAValue) {
   EXPECT_EQ(readEntries("api_key = \"k\" # mine"), key("k\" # mine"));
 }
 
-TEST(ReadBack, PassesOverPlaceholders) {
+TEST(ReadBack, IgnoresPlaceholders) {
   for (const std::string value : {"your-api-key-here", "pending-registration"}) {
     EXPECT_EQ(readEntries("api_key = \"" + value + "\""), none);
     EXPECT_EQ(readEntries("api_key = '" + value + "'"), none);
     EXPECT_EQ(readEntries("api_key = " + value), none);
     EXPECT_EQ(readEntries("api_key = \"k\"\napi_key = \"" + value + "\""), key("k"));
     EXPECT_EQ(readEntries("api_key = \"" + value + "x\""), key(value + "x"));
-    EXPECT_EQ(readEntries("server_url = \"" + value + "\""), url(value)) << "of keys alone";
+    EXPECT_EQ(readEntries("server_url = \"" + value + "\""), url(value)) << "only as a key";
   }
   EXPECT_EQ(readEntries("api_key = \"Your-Api-Key-Here\""), key("Your-Api-Key-Here"));
 }
 
-TEST(ReadBack, PassesOverEmptyValues) {
+TEST(ReadBack, IgnoresEmptyValues) {
   for (const std::string value : {"", " ", "\"\"", "''", "\" ", "\"'\"'", "  \"\"  "}) {
     EXPECT_EQ(readEntries("api_key =" + value), none) << value;
     EXPECT_EQ(readEntries("server_url =" + value), none) << value;
@@ -85,16 +85,16 @@ TEST(ReadBack, PassesOverEmptyValues) {
   }
 }
 
-TEST(ReadBack, PassesOverLinesWithoutAnEqualsSign) {
+TEST(ReadBack, IgnoresLinesWithoutAnEqualsSign) {
   EXPECT_EQ(readEntries("api_key\napi_key \"k\"\nserver_url: u"), none);
 }
 
-TEST(ReadBack, TakesTheLastLineOfEach) {
+TEST(ReadBack, UsesTheLastLineOfEach) {
   EXPECT_EQ(readEntries("api_key=1\nserver_url=1\napi_key=2\nserver_url=2\napi_keys=3"),
             (ConfigEntries{"3", "2"}));
 }
 
-TEST(ReadBack, DoesNotCareForSections) {
+TEST(ReadBack, IgnoresSections) {
   EXPECT_EQ(readEntries("server_url = \"u\"\n[agent]\n[other]\napi_key = \"k\"\n"),
             (ConfigEntries{"k", "u"}));
 }
@@ -114,8 +114,8 @@ TEST(ReadBack, KeepsWhiteSpaceWithinTheQuotes) {
   EXPECT_EQ(readEntries("api_key = \" \""), key(" "));
 }
 
-// A carriage return is no white space within a line, and shields the quote
-// before it.
+// A carriage return is not trimmed as white space, so the quote before it is not at the
+// end and stays.
 TEST(ReadBack, KeepsACarriageReturnAndTheQuoteBeforeIt) {
   EXPECT_EQ(readEntries("api_key = \"k\"\r\nserver_url = \"u\"\r\n"),
             (ConfigEntries{"k\"\r", "u\"\r"}));
@@ -123,7 +123,7 @@ TEST(ReadBack, KeepsACarriageReturnAndTheQuoteBeforeIt) {
   EXPECT_EQ(readEntries("a = 1\rapi_key = \"k\""), none) << "nor does it end a line";
 }
 
-TEST(ReadBack, TakesALastLineWithoutALineFeed) {
+TEST(ReadBack, ReadsALastLineWithoutALineFeed) {
   EXPECT_EQ(readEntries("[agent]\napi_key = k"), key("k"));
 }
 

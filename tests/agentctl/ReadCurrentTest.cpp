@@ -18,7 +18,7 @@ class ReadCurrent : public WithHome {
  protected:
   [[nodiscard]] std::string second() const { return home() + "/.quillmark/config.toml"; }
 
-  /// The first file is passed over and the second one read.
+  /// Expects that the first file is ignored and the second one is read.
   void expectSecond() const {
     EXPECT_EQ(readCurrentConfig().apiKey, std::nullopt);
     writeFile(second(), "api_key = second");
@@ -28,12 +28,12 @@ class ReadCurrent : public WithHome {
 
 TEST_F(ReadCurrent, IsNothingWithoutAFile) { EXPECT_EQ(readCurrentConfig(), ConfigEntries{}); }
 
-TEST_F(ReadCurrent, GivesBackWhatWasSaved) {
+TEST_F(ReadCurrent, ReadsWhatWasSaved) {
   ASSERT_FALSE(saveConfig("https://server.example", "the-key"));
   EXPECT_EQ(readCurrentConfig(), (ConfigEntries{"the-key", "https://server.example"}));
 }
 
-TEST_F(ReadCurrent, GivesBackWhatWasImported) {
+TEST_F(ReadCurrent, ReadsWhatWasImported) {
   writeFile(home() + "/chosen", "[agent]\napi_key = 'imported'\n");
   ASSERT_EQ(importConfigFile(home() + "/chosen").outcome, ImportResult::Outcome::imported);
   EXPECT_EQ(readCurrentConfig(), (ConfigEntries{"imported", std::nullopt}));
@@ -41,7 +41,7 @@ TEST_F(ReadCurrent, GivesBackWhatWasImported) {
 
 TEST_F(ReadCurrent, FallsBackToTheSecondFile) { expectSecond(); }
 
-TEST_F(ReadCurrent, LooksAtTheFirstFileAloneWhenItReads) {
+TEST_F(ReadCurrent, IgnoresTheSecondFileIfTheFirstIsReadable) {
   writeFile(second(), "api_key = second\nserver_url = second");
   for (const std::string text :
        {"", "[agent]\n", "api_key = \"\"\n", "api_key = pending-registration"}) {
@@ -52,12 +52,12 @@ TEST_F(ReadCurrent, LooksAtTheFirstFileAloneWhenItReads) {
   EXPECT_EQ(readCurrentConfig(), (ConfigEntries{"first", std::nullopt}));
 }
 
-TEST_F(ReadCurrent, PassesOverAFirstFileThatIsNotUtf8) {
+TEST_F(ReadCurrent, IgnoresAFirstFileThatIsNotUtf8) {
   writeFile(configFile(), "api_key = \xFF");
   expectSecond();
 }
 
-TEST_F(ReadCurrent, TakesSixtyFourMebibytesAndPassesOverAByteMore) {
+TEST_F(ReadCurrent, AcceptsAtMostSixtyFourMebibytes) {
   std::string text = "api_key = first\n";
   text.resize(67108864, '#');
   writeFile(configFile(), text);
@@ -66,19 +66,19 @@ TEST_F(ReadCurrent, TakesSixtyFourMebibytesAndPassesOverAByteMore) {
   expectSecond();
 }
 
-TEST_F(ReadCurrent, PassesOverAFolder) {
+TEST_F(ReadCurrent, IgnoresAFolder) {
   std::filesystem::create_directories(configFile());
   expectSecond();
 }
 
 // Nobody writes to it: reading would wait for ever.
-TEST_F(ReadCurrent, PassesOverAFifo) {
+TEST_F(ReadCurrent, IgnoresAFifo) {
   std::filesystem::create_directories(configFolder());
   ASSERT_EQ(mkfifo(configFile().c_str(), 0600), 0);
   expectSecond();
 }
 
-TEST_F(ReadCurrent, PassesOverADanglingLink) {
+TEST_F(ReadCurrent, IgnoresADanglingLink) {
   std::filesystem::create_directories(configFolder());
   std::filesystem::create_symlink("nowhere", configFile());
   expectSecond();

@@ -21,7 +21,7 @@ constexpr std::size_t digitsOfId = 8;
 
 class Save : public WithHome {
  protected:
-  /// The file after a save, which must have worked.
+  /// The file after a save, which must succeed.
   [[nodiscard]] std::string saved(const std::string& url, const std::string& key) const {
     const auto error = saveConfig(url, key);
     EXPECT_FALSE(error) << error.message();
@@ -29,7 +29,7 @@ class Save : public WithHome {
   }
 };
 
-/// What stands behind `key` in the agent section of `text`, quotes dropped.
+/// The value of `key` in the agent section of `text`, without quotes.
 std::string valueIn(const std::string& text, const std::string& key) {
   const auto opening = "\n" + key + " = \"";
   const auto start = text.find(opening) + opening.size();
@@ -77,7 +77,7 @@ TEST_F(Save, ReplacesTheWholeFile) {
   EXPECT_TRUE(text.ends_with("audit.log\""));
 }
 
-TEST_F(Save, TakesValuesAsTyped) {
+TEST_F(Save, WritesValuesUnchanged) {
   for (const std::string value : {"", " k ", "a\"b", "a\nb", "caf\u00E9", "\U0001F600"}) {
     EXPECT_NE(saved(value, value)
                   .find("\nserver_url = \"" + value + "\"\napi_key = \"" + value + "\"\ndev_mode"),
@@ -94,14 +94,14 @@ TEST_F(Save, LeavesNothingElseBehind) {
   EXPECT_EQ(namesIn(configFolder()), std::set<std::string>{"config.toml"});
 }
 
-TEST_F(Save, MakesFileAndFoldersForTheUserAlone) {
+TEST_F(Save, CreatesFileAndFoldersForTheUserOnly) {
   EXPECT_NE(saved("u", "k"), "");
   EXPECT_EQ(modeOf(configFile()), 0600U);
   EXPECT_EQ(modeOf(configFolder()), 0700U);
   EXPECT_EQ(modeOf(home() + "/.config"), 0700U);
 }
 
-TEST_F(Save, LeavesFoldersThatAreThereAsTheyAre) {
+TEST_F(Save, KeepsTheModeOfExistingFolders) {
   std::filesystem::create_directories(home() + "/.config");
   std::filesystem::permissions(home() + "/.config", std::filesystem::perms{0755});
   EXPECT_NE(saved("u", "k"), "");

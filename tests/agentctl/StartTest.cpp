@@ -17,7 +17,7 @@ class Start : public WithAgents {
   const Bundle bundle;
 };
 
-TEST_F(Start, BringsTheAgentOfThisBundleUp) {
+TEST_F(Start, StartsTheAgentOfThisBundle) {
   EXPECT_FALSE(isRunning());
   startAgent(bundle);
   EXPECT_TRUE(isRunning());
@@ -26,7 +26,7 @@ TEST_F(Start, BringsTheAgentOfThisBundleUp) {
   EXPECT_EQ(agents().front().commandLine, "./tovel-agent ");
 }
 
-TEST_F(Start, PutsWhatTheAgentSaysIntoTheLog) {
+TEST_F(Start, WritesTheAgentsOutputToTheLog) {
   startAgent(bundle);
   EXPECT_TRUE(waitUntil([&] {
     const auto log = contentOf(logFile());
@@ -39,7 +39,7 @@ TEST_F(Start, LetsTheAgentOutliveThePanelThatStartedIt) {
   for (const auto& process : processes()) {
     EXPECT_NE(process.program, "panel");
   }
-  EXPECT_NE(agents().front().session, getsid(0)) << "no terminal's end takes it along";
+  EXPECT_NE(agents().front().session, getsid(0)) << "it does not end with the terminal";
 }
 
 TEST_F(Start, StartsAnotherAgentEachTime) {
@@ -50,28 +50,27 @@ TEST_F(Start, StartsAnotherAgentEachTime) {
 }
 
 TEST_F(Start, StartsNothingWithoutTheLogFolder) {
-  EXPECT_EQ(bundle.tells("start"), "ok") << "the shell's failure goes unseen";
+  EXPECT_EQ(bundle.resultOf("start"), "ok") << "the shell's failure is not reported";
   waitForTheShells();
   EXPECT_FALSE(bundle.wasStarted());
   EXPECT_FALSE(isRunning());
-  EXPECT_TRUE(namesIn(home()).empty()) << "nor is the folder made";
+  EXPECT_TRUE(namesIn(home()).empty()) << "the folder is not created, either";
 }
 
 TEST_F(Start, StartsNothingWithoutAnAgentInTheBundle) {
   makeLogFolder();
   std::filesystem::remove(bundle.programs() + "/" + agentName);
-  EXPECT_EQ(bundle.tells("start"), "ok");
+  EXPECT_EQ(bundle.resultOf("start"), "ok");
   waitForTheShells();
   EXPECT_FALSE(isRunning());
 }
 
-// The shell takes the target of the redirection for the part up to the space,
-// and what follows for an argument.
-TEST_F(Start, LogsElsewhereWhenTheHomePathHoldsASpace) {
+// The shell redirects to the part before the space, and passes the rest as an argument.
+TEST_F(Start, LogsElsewhereWhenTheHomePathHasASpace) {
   const auto spaced = home() + "/my home";
   std::filesystem::create_directories(spaced + "/.quillmark/logs");
   setHome(spaced);
-  EXPECT_EQ(bundle.tells("start"), "ok");
+  EXPECT_EQ(bundle.resultOf("start"), "ok");
   EXPECT_TRUE(
       waitUntil([&] { return contentOf(home() + "/my").find("output") != std::string::npos; }));
   EXPECT_EQ(agents().front().commandLine, "./tovel-agent home/.quillmark/logs/backend.log ");
@@ -87,7 +86,7 @@ TEST_F(Start, LeavesNoZombie) {
   EXPECT_TRUE(waitUntil([] { return children().empty(); }));
 }
 
-TEST_F(Start, LeavesTheShellsOwnErrorsToThePanelsErrorStream) {
+TEST_F(Start, WritesTheShellsOwnErrorsToThePanelsErrorStream) {
   testing::internal::CaptureStderr();
   EXPECT_FALSE(startDetached(startCommand(bundle.path(), home())));
   waitForTheShells();

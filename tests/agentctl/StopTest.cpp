@@ -11,8 +11,8 @@
 namespace quillmark::test {
 namespace {
 
-// The program of these tests stands where the panel does: were it matched, it
-// would be ended itself.
+// The test program takes the panel's place: if its command line matched, it would be
+// ended, too.
 class Stop : public WithAgents {
  protected:
   const Bundle bundle;
@@ -28,23 +28,23 @@ TEST_F(Stop, EndsEveryAgent) {
   EXPECT_FALSE(isRunning());
 }
 
-TEST_F(Stop, IsFineWithNothingToStop) {
+TEST_F(Stop, SucceedsWithNothingToStop) {
   EXPECT_FALSE(stopAgentProcess());
   EXPECT_FALSE(isRunning());
 }
 
-TEST_F(Stop, EndsWhateverHasTheNameInItsCommandLine) {
-  ASSERT_TRUE(startBearerOfTheName());
+TEST_F(Stop, EndsEveryProcessWithTheNameInItsCommandLine) {
+  ASSERT_TRUE(startProcessWithTheName());
   EXPECT_TRUE(waitUntil([] { return isRunning(); }));
   EXPECT_FALSE(stopAgentProcess());
   EXPECT_TRUE(waitUntil(isAlone));
 }
 
-TEST_F(Stop, IsNoEndForThePanelThatCallsIt) {
+TEST_F(Stop, DoesNotEndThePanelThatCallsIt) {
   startAgent(bundle);
-  EXPECT_EQ(bundle.tells("stop"), "ok");
+  EXPECT_EQ(bundle.resultOf("stop"), "ok");
   EXPECT_TRUE(waitUntil([] { return agents().empty(); }));
-  EXPECT_EQ(bundle.tells("stop"), "ok");
+  EXPECT_EQ(bundle.resultOf("stop"), "ok");
 }
 
 TEST_F(Stop, AsksAgentsToEndAndDoesNotForceThem) {
@@ -59,13 +59,13 @@ TEST_F(Stop, AsksAgentsToEndAndDoesNotForceThem) {
   EXPECT_TRUE(std::filesystem::exists(home() + "/tovel-agent.asked"));
 }
 
-// One that takes a second leaves its trace before stop returns.
+// A command that takes a second has written its file before stop returns.
 TEST_F(Stop, WaitsUntilItsCommandHasEnded) {
   const auto slow = home() + "/slow";
   writeFile(slow, "#!/bin/sh\nsleep 1\ntouch '" + home() + "/over'\n");
   std::filesystem::permissions(slow, std::filesystem::perms::owner_all);
   EXPECT_EQ(elsewhere({"--bind", slow, "/usr/bin/pgrep"}, {"stop"}), "ok")
-      << "the other one is a link to this";
+      << "pkill is a link to pgrep";
   EXPECT_TRUE(std::filesystem::exists(home() + "/over"));
   EXPECT_TRUE(waitUntil(isAlone));
 }

@@ -14,17 +14,16 @@
 
 namespace quillmark::test {
 
-/// Tests with real processes, none of which bears the agent's name before and
-/// after.
+/// Tests with real processes. Before and after each test, none has the agent's name.
 class WithAgents : public WithHome {
  protected:
-  WithAgents() { endBearersOfTheName(); }
-  ~WithAgents() override { endBearersOfTheName(); }
+  WithAgents() { endProcessesWithTheName(); }
+  ~WithAgents() override { endProcessesWithTheName(); }
 
   void makeLogFolder() const { std::filesystem::create_directories(home() + "/.quillmark/logs"); }
   [[nodiscard]] std::string logFile() const { return home() + "/.quillmark/logs/backend.log"; }
 
-  /// What the probe finds; it must have been able to tell.
+  /// What the probe finds; the probe itself must succeed.
   [[nodiscard]] static bool isRunning() {
     boost::system::error_code error;
     const bool running = probeAgentProcess(error);
@@ -32,16 +31,16 @@ class WithAgents : public WithHome {
     return running;
   }
 
-  /// An agent comes up, and its log is made for it.
+  /// Creates the log folder and starts an agent.
   void startAgent(const Bundle& bundle) const {
     makeLogFolder();
     const auto before = agents().size();
-    ASSERT_EQ(bundle.tells("start"), "ok");
+    ASSERT_EQ(bundle.resultOf("start"), "ok");
     ASSERT_TRUE(waitUntil([&] { return agents().size() == before + 1; }));
   }
 
-  /// The shell that was to start an agent has come to its end, so that what was
-  /// not started by now never will be.
+  /// Waits for the end of the shell that starts an agent: what it has not started by then
+  /// is never started.
   static void waitForTheShells() { ASSERT_TRUE(waitUntil(isAlone)); }
 };
 

@@ -54,11 +54,11 @@ TEST(AlertPresentation, HasTypeAndDescription) {
   EXPECT_EQ(row.description, QStringLiteral("found"));
 }
 
-TEST(AlertPresentation, HasNoDescriptionWhereThereIsNone) {
+TEST(AlertPresentation, HasNoDescriptionWithoutOne) {
   EXPECT_FALSE(present(alertOf("high")).hasDescription);
 }
 
-TEST(AlertPresentation, TakesAnEmptyDescriptionForOne) {
+TEST(AlertPresentation, TreatsAnEmptyDescriptionAsPresent) {
   const auto row = present(ThreatAlert{"malware", "high", {}, "", {}, {}});
   EXPECT_TRUE(row.hasDescription);
   EXPECT_TRUE(row.description.isEmpty());
@@ -71,8 +71,8 @@ TEST(AlertPresentation, ShowsNeitherTitleNorFileNorTime) {
   EXPECT_EQ(row.accessibleName, QStringLiteral("high: malware, found"));
 }
 
-// The icon is the only sign of the severity, and cannot be heard.
-TEST(AlertPresentation, SaysTheSeverityAloud) {
+// Only the icon shows the severity, and a screen reader cannot read it.
+TEST(AlertPresentation, HasTheSeverityInItsAccessibleName) {
   EXPECT_EQ(present(alertOf("HIGH")).accessibleName, QStringLiteral("HIGH: malware"));
   EXPECT_EQ(present(alertOf("")).accessibleName, QStringLiteral("malware"));
 }

@@ -17,19 +17,19 @@ TEST(AppPresentation, PutsAVInFrontOfTheVersion) {
   EXPECT_EQ(row.accessibleName, QStringLiteral("editor, v2.4.1"));
 }
 
-TEST(AppPresentation, HasNoVersionWhereThereIsNone) {
+TEST(AppPresentation, HasNoVersionWithoutOne) {
   const auto row = present(InstalledApp{"editor", {}, {}, {}});
   EXPECT_FALSE(row.hasVersion);
   EXPECT_EQ(row.accessibleName, QStringLiteral("editor"));
 }
 
-TEST(AppPresentation, TakesAnEmptyVersionForOne) {
+TEST(AppPresentation, TreatsAnEmptyVersionAsPresent) {
   const auto row = present(InstalledApp{"editor", "", {}, {}});
   EXPECT_TRUE(row.hasVersion);
   EXPECT_EQ(row.version, QStringLiteral("v"));
 }
 
-TEST(AppPresentation, DoesNotDropAVThatIsThereAlready) {
+TEST(AppPresentation, KeepsAVThatIsAlreadyThere) {
   EXPECT_EQ(present(InstalledApp{"editor", "v1", {}, {}}).version, QStringLiteral("vv1"));
 }
 

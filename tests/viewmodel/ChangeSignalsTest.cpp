@@ -13,7 +13,7 @@
 namespace quillmark::test {
 namespace {
 
-/// Notes every signal of a model with what could be read at that moment.
+/// Records every signal of a model with the values at that moment.
 class ChangeSignalsTest : public PollingTest {
  protected:
   void watch(const DashboardViewModel& model) {
@@ -46,7 +46,7 @@ TEST_F(ChangeSignalsTest, ComeBeforeAndAfterEachAssignmentInOrder) {
                          "will change: ok 1 1 -", "inventory: ok 1 1 1"}));
 }
 
-TEST_F(ChangeSignalsTest, LetTheLastPollsValuesBeReadUntilTheirOwnTurn) {
+TEST_F(ChangeSignalsTest, KeepEachOldValueUntilItsOwnSignals) {
   const auto model = makeModel();
   {
     const Backend backend(goodAnswers());
@@ -86,7 +86,7 @@ TEST_F(ChangeSignalsTest, ComeAlsoWithoutAToken) {
   EXPECT_EQ(seen_, noValues);
 }
 
-TEST_F(ChangeSignalsTest, ComeInOneStepOfTheUserInterfaceThread) {
+TEST_F(ChangeSignalsTest, ComeWithoutOtherEventsBetweenThem) {
   const Backend backend(goodAnswers());
   const auto model = makeModel();
   poll(*model);

@@ -24,7 +24,7 @@ TEST(ConnectionPresentation, JoinsAddressesAndPorts) {
   EXPECT_EQ(row.accessibleName, QStringLiteral("127.0.0.1:7823, → 10.0.0.5:443, ESTABLISHED"));
 }
 
-TEST(ConnectionPresentation, LeavesThePlaceOfEmptyFieldsEmpty) {
+TEST(ConnectionPresentation, ShowsNothingForEmptyFields) {
   const auto row = present(connectionOf("", "", "", ""));
   EXPECT_EQ(row.localEndpoint, QStringLiteral(":"));
   EXPECT_EQ(row.remoteEndpoint, QStringLiteral("→ :"));

@@ -15,15 +15,15 @@ namespace {
 
 constexpr std::size_t most = 16'000;
 
-TEST(DisplayText, IsTheTextAsItIs) {
+TEST(DisplayText, IsTheUnchangedText) {
   for (const std::string text : {"", " ", "text", " two\nlines\r\n", "<b>&amp;</b>", "\t\x01",
                                  "\U0001F41E שלום", "x\u0301"}) {
     EXPECT_EQ(displayText(text).toStdString(), text);
   }
 }
 
-// However many bytes a character has.
-TEST(DisplayText, IsWholeUpToTheLimit) {
+// The limit counts characters, not bytes.
+TEST(DisplayText, IsCompleteUpToTheLimit) {
   for (const std::string character : {"x", "\n", "é", "→", "\U0001F41E"}) {
     const auto text = repeated(most, character);
     EXPECT_EQ(displayText(text).toStdString(), text);

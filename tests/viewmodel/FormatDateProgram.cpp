@@ -5,8 +5,8 @@
 
 #include "viewmodel/FormatDate.h"
 
-// Formats each argument on a line of its own: a process reads its locale once,
-// so that each locale and time zone needs a process of its own.
+// Formats each argument on a separate line. A program, because a process reads its
+// locale and time zone only once.
 int main(int argc, char* argv[]) {
   for (int i = 1; i < argc; ++i) {
     std::puts(qUtf8Printable(quillmark::formatDate(QString::fromUtf8(argv[i]))));

@@ -23,8 +23,8 @@ constexpr Place unitedStates{"en_US.UTF-8", "UTC"};
 
 using Environment = std::map<QString, QString>;
 
-/// What formatDate() makes of `text` in a process with these variables, and no other
-/// ones for the locale.
+/// The result of formatDate() in a process with these variables, and no others for the
+/// locale.
 QString formattedWith(const Environment& variables, const QString& text) {
   auto environment = QProcessEnvironment::systemEnvironment();
   for (const auto* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -146,7 +146,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class OtherTextTest : public testing::TestWithParam<const char*> {};
 
-TEST_P(OtherTextTest, ComesBackUnchanged) {
+TEST_P(OtherTextTest, IsNotChanged) {
   const auto text = QString::fromUtf8(GetParam());
   EXPECT_EQ(formattedAt(unitedStates, text), text);
   EXPECT_EQ(formattedAt({"de_DE.UTF-8", "Europe/Berlin"}, text), text);

@@ -9,12 +9,11 @@
 
 namespace quillmark::test {
 
-// For test programs with Qt in them. They link the `main` beside this header,
-// which makes a QGuiApplication without a display, but with screens that are named
-// after their scales, the first of scale 1; every warning that Qt or QML
-// prints fails the running test.
+// For test programs that use Qt. They link the `main` of GuiTestMain.cpp, which creates
+// a QGuiApplication without a display. Its screens are named after their scales; the
+// first one has scale 1. Every warning of Qt or QML fails the running test.
 
-/// While one lives, warnings are kept for the test in place of failing it.
+/// While one exists, warnings are kept for the test and do not fail it.
 class KeptWarnings final {
  public:
   KeptWarnings();

@@ -19,7 +19,7 @@ std::mutex keeperMutex;
 KeptWarnings* keeper = nullptr;
 
 void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-  // The platform without a display has no window above another.
+  // The platform without a display cannot put one window above another.
   const bool isOfPlatform = text == QLatin1String("This plugin does not support raise()");
   if (type == QtDebugMsg || type == QtInfoMsg || isOfPlatform) {
     return;

@@ -10,52 +10,52 @@ namespace {
 
 using ListModelSignalsTest = ListModelTest;
 
-TEST_F(ListModelSignalsTest, TellsNothingWhenNothingChanged) {
-  EXPECT_EQ(toldBetween("abc", "abc"), Told{});
-  EXPECT_EQ(toldBetween("", ""), Told{});
+TEST_F(ListModelSignalsTest, SignalsNothingWhenNothingChanged) {
+  EXPECT_EQ(signalsBetween("abc", "abc"), Signals{});
+  EXPECT_EQ(signalsBetween("", ""), Signals{});
 }
 
 TEST_F(ListModelSignalsTest, InsertsAllRowsIntoAnEmptyList) {
-  EXPECT_EQ(toldBetween("", "abc"), (Told{"insert 0-2", "count 3"}));
+  EXPECT_EQ(signalsBetween("", "abc"), (Signals{"insert 0-2", "count 3"}));
 }
 
 TEST_F(ListModelSignalsTest, RemovesAllRows) {
-  EXPECT_EQ(toldBetween("abc", ""), (Told{"remove 0-2", "count 0"}));
+  EXPECT_EQ(signalsBetween("abc", ""), (Signals{"remove 0-2", "count 0"}));
 }
 
 TEST_F(ListModelSignalsTest, InsertsAtTheEndOnly) {
-  EXPECT_EQ(toldBetween("abc", "abcde"), (Told{"insert 3-4", "count 5"}));
+  EXPECT_EQ(signalsBetween("abc", "abcde"), (Signals{"insert 3-4", "count 5"}));
 }
 
 TEST_F(ListModelSignalsTest, RemovesAtTheEndOnly) {
-  EXPECT_EQ(toldBetween("abcde", "abc"), (Told{"remove 3-4", "count 3"}));
+  EXPECT_EQ(signalsBetween("abcde", "abc"), (Signals{"remove 3-4", "count 3"}));
 }
 
-// No row has an identity: a new first row changes all, and adds one at the end.
-TEST_F(ListModelSignalsTest, ComparesByPositionWhenARowComesFirst) {
-  EXPECT_EQ(toldBetween("abc", "xabc"), (Told{"insert 3-3", "change 0-2", "count 4"}));
+// Rows have no identity: a new first row changes all rows and adds one at the end.
+TEST_F(ListModelSignalsTest, ComparesByPositionWhenTheFirstRowIsNew) {
+  EXPECT_EQ(signalsBetween("abc", "xabc"), (Signals{"insert 3-3", "change 0-2", "count 4"}));
   EXPECT_EQ(shownBy(model_), "xabc");
 }
 
-TEST_F(ListModelSignalsTest, ComparesByPositionWhenTheFirstRowGoes) {
-  EXPECT_EQ(toldBetween("abc", "bc"), (Told{"remove 2-2", "change 0-1", "count 2"}));
+TEST_F(ListModelSignalsTest, ComparesByPositionWhenTheFirstRowIsRemoved) {
+  EXPECT_EQ(signalsBetween("abc", "bc"), (Signals{"remove 2-2", "change 0-1", "count 2"}));
   EXPECT_EQ(shownBy(model_), "bc");
 }
 
 TEST_F(ListModelSignalsTest, NamesExactlyTheRowsThatChanged) {
-  EXPECT_EQ(toldBetween("abcde", "xbcde"), (Told{"change 0-0"}));
-  EXPECT_EQ(toldBetween("abcde", "abcdx"), (Told{"change 4-4"}));
-  EXPECT_EQ(toldBetween("abcde", "abxde"), (Told{"change 2-2"}));
-  EXPECT_EQ(toldBetween("abcde", "axcye"), (Told{"change 1-3"}));
-  EXPECT_EQ(toldBetween("abcde", "vwxyz"), (Told{"change 0-4"}));
+  EXPECT_EQ(signalsBetween("abcde", "xbcde"), (Signals{"change 0-0"}));
+  EXPECT_EQ(signalsBetween("abcde", "abcdx"), (Signals{"change 4-4"}));
+  EXPECT_EQ(signalsBetween("abcde", "abxde"), (Signals{"change 2-2"}));
+  EXPECT_EQ(signalsBetween("abcde", "axcye"), (Signals{"change 1-3"}));
+  EXPECT_EQ(signalsBetween("abcde", "vwxyz"), (Signals{"change 0-4"}));
 }
 
 TEST_F(ListModelSignalsTest, NamesChangedRowsAndTheDifferenceInNumber) {
-  EXPECT_EQ(toldBetween("abc", "axcde"), (Told{"insert 3-4", "change 1-1", "count 5"}));
-  EXPECT_EQ(toldBetween("abcde", "axc"), (Told{"remove 3-4", "change 1-1", "count 3"}));
+  EXPECT_EQ(signalsBetween("abc", "axcde"), (Signals{"insert 3-4", "change 1-1", "count 5"}));
+  EXPECT_EQ(signalsBetween("abcde", "axc"), (Signals{"remove 3-4", "change 1-1", "count 3"}));
 }
 
-TEST_F(ListModelSignalsTest, SeesAChangeInAnyFieldOfARow) {
+TEST_F(ListModelSignalsTest, DetectsAChangeInAnyFieldOfARow) {
   std::vector<InstalledApp> rows{{"a", {}, {}, {}}};
   model_.show(std::make_shared<const std::vector<InstalledApp>>(rows));
   const QSignalSpy changes(&model_, &Model::dataChanged);
@@ -64,13 +64,13 @@ TEST_F(ListModelSignalsTest, SeesAChangeInAnyFieldOfARow) {
   EXPECT_EQ(changes.count(), 1);
 }
 
-// Rows in view are shown anew sooner than all are compared.
-TEST_F(ListModelSignalsTest, LooksIntoNoListOfManyThousands) {
+// Updating the visible rows is faster than comparing all rows.
+TEST_F(ListModelSignalsTest, DoesNotCompareListsOfThousands) {
   const std::string many(2'000, 'a');
-  EXPECT_EQ(toldBetween(many, many), Told{});
-  EXPECT_EQ(toldBetween(many + "a", many + "a"), (Told{"change 0-2000"}));
-  EXPECT_EQ(toldBetween(many + "abc", many + "ab"),
-            (Told{"remove 2002-2002", "change 0-2001", "count 2002"}));
+  EXPECT_EQ(signalsBetween(many, many), Signals{});
+  EXPECT_EQ(signalsBetween(many + "a", many + "a"), (Signals{"change 0-2000"}));
+  EXPECT_EQ(signalsBetween(many + "abc", many + "ab"),
+            (Signals{"remove 2002-2002", "change 0-2001", "count 2002"}));
 }
 
 }  // namespace

@@ -18,7 +18,7 @@
 namespace quillmark::test {
 
 using Model = SnapshotListModel<InstalledApp>;
-using Told = std::vector<std::string>;
+using Signals = std::vector<std::string>;
 
 /// One row for each letter, named by it.
 [[nodiscard]] inline Model::Rows rowsOf(const std::string& letters) {
@@ -29,7 +29,7 @@ using Told = std::vector<std::string>;
   return std::make_shared<const std::vector<InstalledApp>>(std::move(rows));
 }
 
-/// The rows as a view gets them, put together again.
+/// The letters of all rows, as a view gets them.
 [[nodiscard]] inline std::string shownBy(const Model& model) {
   std::string letters;
   const int role = model.roleNames().key("app");
@@ -40,8 +40,8 @@ using Told = std::vector<std::string>;
   return letters;
 }
 
-/// What a view is told, in short: "insert 1-2", "remove 0-0", "change 3-4",
-/// "count 5".
+/// Records the signals of `model_` in short form: "insert 1-2", "remove 0-0",
+/// "change 3-4", "count 5".
 class ListModelTest : public testing::Test {
  protected:
   explicit ListModelTest(std::size_t maxRows = 10'000) : model_("app", maxRows) {
@@ -49,26 +49,26 @@ class ListModelTest : public testing::Test {
     note(&Model::rowsAboutToBeRemoved, &Model::rowsRemoved, "remove");
     QObject::connect(&model_, &Model::dataChanged, &model_,
                      [this](const QModelIndex& first, const QModelIndex& last) {
-                       told_.push_back("change " + span(first.row(), last.row()));
+                       signals_.push_back("change " + span(first.row(), last.row()));
                      });
     QObject::connect(&model_, &Model::countChanged, &model_,
-                     [this] { told_.push_back("count " + std::to_string(model_.count())); });
-    QObject::connect(&model_, &Model::modelReset, &model_, [this] { told_.push_back("reset"); });
+                     [this] { signals_.push_back("count " + std::to_string(model_.count())); });
+    QObject::connect(&model_, &Model::modelReset, &model_, [this] { signals_.push_back("reset"); });
     QObject::connect(&model_, &Model::layoutChanged, &model_,
-                     [this] { told_.push_back("layout"); });
+                     [this] { signals_.push_back("layout"); });
   }
 
-  /// What `model_` tells when it goes from `before` to `after`.
-  Told toldBetween(const std::string& before, const std::string& after) {
+  /// The signals of `model_` when it changes from `before` to `after`.
+  Signals signalsBetween(const std::string& before, const std::string& after) {
     model_.show(rowsOf(before));
-    return toldWith(rowsOf(after));
+    return signalsWith(rowsOf(after));
   }
 
-  /// What `model_` tells when it goes on to these rows.
-  Told toldWith(Model::Rows rows) {
-    told_.clear();
+  /// The signals of `model_` when it changes to these rows.
+  Signals signalsWith(Model::Rows rows) {
+    signals_.clear();
     model_.show(std::move(rows));
-    return told_;
+    return signals_;
   }
 
   Model model_;
@@ -85,14 +85,14 @@ class ListModelTest : public testing::Test {
     QObject::connect(&model_, after, &model_,
                      [this, what](const QModelIndex&, int first, int last) {
                        EXPECT_NE(model_.rowCount(), rowsBefore_);
-                       told_.push_back(what + " " + span(first, last));
+                       signals_.push_back(what + " " + span(first, last));
                      });
   }
 
-  // Holds the model to the rules of all Qt models; breaking one is a warning.
+  // Checks that the model follows the rules of all Qt models; a violation is a warning.
   QAbstractItemModelTester tester_{&model_,
                                    QAbstractItemModelTester::FailureReportingMode::Warning};
-  Told told_;
+  Signals signals_;
   int rowsBefore_ = 0;
 };
 

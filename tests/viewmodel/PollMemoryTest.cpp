@@ -17,7 +17,7 @@ std::atomic<int> failures = 0;
 
 }  // namespace
 
-/// Fails for what takes `failingSize` bytes.
+/// Fails for allocations of `failingSize` bytes.
 void* operator new(std::size_t size) {
   lastSize = size;
   if (size == failingSize) {
@@ -42,8 +42,8 @@ namespace {
 
 using PollMemoryTest = PollingTest;
 
-// The inventory comes last, when all else of the poll is there already.
-TEST_F(PollMemoryTest, AssignsNoValuesWhenItRunsOut) {
+// The inventory is allocated last, when the other results are complete.
+TEST_F(PollMemoryTest, AssignsNoValuesWhenMemoryRunsOut) {
   const auto model = makeModel();
   const Backend backend(goodAnswers());
   poll(*model);

@@ -17,10 +17,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Whole answers by target, shared by handlers that do something besides.
+/// The complete good answer to `target`, for handlers that also do something else.
 std::string answerTo(const std::string& target) { return goodAnswers().at(target); }
 
-/// As good as `goodAnswers`, and different in all four fields.
+/// Other good answers, which differ from `goodAnswers` in all four fields.
 std::map<std::string, std::string> otherAnswers() {
   const std::string alert = R"({"alert_type":"malware","severity":"low"})";
   const std::string app = R"({"name":"editor"})";
@@ -44,7 +44,7 @@ class PollOrderTest : public PollingTest {
   std::vector<std::string> noted_;
 };
 
-// Each answer takes its time, so that requests side by side would be seen.
+// Each answer is delayed, so that overlapping requests would be detected.
 TEST_F(PollOrderTest, RequestsComeOneAfterAnother) {
   const Backend backend([this](const ReceivedRequest& request, Connection& connection) {
     note("begin " + request.target());
@@ -96,8 +96,8 @@ TEST_F(PollOrderTest, NothingIsAssignedBeforeTheLastRequestCompleted) {
   EXPECT_TRUE(waitUntil([&] { return assigned.count() == 4; }));
 }
 
-// With a silent backend, polls pile up: no poll waits for another, and no
-// thread is held by one that waits.
+// With a silent backend, polls pile up: no poll waits for another, and a waiting poll
+// blocks no thread.
 TEST_F(PollOrderTest, PollsDoNotWaitForEachOther) {
   constexpr std::size_t polls = 50;
   const Backend backend(

@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// These tests last as long as the polls are apart.
+/// These tests wait for the real interval between polls.
 class PollTimerTest : public PollingTest {
  protected:
   [[nodiscard]] static bool seesPolls(const Backend& backend, std::ptrdiff_t count) {
@@ -31,8 +31,8 @@ class PollTimerTest : public PollingTest {
     });
   }
 
-  /// The timers that run since the test began. A clock would tell of the
-  /// machine's load as well.
+  /// The timers that were started since the test began. Timers, because measured times
+  /// depend on the machine's load as well.
   [[nodiscard]] QList<QTimer*> timers() const {
     auto found = runningTimers();
     found.removeIf([&](auto* timer) { return before_.contains(timer); });
@@ -84,7 +84,7 @@ TEST_F(PollTimerTest, ReassignsEveryIntervalWithoutAToken) {
   EXPECT_EQ(summaryOf(*model), emptySummary);
 }
 
-TEST_F(PollTimerTest, GoesOnAfterTheViewGaveTheModelUp) {
+TEST_F(PollTimerTest, ContinuesAfterTheViewHasReleasedTheModel) {
   const Backend backend(goodAnswers());
   auto view = std::make_unique<DashboardViewModelRef>();
   const QPointer<DashboardViewModel> model = view->viewModel();
@@ -105,7 +105,7 @@ TEST_F(PollTimerTest, DoesNotKeepAModelThatNeverPolled) {
   EXPECT_TRUE(model.isNull());
 }
 
-TEST_F(PollTimerTest, EveryViewHasAModelOfItsOwn) {
+TEST_F(PollTimerTest, EveryViewHasItsOwnModel) {
   const DashboardViewModelRef one;
   const DashboardViewModelRef other;
   EXPECT_NE(one.viewModel(), other.viewModel());

@@ -18,11 +18,10 @@
 
 namespace quillmark::test {
 
-/// What all tests share that poll a real backend; inside the sandbox alone.
+/// The base of all tests that poll a real backend; only inside the sandbox.
 ///
-/// A poll repeats until the process ends, which would reach into the next
-/// test: here the end of a test ends the timers instead. Nothing but a timer or
-/// a poll may then still hold a model.
+/// Polls repeat until the process ends, which would affect the next test, so each test
+/// deletes the timers at its end. Only timers and polls may keep a model alive.
 class PollingTest : public testing::Test {
  protected:
   PollingTest();
@@ -30,7 +29,7 @@ class PollingTest : public testing::Test {
 
   [[nodiscard]] std::shared_ptr<DashboardViewModel> makeModel();
 
-  /// Polls once and waits until the results are there.
+  /// Polls once and waits for the results.
   static void poll(DashboardViewModel& model);
 
   /// The published fields in short: the status text, the number of alerts, of

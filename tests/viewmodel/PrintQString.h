@@ -7,7 +7,7 @@
 
 #include <QString>
 
-/// Lets GoogleTest print texts where it would print numbers.
+/// Makes GoogleTest print the text instead of numbers.
 inline void PrintTo(const QString& text, std::ostream* out) {
   *out << '"' << text.toStdString() << '"';
 }

@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Endpoints, OneEndpointFailsTest,
                                          Endpoint{"/api/network", "ok 1 0 1"},
                                          Endpoint{"/api/inventory", "ok 1 1 -"}));
 
-TEST_F(PublishedFieldsTest, AreAllClearedOnceTheBackendIsGone) {
+TEST_F(PublishedFieldsTest, AreAllClearedWhenTheBackendHasEnded) {
   const auto model = makeModel();
   {
     const Backend backend(goodAnswers());
@@ -93,7 +93,7 @@ TEST_F(PublishedFieldsTest, AreAllClearedOnceTheBackendIsGone) {
   EXPECT_EQ(summaryOf(*model), emptySummary);
 }
 
-TEST_F(PublishedFieldsTest, ComeBackWithTheBackend) {
+TEST_F(PublishedFieldsTest, ReturnWithTheBackend) {
   const auto model = makeModel();
   poll(*model);
   ASSERT_EQ(summaryOf(*model), emptySummary);
@@ -102,18 +102,18 @@ TEST_F(PublishedFieldsTest, ComeBackWithTheBackend) {
   EXPECT_EQ(summaryOf(*model), goodSummary);
 }
 
-TEST_F(PublishedFieldsTest, DoNotTellAnEmptyListFromNone) {
+TEST_F(PublishedFieldsTest, DoNotDistinguishAnEmptyListFromNone) {
   const Backend backend(goodAnswersBut("/api/alerts", okAnswer(R"({"alerts":[]})")));
   const auto model = makeModel();
   poll(*model);
   EXPECT_TRUE(model->alerts().empty());
 }
 
-TEST_F(PublishedFieldsTest, StayEmptyWithoutATokenAndAskNobody) {
+TEST_F(PublishedFieldsTest, StayEmptyAndSendNoRequestsWithoutAToken) {
   removeTokens();
   const Backend backend(goodAnswers());
   const auto model = makeModel();
-  // Too late: the token is read with the model's construction.
+  // Too late: the token is read when the model is constructed.
   writeFile(systemTokenPath(), "secret\n");
   poll(*model);
   poll(*model);

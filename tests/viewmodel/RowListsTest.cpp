@@ -9,7 +9,7 @@
 namespace quillmark::test {
 namespace {
 
-/// What views read of the lists, after a poll.
+/// The lists as views read them, after a poll.
 class RowListsTest : public PollingTest {
  protected:
   template <class Presentation>
@@ -18,7 +18,7 @@ class RowListsTest : public PollingTest {
     return list.data(list.index(number), role).template value<Presentation>();
   }
 
-  /// The values of the dashboard's cards, joined by blanks.
+  /// The values of the dashboard's cards, separated by spaces.
   static QString cardValues(DashboardViewModel& model) {
     QStringList values;
     for (int i = 0; i < model.cardRows()->count(); ++i) {
@@ -95,8 +95,8 @@ TEST_F(RowListsTest, HoldTwoCardsOnlyWithoutAnInventory) {
             QStringLiteral("Active Network Connections"));
 }
 
-// Views redraw what is announced: nothing of two polls at once, and nothing twice.
-TEST_F(RowListsTest, TakeAllValuesOfAPollBeforeAnyIsAnnounced) {
+// Views redraw at each signal, and must not show values of two polls at once.
+TEST_F(RowListsTest, TakeAllValuesOfAPollBeforeAnySignal) {
   const auto model = makeModel();
   auto* const cards = model->cardRows();
   QStringList announced;
@@ -116,7 +116,7 @@ TEST_F(RowListsTest, TakeAllValuesOfAPollBeforeAnyIsAnnounced) {
   EXPECT_EQ(announced, (QStringList{none, none}));
 }
 
-TEST_F(RowListsTest, TellAnEmptyInventoryFromNone) {
+TEST_F(RowListsTest, DistinguishAnEmptyInventoryFromNone) {
   const Backend backend(goodAnswersBut(
       "/api/inventory",
       okAnswer(R"({"apps":[],"services":["cron"],"network_interfaces":[],"permissions":[]})")));

@@ -22,7 +22,7 @@ constexpr auto noSectionMessage = "❌ Invalid config: missing [agent] section";
 
 class SettingsStateTest : public WithHome {
  protected:
-  /// A file to choose, as the picker tells it.
+  /// Writes a file; returns its URL, as the picker does.
   [[nodiscard]] QUrl chosen(const std::string& text) const {
     writeFile(home() + "/a folder/my config.toml", text);
     return QUrl::fromLocalFile(QString::fromStdString(home() + "/a folder/my config.toml"));
@@ -44,10 +44,10 @@ class SettingsStateTest : public WithHome {
   void putAFileInPlaceOfTheFolder() const { writeFile(home() + "/.config", ""); }
 
   SettingsState state;
-  const QSignalSpy told{&state, &SettingsState::statusChanged};
+  const QSignalSpy statusChanges{&state, &SettingsState::statusChanged};
 };
 
-TEST_F(SettingsStateTest, BeginsWithNothingKnown) {
+TEST_F(SettingsStateTest, HasDefaultsAtFirst) {
   EXPECT_EQ(state.configPath(), "");
   EXPECT_EQ(state.statusMessage(), "");
   EXPECT_FALSE(state.isImporting());
@@ -67,7 +67,7 @@ TEST_F(SettingsStateTest, ReadsTheConfigurationBackWhenTheTabAppears) {
   EXPECT_EQ(state.apiKeyInput(), "k");
   EXPECT_EQ(state.serverUrl(), "https://s.example");
   EXPECT_EQ(state.configPath(), "");
-  EXPECT_EQ(told.count(), 0) << "without a word";
+  EXPECT_EQ(statusChanges.count(), 0) << "without a message";
 }
 
 TEST_F(SettingsStateTest, KeepsItsFieldsWithoutAConfiguration) {
@@ -88,7 +88,7 @@ TEST_F(SettingsStateTest, CanSaveWithAKeyOnly) {
   EXPECT_EQ(changed.count(), 2);
 }
 
-TEST_F(SettingsStateTest, TellsWhereToGetAKeyAsTheServerIsTyped) {
+TEST_F(SettingsStateTest, ShowsWhereToGetAKeyWhileTheServerIsTyped) {
   EXPECT_EQ(state.keyHelp(),
             "Get your API key from: https://console.quillmark.example/agent/start");
   const QSignalSpy changed(&state, &SettingsState::serverUrlChanged);
@@ -100,26 +100,26 @@ TEST_F(SettingsStateTest, TellsWhereToGetAKeyAsTheServerIsTyped) {
   EXPECT_EQ(state.keyHelp(), "Get your API key from: /agent/start");
 }
 
-TEST_F(SettingsStateTest, SavesBothFieldsAsTheyAreTyped) {
+TEST_F(SettingsStateTest, SavesBothFieldsUnchanged) {
   state.setServerUrl(QStringLiteral(" https://caf\u00E9.example "));
   state.setApiKeyInput(QStringLiteral("a=\"b\""));
   state.saveApiKey();
   expectSuccess(QString::fromUtf8(savedMessage));
-  EXPECT_EQ(told.count(), 1);
+  EXPECT_EQ(statusChanges.count(), 1);
   const auto text = contentOf(configFile());
   EXPECT_NE(text.find("server_url = \" https://caf\u00E9.example \"\n"), std::string::npos) << text;
   EXPECT_NE(text.find("api_key = \"a=\"b\"\"\n"), std::string::npos) << text;
   EXPECT_EQ(state.apiKeyInput(), "a=\"b\"") << "what was written is not read back";
 }
 
-TEST_F(SettingsStateTest, TellsWhyASaveFailed) {
+TEST_F(SettingsStateTest, ShowsWhyASaveFailed) {
   putAFileInPlaceOfTheFolder();
   state.setApiKeyInput(QStringLiteral("k"));
   state.saveApiKey();
   expectFailure(QStringLiteral("❌ Error: Not a directory"));
 }
 
-TEST_F(SettingsStateTest, AsksForThePicker) {
+TEST_F(SettingsStateTest, RequestsThePicker) {
   const QSignalSpy asked(&state, &SettingsState::pickerRequested);
   state.openConfigFilePicker();
   EXPECT_EQ(asked.count(), 1);
@@ -137,19 +137,19 @@ TEST_F(SettingsStateTest, ImportsTheChosenFile) {
   EXPECT_EQ(state.apiKeyInput(), "") << "the fields are not read again";
 }
 
-TEST_F(SettingsStateTest, TellsThatTheChosenFileHasNoAgentSection) {
+TEST_F(SettingsStateTest, ShowsThatTheChosenFileHasNoAgentSection) {
   state.fileChosen(chosen("[other]"));
   expectFailure(QString::fromUtf8(noSectionMessage));
   EXPECT_EQ(state.selectedFileLine(), "Selected: my config.toml");
   EXPECT_FALSE(std::filesystem::exists(configFile()));
 }
 
-TEST_F(SettingsStateTest, TellsWhyAnImportFailed) {
+TEST_F(SettingsStateTest, ShowsWhyAnImportFailed) {
   state.fileChosen(chosen("[agent]\xFF"));
   expectFailure(QStringLiteral("❌ Error: The file is not UTF-8 text"));
   state.fileChosen(QUrl::fromLocalFile(QStringLiteral("/nowhere/config.toml")));
   expectFailure(QStringLiteral("❌ Error: No such file or directory"));
-  EXPECT_EQ(told.count(), 2);
+  EXPECT_EQ(statusChanges.count(), 2);
 }
 
 TEST_F(SettingsStateTest, ShowsTheLatestOutcomeOnly) {

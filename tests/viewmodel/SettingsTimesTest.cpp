@@ -16,18 +16,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// When agents are looked for, and which operations wait until they are done.
+/// When the tab searches for agents, and which operations block until they are done.
 class SettingsTimes : public WithAgents {
  protected:
-  /// Something that the probe takes for an agent.
-  static void bringAnAgentUp() {
-    ASSERT_TRUE(startBearerOfTheName());
+  /// Starts a process that the probe takes for an agent.
+  static void startAnAgent() {
+    ASSERT_TRUE(startProcessWithTheName());
     ASSERT_TRUE(waitUntil([] { return isRunning(); }));
   }
 
-  /// Notes a change of what the tab says of the agent, between two timers of
-  /// this delay that start before and after `operation`. By their order, not by
-  /// the clock: a busy machine delays all three alike.
+  /// The order of the agent's change of status and of two timers with this delay, which
+  /// start before and after `operation`. The order, not the time, because a busy machine
+  /// delays all three alike.
   QStringList orderAround(std::chrono::milliseconds delay, void (SettingsState::*operation)()) {
     QStringList order;
     QObject::connect(&state, &SettingsState::isAgentRunningChanged, &state,
@@ -50,32 +50,32 @@ class SettingsTimes : public WithAgents {
 };
 
 TEST_F(SettingsTimes, LookForAnAgentTwoSecondsAfterStart) {
-  bringAnAgentUp();
+  startAnAgent();
   testing::internal::CaptureStderr();
   EXPECT_EQ(orderAround(2s, &SettingsState::startAgent), exact);
   const auto errors = testing::internal::GetCapturedStderr();
   EXPECT_NE(errors.find("Contents/MacOS: No such file or directory"), std::string::npos)
-      << "this program lies in no bundle, which its shell says: " << errors;
+      << "this program is in no bundle, so the shell must report an error: " << errors;
   EXPECT_TRUE(state.isAgentRunning());
   EXPECT_EQ(state.agentStatusLine(), "Agent is running");
 }
 
 TEST_F(SettingsTimes, LookForAnAgentOneSecondAfterStop) {
-  bringAnAgentUp();
+  startAnAgent();
   state.appear();
   EXPECT_EQ(orderAround(1s, &SettingsState::stopAgent), exact);
   EXPECT_FALSE(state.isAgentRunning());
 }
 
-TEST_F(SettingsTimes, KnowOfTheAgentAsSoonAsTheTabAppears) {
-  bringAnAgentUp();
+TEST_F(SettingsTimes, FindTheAgentAsSoonAsTheTabAppears) {
+  startAnAgent();
   state.appear();
   EXPECT_TRUE(state.isAgentRunning());
 }
 
-// No event is handled meanwhile.
+// While waiting, no Qt event is handled.
 TEST_F(SettingsTimes, StopTheAgentAtOnce) {
-  bringAnAgentUp();
+  startAnAgent();
   state.stopAgent();
   EXPECT_TRUE(waitUntil(isAlone));
 }

@@ -55,15 +55,15 @@ TEST_F(CappedListModelTest, ShowsTheFirstRowsOnly) {
   EXPECT_EQ(model_.count(), 3);
 }
 
-TEST_F(CappedListModelTest, TellsNothingOfRowsBeyondTheCap) {
-  EXPECT_EQ(toldBetween("abcde", "abcxyz"), Told{});
-  EXPECT_EQ(toldBetween("abc", "abcd"), Told{});
-  EXPECT_EQ(toldBetween("abcd", "abc"), Told{});
+TEST_F(CappedListModelTest, SignalsNothingForRowsBeyondTheCap) {
+  EXPECT_EQ(signalsBetween("abcde", "abcxyz"), Signals{});
+  EXPECT_EQ(signalsBetween("abc", "abcd"), Signals{});
+  EXPECT_EQ(signalsBetween("abcd", "abc"), Signals{});
 }
 
 TEST_F(CappedListModelTest, GrowsAndShrinksAtTheCap) {
-  EXPECT_EQ(toldBetween("ab", "abcde"), (Told{"insert 2-2", "count 3"}));
-  EXPECT_EQ(toldBetween("abcde", "ab"), (Told{"remove 2-2", "count 2"}));
+  EXPECT_EQ(signalsBetween("ab", "abcde"), (Signals{"insert 2-2", "count 3"}));
+  EXPECT_EQ(signalsBetween("abcde", "ab"), (Signals{"remove 2-2", "count 2"}));
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ std::vector<NetworkConnection> connections(std::size_t count) {
 
 std::vector<ThreatAlert> alerts(std::size_t count) { return std::vector<ThreatAlert>(count); }
 
-TEST(StatsCards, CountConnectionsAndAlertsWhereThereIsNoInventory) {
+TEST(StatsCards, CountOnlyConnectionsAndAlertsWithoutAnInventory) {
   const std::vector<StatsCard> expected{
       {QStringLiteral("Active Network Connections"), QStringLiteral("0")},
       {QStringLiteral("Recent Alerts"), QStringLiteral("0")}};

@@ -20,7 +20,7 @@ StatusPresentation presentCount(std::int64_t count) {
   return present(AgentStatus{true, count, "none", "ok", "yesterday"});
 }
 
-TEST(StatusPresentation, IsOfflineWithoutThreatsWhereThereIsNoStatus) {
+TEST(StatusPresentation, IsOfflineWithoutThreatsIfThereIsNoStatus) {
   const auto header = present(std::optional<AgentStatus>());
   EXPECT_EQ(header.status, QStringLiteral("OFFLINE"));
   EXPECT_FALSE(header.statusIsHealthy);
@@ -38,7 +38,6 @@ struct StatusText {
 
 class StatusTextTest : public testing::TestWithParam<StatusText> {};
 
-// Shown in upper case, but judged as received.
 TEST_P(StatusTextTest, IsShownInUpperCaseAndJudgedAsReceived) {
   const auto header = presentText(GetParam().received);
   EXPECT_EQ(header.status, GetParam().shown);
@@ -96,7 +95,7 @@ TEST(StatusPresentation, HasALastScanAsSoonAsThereIsAStatus) {
   EXPECT_EQ(header.lastScan, QStringLiteral("yesterday"));
 }
 
-TEST(StatusPresentation, HasAnEmptyLastScanWhereTheAgentSentNone) {
+TEST(StatusPresentation, HasAnEmptyLastScanIfTheAgentSentNone) {
   const auto header = present(AgentStatus{true, 0, "none", "ok", ""});
   EXPECT_TRUE(header.hasLastScan);
   EXPECT_TRUE(header.lastScan.isEmpty());

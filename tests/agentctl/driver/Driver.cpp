@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the Settings tab's buttons do, and what the panel reads by itself, one a
-// run: prints the line that the user would read, or what was read. Under the
-// agent's file name it stands in for the agent.
+// Does what one button of the Settings tab does, or reads what the panel reads, and
+// prints the message for the user or the value. Under the agent's file name it acts as
+// the agent.
 
 #include <cstdio>
 #include <filesystem>
@@ -22,39 +22,39 @@ namespace {
 
 using namespace quillmark;
 
-std::string told(const boost::system::error_code& error) {
+std::string textOf(const boost::system::error_code& error) {
   return error ? "Error: " + error.message() : "ok";
 }
 
-std::string told(const ImportResult& result) {
+std::string textOf(const ImportResult& result) {
   return result.outcome == ImportResult::Outcome::missingAgentSection ? "missing [agent] section"
-                                                                      : told(result.error);
+                                                                      : textOf(result.error);
 }
 
-std::string told(const ConfigEntries& entries) {
+std::string textOf(const ConfigEntries& entries) {
   return entries.apiKey.value_or("none") + " at " + entries.serverUrl.value_or("none");
 }
 
 std::string act(const std::string& action, const std::string& argument) {
   if (action == "start") {
-    return told(startAgentProcess());
+    return textOf(startAgentProcess());
   }
   if (action == "stop") {
-    return told(stopAgentProcess());
+    return textOf(stopAgentProcess());
   }
   if (action == "probe") {
     boost::system::error_code error;
     const bool running = probeAgentProcess(error);
-    return error ? told(error) : running ? "running" : "not running";
+    return error ? textOf(error) : running ? "running" : "not running";
   }
   if (action == "save") {
-    return told(saveConfig("https://new.example", argument));
+    return textOf(saveConfig("https://new.example", argument));
   }
   if (action == "import") {
-    return told(importConfigFile(argument));
+    return textOf(importConfigFile(argument));
   }
   if (action == "read-back") {
-    return told(readCurrentConfig());
+    return textOf(readCurrentConfig());
   }
   if (action == "token") {
     return readAccessToken().value_or("none");
@@ -65,8 +65,8 @@ std::string act(const std::string& action, const std::string& argument) {
   return "no such action";
 }
 
-/// Leaves a trace where it was started, talks and stays until it is ended.
-[[noreturn]] void standInForTheAgent() {
+/// Creates a file where it was started, prints, and runs until it is ended.
+[[noreturn]] void actAsTheAgent() {
   std::ofstream("started") << "yes";
   std::puts("to the output");
   std::fputs("to the errors\n", stderr);
@@ -80,13 +80,12 @@ std::string act(const std::string& action, const std::string& argument) {
 
 int main(int count, char** arguments) {
   if (std::filesystem::path(arguments[0]).filename() == "tovel-agent") {
-    standInForTheAgent();
+    actAsTheAgent();
   }
   if (count < 2) {
     return 2;
   }
-  // Whoever traces this program's system calls finds the action between two
-  // of a kind that nothing else makes.
+  // Marks the action in a trace of the system calls: nothing else calls getppid().
   getppid();
   const auto line = act(arguments[1], count > 2 ? arguments[2] : "");
   getppid();

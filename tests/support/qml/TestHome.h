@@ -35,8 +35,8 @@ class TestHome : public QObject {
     return QUrl::fromLocalFile(QString::fromStdString(path));
   }
 
-  Q_INVOKABLE [[nodiscard]] static bool startAgent() { return startBearerOfTheName(); }
-  Q_INVOKABLE static void endAgents() { endBearersOfTheName(); }
+  Q_INVOKABLE [[nodiscard]] static bool startAgent() { return startProcessWithTheName(); }
+  Q_INVOKABLE static void endAgents() { endProcessesWithTheName(); }
 
  private:
   TemporaryFolder folder_;
