@@ -20,7 +20,7 @@ TEST(StatusBody, WithoutTheLastScanFails) {
       DecodeFailure::keyNotFound, "last_scan"));
 }
 
-TEST(StatusBody, TakesNoNumberOrTextForABoolean) {
+TEST(StatusBody, AcceptsNoNumberOrTextForABoolean) {
   for (const std::string value : {"0", "1", "1.0", R"("true")", R"("false")", R"("1")", R"("")"}) {
     EXPECT_TRUE(failsWith<AgentStatus>(sampleWith<AgentStatus>("protection_enabled", value),
                                        DecodeFailure::typeMismatch, "protection_enabled"))
@@ -41,7 +41,7 @@ TEST(AlertBody, WithTheRequiredKeysAloneHasNoOtherValues) {
   EXPECT_EQ(encode(*alert), json);
 }
 
-TEST(AlertBody, TellsAnEmptyTitleFromNone) {
+TEST(AlertBody, DistinguishesAnEmptyTitleFromNone) {
   const auto titleOf = [](const std::string& title) {
     return decode<ThreatAlert>(R"({"alert_type":"a","severity":"b")" + title + "}")->title;
   };
@@ -50,7 +50,7 @@ TEST(AlertBody, TellsAnEmptyTitleFromNone) {
   EXPECT_EQ(titleOf(R"(,"title":"")"), "");
 }
 
-TEST(AlertBody, HasNoIdentityOfTheAgents) {
+TEST(AlertBody, IgnoresAnIdOfTheAgent) {
   const auto alert = decode<ThreatAlert>(R"({"id":"mine","alert_type":"a","severity":"b"})");
   ASSERT_TRUE(alert);
   EXPECT_EQ(alert->alert_type, "a");
@@ -59,7 +59,7 @@ TEST(AlertBody, HasNoIdentityOfTheAgents) {
   EXPECT_EQ(encode(*alert), R"({"alert_type":"a","severity":"b"})");
 }
 
-TEST(NetworkBody, TakesNoNumbersForPortsAndProcesses) {
+TEST(NetworkBody, AcceptsNoNumbersForPortsAndProcesses) {
   for (const std::string key : {"local_port", "remote_port", "pid"}) {
     const std::string connection = sampleWith<NetworkConnection>(key, "443");
     EXPECT_TRUE(failsWith<NetworkConnection>(connection, DecodeFailure::typeMismatch, key));
@@ -68,7 +68,7 @@ TEST(NetworkBody, TakesNoNumbersForPortsAndProcesses) {
   }
 }
 
-TEST(NetworkBody, KnowsTheProtocolByItsJsonKeyOnly) {
+TEST(NetworkBody, ReadsTheProtocolFromItsJsonKeyOnly) {
   auto members = sampleMembers<NetworkConnection>();
   members.front().first = "connectionProtocol";
   EXPECT_TRUE(
@@ -94,7 +94,7 @@ TEST(ListBodies, KeepTheAgentsOrderAndItsDuplicates) {
   EXPECT_EQ(inventory->services, (std::vector<std::string>{"b", "a", "b"}));
 }
 
-// However short the records are, and however many of them fit into a body.
+// Even with the shortest records, of which a body can have the most.
 TEST(ListBodies, MayBeLong) {
   const auto list = [](const std::string& key, int count, const std::string& element) {
     return quoted(key) + ":[" + repeated(count - 1, element + ',') + element + ']';

@@ -12,7 +12,7 @@
 namespace quillmark::test {
 namespace {
 
-/// Good elements, and in their midst one other.
+/// Good elements, and `element` between them.
 template <Record R>
 std::string arrayWith(std::size_t index, const std::string& element) {
   std::vector<std::string> elements(index + 2, objectOf(sampleMembers<R>()));
@@ -71,7 +71,7 @@ TEST(DecodePath, IsThatOfTheFirstBadElement) {
                                          DecodeFailure::typeMismatch, "connections[0].pid"));
 }
 
-TEST(DecodePath, IsEmptyWhereNoJsonIsRead) {
+TEST(DecodePath, IsEmptyForInvalidJson) {
   EXPECT_TRUE(failsWith<NetworkResponse>(R"({"connections":[)", DecodeFailure::dataCorrupted, ""));
 }
 
@@ -85,7 +85,7 @@ TEST(DecodePath, IsThatOfTheEarlierElementBeforeTheEarlierKey) {
       {DecodeFailure::valueNotFound, "alerts[0].severity", "string expected, null found"}));
 }
 
-// Nothing that stands inside a value of the wrong type is looked at.
+// The contents of a value of the wrong type are not checked.
 TEST(DecodePath, IsThatOfTheOutermostOfNestedFaults) {
   EXPECT_TRUE(failsAs<AlertsResponse>(
       R"({"alerts":{"alerts":[{"alert_type":1}]}})",

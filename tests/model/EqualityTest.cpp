@@ -17,9 +17,8 @@ using Records = testing::Types<AgentStatus, AlertsResponse, ThreatAlert, Network
                                NetworkConnection, InventoryData, InstalledApp>;
 TYPED_TEST_SUITE(Equality, Records);
 
-// A list that is compared by it would keep showing the old value of a field
-// that was forgotten.
-TYPED_TEST(Equality, HangsOnEveryField) {
+// Lists compare records by it: a forgotten field would keep its old value on the screen.
+TYPED_TEST(Equality, DependsOnEveryField) {
   const auto record = sample<TypeParam>();
   forEachField<TypeParam>([&](const auto& field) {
     auto other = record;

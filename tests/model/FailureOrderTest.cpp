@@ -15,11 +15,11 @@
 namespace quillmark::test {
 namespace {
 
-/// One way to spoil a member of a body.
+/// One way to make a member of a body invalid.
 struct Fault {
-  std::optional<std::string> value;  ///< none: the key is left out
+  std::optional<std::string> value;  ///< no value: the key is left out
   DecodeFailure kind;
-  std::string detail;  ///< less the type that was wanted
+  std::string detail;  ///< without the expected type
 };
 
 const std::vector<Fault> faults{
@@ -28,7 +28,7 @@ const std::vector<Fault> faults{
     {"{}", DecodeFailure::typeMismatch, " expected, object found"},
 };
 
-bool spoils(const Fault& fault, bool isOptionalKey) {
+bool isInvalid(const Fault& fault, bool isOptionalKey) {
   return !isOptionalKey || fault.kind == DecodeFailure::typeMismatch;
 }
 
@@ -43,8 +43,8 @@ void apply(const Fault& fault, const std::string& key, Members& members) {
 }
 
 template <Record R>
-testing::AssertionResult tells(const Members& members, const Fault& fault,
-                               const std::string& path) {
+testing::AssertionResult reports(const Members& members, const Fault& fault,
+                                 const std::string& path) {
   const auto decoded = decode<R>(objectOf(members));
   if (decoded) {
     return testing::AssertionFailure() << "decoded: " << encode(*decoded);
@@ -60,30 +60,30 @@ template <class R>
 class FailureOrder : public testing::Test {};
 TYPED_TEST_SUITE(FailureOrder, AllRecords, RecordNames);
 
-// Whichever of two faults comes first in the table is told, wherever they stand
-// in the body.
+// Of two faults, the one that comes first in the table is reported, in any order in the
+// body.
 TYPED_TEST(FailureOrder, IsThatOfTheTable) {
   const auto keys = keysOf<TypeParam>();
   for (auto first = keys.begin(); first != keys.end(); ++first) {
     for (auto second = first + 1; second != keys.end(); ++second) {
       for (const auto& fault : faults) {
         for (const auto& other : faults) {
-          if (!spoils(fault, isOptional<TypeParam>(*first))) {
+          if (!isInvalid(fault, isOptional<TypeParam>(*first))) {
             continue;
           }
           auto members = sampleMembers<TypeParam>();
           apply(fault, *first, members);
           apply(other, *second, members);
-          EXPECT_TRUE(tells<TypeParam>(members, fault, *first)) << *second;
+          EXPECT_TRUE(reports<TypeParam>(members, fault, *first)) << *second;
           std::reverse(members.begin(), members.end());
-          EXPECT_TRUE(tells<TypeParam>(members, fault, *first)) << *second;
+          EXPECT_TRUE(reports<TypeParam>(members, fault, *first)) << *second;
         }
       }
     }
   }
 }
 
-TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeAll) {
+TYPED_TEST(FailureOrder, HasInvalidJsonBeforeAll) {
   auto members = sampleMembers<TypeParam>();
   for (auto& member : members) {
     member.second = "{}";
@@ -100,7 +100,7 @@ TYPED_TEST(FailureOrder, HasWhatIsNoJsonBeforeAll) {
 }
 
 // Of several values under one key the last one counts, as if it were alone.
-TYPED_TEST(FailureOrder, LooksAtTheLastOfDuplicateKeys) {
+TYPED_TEST(FailureOrder, UsesTheLastOfDuplicateKeys) {
   for (const auto& [key, good] : sampleMembers<TypeParam>()) {
     for (const auto& other : {std::string("null"), std::string(R"({"a":[1,"b"]})"), good}) {
       auto members = sampleMembers<TypeParam>();
@@ -108,19 +108,19 @@ TYPED_TEST(FailureOrder, LooksAtTheLastOfDuplicateKeys) {
       EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>())) << key << ": " << other;
     }
     for (const auto& fault : faults) {
-      if (!fault.value || !spoils(fault, isOptional<TypeParam>(key))) {
+      if (!fault.value || !isInvalid(fault, isOptional<TypeParam>(key))) {
         continue;
       }
       auto members = sampleMembers<TypeParam>();
       members.insert(members.begin(), {key, "{}"});
       members.insert(members.begin(), {key, "null"});
       members.emplace_back(key, *fault.value);
-      EXPECT_TRUE(tells<TypeParam>(members, fault, key));
+      EXPECT_TRUE(reports<TypeParam>(members, fault, key));
     }
   }
 }
 
-TYPED_TEST(FailureOrder, HasNoValueWhereTheLastOfDuplicateKeysIsNull) {
+TYPED_TEST(FailureOrder, HasNoValueIfTheLastOfDuplicateKeysIsNull) {
   for (const auto& key : keysOf<TypeParam>()) {
     if (isOptional<TypeParam>(key)) {
       const auto decoded = decode<TypeParam>(sampleAnd<TypeParam>(key, "null"));
@@ -130,7 +130,7 @@ TYPED_TEST(FailureOrder, HasNoValueWhereTheLastOfDuplicateKeysIsNull) {
   }
 }
 
-TYPED_TEST(FailureOrder, KnowsDuplicateKeysHoweverTheyAreWritten) {
+TYPED_TEST(FailureOrder, DetectsDuplicateKeysInAnySpelling) {
   for (const auto& [key, good] : sampleMembers<TypeParam>()) {
     const std::string escaped = "\\u00" + std::string(key[0] < 'p' ? "6" : "7") +
                                 "0123456789abcdef"[key[0] & 15] + key.substr(1);
@@ -145,11 +145,11 @@ TYPED_TEST(FailureOrder, KnowsDuplicateKeysHoweverTheyAreWritten) {
 // The keys of a table mean nothing at another level.
 TYPED_TEST(FailureOrder, IgnoresItsKeysInsideOtherValues) {
   const std::string good = objectOf(sampleMembers<TypeParam>());
-  auto spoilt = sampleMembers<TypeParam>();
-  for (auto& member : spoilt) {
+  auto invalid = sampleMembers<TypeParam>();
+  for (auto& member : invalid) {
     member.second = "{}";
   }
-  const std::string bad = objectOf(spoilt);
+  const std::string bad = objectOf(invalid);
   for (const auto& ignored : {bad, arrayOf({bad, bad}), objectOf({{"deep", bad}})}) {
     auto members = sampleMembers<TypeParam>();
     members.insert(members.begin(), {"ignored", ignored});

@@ -22,8 +22,8 @@ Keys optionalKeysOf() {
   return keys;
 }
 
-// All other tests read the tables; this one writes them out again, since the
-// agent on the other side knows only these.
+// All other tests use the tables; this one repeats them, because the agent depends on
+// exactly these keys.
 
 TEST(FieldTables, OfStatus) {
   EXPECT_EQ(keysOf<AgentStatus>(),
@@ -57,7 +57,7 @@ TEST(FieldTables, OfInventory) {
   EXPECT_EQ(optionalKeysOf<InstalledApp>(), (Keys{"version", "publisher", "path"}));
 }
 
-// Built from the fields in table order, and each under its own name.
+// Takes the fields in table order, each into the member of its own name.
 
 TEST(MemberwiseConstruction, OfStatus) {
   const AgentStatus status{true, 3, "alert", "ok", "scan"};

@@ -25,7 +25,7 @@ class Identity : public testing::Test {};
 using Identifiable = testing::Types<ThreatAlert, NetworkConnection, InstalledApp>;
 TYPED_TEST_SUITE(Identity, Identifiable);
 
-TYPED_TEST(Identity, IsAnotherAtEveryRead) {
+TYPED_TEST(Identity, IsDifferentAtEveryRead) {
   const auto record = sample<TypeParam>();
   std::set<decltype(record.id())> seen;
   for (int i = 0; i < reads; ++i) {
@@ -34,7 +34,7 @@ TYPED_TEST(Identity, IsAnotherAtEveryRead) {
   EXPECT_EQ(seen.size(), reads);
 }
 
-TYPED_TEST(Identity, IsNoneOfTheFields) {
+TYPED_TEST(Identity, IsNotAField) {
   const auto record = sample<TypeParam>();
   const auto copy = record;
   EXPECT_NE(record.id(), copy.id());
@@ -44,7 +44,7 @@ TYPED_TEST(Identity, IsNoneOfTheFields) {
   }
 }
 
-TYPED_TEST(Identity, IsAnotherOnEveryThread) {
+TYPED_TEST(Identity, IsDifferentOnEveryThread) {
   std::vector<std::vector<decltype(TypeParam{}.id())>> read(4);
   std::vector<std::thread> threads;
   for (auto& ids : read) {
@@ -92,7 +92,7 @@ TEST(IdentityValue, IsOfVersionFour) {
   }
 }
 
-TEST(IdentityText, IsThatOfTheValue) {
+TEST(IdentityText, IsTheTextOfTheValue) {
   const Uuid uuid{{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0x4D, 0xEF, 0x80, 0x00, 0x00, 0x00, 0x00,
                    0xFE, 0xDC, 0xBA}};
   EXPECT_EQ(canonicalText(uuid), "01234567-89AB-4DEF-8000-000000FEDCBA");

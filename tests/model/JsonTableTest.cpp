@@ -14,10 +14,10 @@
 namespace quillmark::test {
 namespace {
 
-/// Whether `body` fails as told, or else decodes to `record`.
+/// Whether `body` fails with `failure`, or decodes to `record` if that is none.
 template <Record R>
-testing::AssertionResult comesOut(const std::string& body, const Expectation::Failure& failure,
-                                  const R& record) {
+testing::AssertionResult hasOutcome(const std::string& body, const Expectation::Failure& failure,
+                                    const R& record) {
   return failure ? failsAs<R>(body, *failure) << "\nwanted: " << toText(*failure)
                  : decodesTo(body, record);
 }
@@ -36,11 +36,11 @@ void expectInEveryField(const JsonCase& text) {
     const std::string key(field.key);
     auto record = sample<R>();
     const auto failure = Expectation::under(key, Expectation::of(text, 1, record.*field.member));
-    EXPECT_TRUE(comesOut(sampleWith<R>(key, text.text), failure, record)) << key;
+    EXPECT_TRUE(hasOutcome(sampleWith<R>(key, text.text), failure, record)) << key;
   });
 }
 
-/// The text stands between the list's two elements.
+/// The text is between the list's two elements.
 template <class T>
 void expectAsElement(const JsonCase& text, const std::string& key,
                      std::vector<T> InventoryData::*list) {
@@ -50,18 +50,18 @@ void expectAsElement(const JsonCase& text, const std::string& key,
       arrayOf({JsonText::of(elements.front()), text.text, JsonText::of(elements.back())});
   elements.emplace(elements.begin() + 1);
   const auto failure = Expectation::under(key + "[1]", Expectation::of(text, 2, elements[1]));
-  EXPECT_TRUE(comesOut(sampleWith<InventoryData>(key, json), failure, record)) << key;
+  EXPECT_TRUE(hasOutcome(sampleWith<InventoryData>(key, json), failure, record)) << key;
 }
 
 TEST(JsonTable, HoldsForABody) {
   forEachText([](const JsonCase& text) {
     AlertsResponse record;
     const auto failure = Expectation::of(text, 0, record);
-    EXPECT_TRUE(comesOut(text.text, failure, record));
+    EXPECT_TRUE(hasOutcome(text.text, failure, record));
   });
 }
 
-// These have fields of every type there is.
+// These have fields of all types.
 TEST(JsonTable, HoldsForFields) {
   forEachText([](const JsonCase& text) {
     expectInEveryField<AgentStatus>(text);
@@ -84,7 +84,7 @@ TEST(JsonTable, HoldsForFieldsOfElements) {
         Expectation::under("alerts[0].title", Expectation::of(text, 3, record.alerts[0].title));
     const auto body =
         objectOf({{"alerts", arrayOf({sampleWith<ThreatAlert>("title", text.text)})}});
-    EXPECT_TRUE(comesOut(body, failure, record));
+    EXPECT_TRUE(hasOutcome(body, failure, record));
   });
 }
 
@@ -93,15 +93,15 @@ TEST(JsonTable, HoldsForWhatIsIgnored) {
   const auto members = objectOf(sampleMembers<AgentStatus>()).substr(1);
   forEachText([&](const JsonCase& text) {
     const auto failure = Expectation::ofIgnored(text, 1);
-    EXPECT_TRUE(comesOut(R"({"ignored":)" + text.text + ',' + members, failure, record));
-    EXPECT_TRUE(comesOut(sampleAnd<AgentStatus>("ignored", text.text), failure, record));
-    EXPECT_TRUE(comesOut(sampleAnd<AgentStatus>("ignored", R"([{"deep":[0,)" + text.text + "]}]"),
-                         Expectation::ofIgnored(text, 4), record));
+    EXPECT_TRUE(hasOutcome(R"({"ignored":)" + text.text + ',' + members, failure, record));
+    EXPECT_TRUE(hasOutcome(sampleAnd<AgentStatus>("ignored", text.text), failure, record));
+    EXPECT_TRUE(hasOutcome(sampleAnd<AgentStatus>("ignored", R"([{"deep":[0,)" + text.text + "]}]"),
+                           Expectation::ofIgnored(text, 4), record));
   });
 }
 
-// Otherwise one of them would be pinned twice, and perhaps to different verdicts.
-TEST(JsonTableItself, HoldsNoTextTwice) {
+// A text that is there twice could have two different expectations.
+TEST(JsonTableItself, HasNoTextTwice) {
   std::set<std::string> seen;
   for (const auto& text : jsonCases()) {
     EXPECT_TRUE(seen.insert(text.text).second) << testing::PrintToString(text.text.substr(0, 80));

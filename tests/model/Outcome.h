@@ -12,12 +12,12 @@
 
 namespace quillmark::test {
 
-/// A failure, for the eyes.
+/// A failure as readable text.
 inline std::string toText(const DecodeError& error) {
   return std::string(nameOf(error.kind)) + " at \"" + error.path + "\": " + error.detail;
 }
 
-/// Whether `json` decodes, and to what.
+/// Whether `json` decodes to `expected`.
 template <Record R>
 testing::AssertionResult decodesTo(std::string_view json, const R& expected) {
   const auto decoded = decode<R>(std::string(json));
@@ -30,8 +30,8 @@ testing::AssertionResult decodesTo(std::string_view json, const R& expected) {
   return testing::AssertionSuccess();
 }
 
-/// Whether `json` fails to decode in just this way; an empty detail stands for
-/// any, but for some.
+/// Whether `json` fails to decode with exactly this error; an empty detail stands for
+/// any detail that is not empty.
 template <Record R>
 testing::AssertionResult failsAs(std::string_view json, const DecodeError& expected) {
   const auto decoded = decode<R>(std::string(json));
@@ -47,7 +47,7 @@ testing::AssertionResult failsAs(std::string_view json, const DecodeError& expec
   return testing::AssertionSuccess();
 }
 
-/// Whether `json` fails to decode, of this kind and at this place.
+/// Whether `json` fails to decode with an error of this kind and path.
 template <Record R>
 testing::AssertionResult failsWith(std::string_view json, DecodeFailure kind,
                                    std::string_view path) {

@@ -21,13 +21,13 @@ TYPED_TEST(RecordDecode, FillsEveryField) {
   EXPECT_TRUE(decodesTo(objectOf(sampleMembers<TypeParam>()), sample<TypeParam>()));
 }
 
-TYPED_TEST(RecordDecode, TakesKeysInAnyOrder) {
+TYPED_TEST(RecordDecode, AcceptsKeysInAnyOrder) {
   auto members = sampleMembers<TypeParam>();
   std::reverse(members.begin(), members.end());
   EXPECT_TRUE(decodesTo(objectOf(members), sample<TypeParam>()));
 }
 
-TYPED_TEST(RecordDecode, MissesOnlyRequiredKeys) {
+TYPED_TEST(RecordDecode, FailsOnlyForMissingRequiredKeys) {
   for (const auto& key : keysOf<TypeParam>()) {
     const std::string json = sampleWithout<TypeParam>(key);
     if (isOptional<TypeParam>(key)) {
@@ -40,7 +40,7 @@ TYPED_TEST(RecordDecode, MissesOnlyRequiredKeys) {
   }
 }
 
-TYPED_TEST(RecordDecode, TakesNullForOptionalKeysOnly) {
+TYPED_TEST(RecordDecode, AcceptsNullForOptionalKeysOnly) {
   for (const auto& key : keysOf<TypeParam>()) {
     const std::string json = sampleWith<TypeParam>(key, "null");
     if (isOptional<TypeParam>(key)) {
@@ -62,7 +62,7 @@ TYPED_TEST(RecordDecode, IgnoresKeysOutsideTheTable) {
 }
 
 // A key is its exact text: no other case, no blanks around it.
-TYPED_TEST(RecordDecode, TakesKeysLiterally) {
+TYPED_TEST(RecordDecode, ComparesKeysLiterally) {
   for (const auto& key : keysOf<TypeParam>()) {
     if (isOptional<TypeParam>(key)) {
       continue;

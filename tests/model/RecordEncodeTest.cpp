@@ -22,14 +22,14 @@ TYPED_TEST(RecordEncode, WritesEveryKeyInTableOrder) {
   EXPECT_EQ(encode(sample<TypeParam>()), objectOf(sampleMembers<TypeParam>()));
 }
 
-TYPED_TEST(RecordEncode, LeavesOutWhatHasNoValue) {
+TYPED_TEST(RecordEncode, LeavesOutFieldsWithoutAValue) {
   const auto record = sampleOfRequired<TypeParam>();
   Members members = sampleMembers<TypeParam>();
   std::erase_if(members, [](const auto& member) { return isOptional<TypeParam>(member.first); });
   EXPECT_EQ(encode(record), objectOf(members));
 }
 
-TYPED_TEST(RecordEncode, WritesRequiredFieldsAlsoWhenEmpty) {
+TYPED_TEST(RecordEncode, WritesRequiredFieldsEvenWhenEmpty) {
   TypeParam record;
   Members members = JsonText::membersOf(record);
   for (const auto& key : keysOf<TypeParam>()) {
@@ -40,13 +40,13 @@ TYPED_TEST(RecordEncode, WritesRequiredFieldsAlsoWhenEmpty) {
   EXPECT_EQ(encode(record), objectOf(members));
 }
 
-TYPED_TEST(RecordEncode, ComesBackTheSame) {
+TYPED_TEST(RecordEncode, DecodesToTheSame) {
   EXPECT_TRUE(decodesTo(encode(sample<TypeParam>()), sample<TypeParam>()));
   EXPECT_TRUE(decodesTo(encode(sampleOfRequired<TypeParam>()), sampleOfRequired<TypeParam>()));
 }
 
-// Copies share nothing: what is done to one is not seen in the other.
-TYPED_TEST(RecordEncode, OfACopyIsItsOwn) {
+// Copies share nothing: a change of one does not change the other.
+TYPED_TEST(RecordEncode, OfACopyIsIndependent) {
   auto original = sample<TypeParam>();
   const auto copy = original;
   original = TypeParam{};
@@ -55,18 +55,18 @@ TYPED_TEST(RecordEncode, OfACopyIsItsOwn) {
   EXPECT_NE(encode(original), encode(copy));
 }
 
-TEST(EncodedText, IsEscapedWhereJsonDemandsIt) {
+TEST(EncodedText, IsEscapedWhereJsonRequiresIt) {
   EXPECT_EQ(encode(appNamed("\"\\/\b\f\n\r\t\x01\x1F\x7F")),
             R"({"name":"\"\\/\b\f\n\r\t\u0001\u001f)"
             "\x7F\"}");
 }
 
-TEST(EncodedText, IsOtherwiseWrittenAsItIs) {
+TEST(EncodedText, IsOtherwiseWrittenUnchanged) {
   const std::string text = "<b>&amp; é € 😀 \u202E\u2028\uFEFF";
   EXPECT_EQ(encode(appNamed(text)), objectOf({{"name", quoted(text)}}));
 }
 
-TEST(EncodedText, ComesBackTheSame) {
+TEST(EncodedText, DecodesToTheSame) {
   std::string every;
   for (char c = 0; c < 0x7F; ++c) {
     every += c;
@@ -76,7 +76,7 @@ TEST(EncodedText, ComesBackTheSame) {
   EXPECT_TRUE(decodesTo(encode(alert), alert));
 }
 
-TEST(EncodedText, OfAMegabyteComesBackTheSame) {
+TEST(EncodedText, OfAMegabyteDecodesToTheSame) {
   const InstalledApp app = appNamed(std::string(1 << 20, '"'));
   EXPECT_TRUE(decodesTo(encode(app), app));
 }

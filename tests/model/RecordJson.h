@@ -15,7 +15,7 @@
 
 namespace quillmark::test {
 
-/// A JSON object as it stands in a text: keys, each with its value's text.
+/// The members of a JSON object in order: keys, each with its value's text.
 using Members = std::vector<std::pair<std::string, std::string>>;
 
 inline std::string quoted(const std::string& text) { return '"' + text + '"'; }
@@ -51,8 +51,8 @@ std::vector<std::string> keysOf() {
   return keys;
 }
 
-/// Writes JSON by string concatenation, so that what the codec makes can be
-/// compared with something that it did not make. Texts are not escaped.
+/// Writes JSON by string concatenation, so that the codec's output can be compared with
+/// a text that is independent of it. Texts are not escaped.
 struct JsonText {
   static std::string of(bool flag) { return flag ? "true" : "false"; }
   static std::string of(std::int64_t number) { return std::to_string(number); }
@@ -93,7 +93,7 @@ struct JsonText {
   }
 };
 
-/// Whether an object without `key` is a good R.
+/// Whether an object without `key` is a valid R.
 template <Record R>
 bool isOptional(std::string_view key) {
   bool found = false;

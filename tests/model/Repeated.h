@@ -7,7 +7,7 @@
 
 namespace quillmark::test {
 
-/// `piece`, as often as that.
+/// `piece`, repeated `count` times.
 inline std::string repeated(int count, const std::string& piece) {
   std::string text;
   for (int i = 0; i < count; ++i) {

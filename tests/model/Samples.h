@@ -15,8 +15,8 @@
 
 namespace quillmark::test {
 
-/// Fills values so that no two fields of a record hold the same: a text names
-/// its key, an array has two elements, an optional has a value.
+/// Fills values so that no two fields of a record have the same: a text contains its
+/// key, an array has two elements, an optional has a value.
 struct Sample {
   static void fill(std::string_view, bool& flag) { flag = true; }
   static void fill(std::string_view, std::int64_t& number) { number = -42; }
@@ -47,7 +47,7 @@ R sample() {
   return record;
 }
 
-/// A record with every field filled that must be, and no other.
+/// A record with only the required fields filled.
 template <Record R>
 R sampleOfRequired() {
   R record;
@@ -77,7 +77,7 @@ std::string sampleWith(std::string_view key, const std::string& value) {
   return objectOf(members);
 }
 
-/// The same, with one key more.
+/// The same, with one more key.
 template <Record R>
 std::string sampleAnd(const std::string& key, const std::string& value) {
   auto members = sampleMembers<R>();

@@ -70,7 +70,7 @@ std::vector<JsonCase> badNumberCases() {
       {"1;", NotJson{}},
       {"1 2", NotJson{}},
       {"1\xFF", NotJson{}},
-      // Beyond a double and 64 bits, which the grammar would allow.
+      // Too large for a double and for 64 bits, although the grammar allows them.
       {"18446744073709551616", NotJson{}},
       {"-9223372036854775809", NotJson{}},
       {"-18446744073709551616", NotJson{}},
@@ -86,7 +86,7 @@ std::vector<JsonCase> badNumberCases() {
       {"1e999999999", NotJson{}},
       {"1e2147483648", NotJson{}},
       {"1e99999999999999999999", NotJson{}},
-      // Digits and signs of others.
+      // Digits and signs of other scripts.
       {"\u0661", NotJson{}},
       {"\uFF11", NotJson{}},
       {"\u00BD", NotJson{}},

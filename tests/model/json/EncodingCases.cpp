@@ -37,7 +37,7 @@ std::vector<JsonCase> badUtf8Cases() {
       {"\"\xE2z\x82\"", NotJson{}},
       {"\"\xF0\x9F\x98\"", NotJson{}},
       {"\"\xF0\x9F\x98z\"", NotJson{}},
-      // Longer than need be.
+      // Longer than necessary.
       {"\"\xC0\x80\"", NotJson{}},
       {"\"\xC0\xA2\"", NotJson{}},
       {"\"\xC1\xBF\"", NotJson{}},
@@ -69,7 +69,7 @@ std::vector<JsonCase> otherEncodingCases() {
       // Latin-1, Windows-1252
       {"\"caf\xE9\"", NotJson{}},
       {"\"\x93quoted\x94\"", NotJson{}},
-      // UTF-16 with either end first, without and with a byte order mark
+      // UTF-16 of both byte orders, without and with a byte order mark
       {"\x31\0"s, NotJson{}},
       {"\xFF\xFE\x31\0"s, NotJson{}},
       {"\0\x31"s, NotJson{}},

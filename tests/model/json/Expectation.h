@@ -16,25 +16,25 @@
 
 namespace quillmark::test {
 
-/// What must come of a verdict where a value of a certain type is wanted: that
-/// value, or a failure. A failure without detail is that of a text that is no
-/// JSON; how the parser words it is its own business.
+/// The expected result when a text is decoded as a value of a certain type: that value,
+/// or a failure. A failure without detail means that the text is not JSON; any message
+/// of the parser is accepted.
 class Expectation final {
  public:
   using Failure = std::optional<DecodeError>;
 
-  /// Of a text in a body that has opened `levels` brackets before it.
+  /// For a text in a body with `levels` open brackets before it.
   template <class T>
   static Failure of(const JsonCase& text, int levels, T& value) {
     return isRefused(text, levels) ? noJson() : read(text.verdict, value);
   }
 
-  /// Of a text that nobody asks for.
+  /// For a text under a key that is ignored.
   static Failure ofIgnored(const JsonCase& text, int levels) {
     return isRefused(text, levels) ? noJson() : Failure{};
   }
 
-  /// The failure as seen from one step further up.
+  /// The failure with `step` before its path.
   static Failure under(const std::string& step, Failure failure) {
     const bool isOfBody = failure && failure->detail.empty();
     if (failure && !isOfBody) {
@@ -81,7 +81,7 @@ class Expectation final {
   template <Record R>
   static Failure read(const Verdict& found, R&) {
     if (!std::holds_alternative<Object>(found)) {
-      // For a record, null is one more value of another type.
+      // For a record, null is a wrong type like any other.
       auto failure = mismatch("object", found);
       failure->kind = DecodeFailure::typeMismatch;
       return failure;

@@ -55,7 +55,7 @@ std::vector<JsonCase> wholeNumberCases() {
       {"-9e18", -9000000000000000000},
       {"9223372036854774784.0", 9223372036854774784},
       {"-9223372036854774784.0", -9223372036854774784},
-      // Finer than a double: it is rounded before it is seen.
+      // More precise than a double: the parser rounds them.
       {"9007199254740993.0", 9007199254740992},
       {"1e-400", 0},
       {"-1e-400", 0},

@@ -15,14 +15,14 @@ struct NotJson {};
 
 struct Null {};
 
-/// A number of 64 bits, whole or not, that is no whole number with a sign.
+/// A number that is accepted but is not a signed integer of 64 bits.
 struct OtherNumber {};
 
-/// An object, of which no key is in any record's table.
+/// An object without keys of any record's table.
 struct Object {};
 
-/// What a text says as JSON. The strings and whole numbers are what it means,
-/// the arrays what their elements mean.
+/// The meaning of a text as JSON: strings and integers have their values, arrays the
+/// meanings of their elements.
 struct Verdict : std::variant<NotJson, Null, bool, std::int64_t, OtherNumber, std::string,
                               std::vector<Verdict>, Object> {
   using variant::variant;
@@ -30,15 +30,15 @@ struct Verdict : std::variant<NotJson, Null, bool, std::int64_t, OtherNumber, st
 
 using List = std::vector<Verdict>;
 
-/// A small text and its verdict. Where the JSON grammar's readers differ (twice
-/// the same key, lone surrogates, depth, numbers that neither a double nor an
-/// integer of 64 bits holds), the verdict is this system's.
+/// A small text and its verdict. Where JSON parsers differ (duplicate keys, lone
+/// surrogates, depth, numbers too large for a double and an integer of 64 bits), the
+/// verdict is this system's.
 ///
-/// No text has a comma outside brackets: two of them in a list would be good.
+/// No text has a comma outside brackets: inside a list, it would be two valid elements.
 struct JsonCase {
   std::string text;
   Verdict verdict;
-  int depth = 0;  ///< brackets open at once; told only where it comes near the limit
+  int depth = 0;  ///< brackets open at once; set only if near the limit
 };
 
 /// Levels of brackets in a body beyond which it is refused.

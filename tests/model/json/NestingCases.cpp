@@ -25,7 +25,7 @@ JsonCase both(int levels) {
 
 }  // namespace
 
-// The limit is met by a text of its own, and three levels down in a body.
+// Reaches the limit with a whole text, and with a text three levels down in a body.
 std::vector<JsonCase> nestingCases() {
   std::vector<JsonCase> cases{both(200), both(254), both(255), both(256), both(257)};
   for (const int depth : {100, 508, 509, 510, 511, 512, 513, 1000, 100000}) {

@@ -5,7 +5,7 @@
 
 namespace quillmark::test {
 
-// Comments, and what else may come from a port that somebody else holds.
+// Comments, and other texts that another program on the agent's port may send.
 std::vector<JsonCase> strayTextCases() {
   return {
       {"// comment\n1", NotJson{}},
