@@ -15,7 +15,7 @@
 namespace quillmark::test {
 namespace {
 
-/// A folder that may be looked into and not changed.
+/// A folder that may be read but not changed.
 class AtomicFileAsUser : public testing::Test {
  protected:
   AtomicFileAsUser() {
@@ -28,24 +28,24 @@ class AtomicFileAsUser : public testing::Test {
   const std::string locked = folder / "locked";
 };
 
-TEST_F(AtomicFileAsUser, StaysAsItIsInAReadOnlyFolder) {
+TEST_F(AtomicFileAsUser, IsUnchangedInAReadOnlyFolder) {
   EXPECT_EQ(writeFileAtomically(locked + "/file", "new").message(), "Permission denied");
   EXPECT_EQ(contentOf(locked + "/file"), "old");
   EXPECT_EQ(namesIn(locked), std::set<std::string>{"file"});
 }
 
-TEST_F(AtomicFileAsUser, IsNotMadeInAReadOnlyFolder) {
+TEST_F(AtomicFileAsUser, IsNotCreatedInAReadOnlyFolder) {
   EXPECT_EQ(writeFileAtomically(locked + "/another", "new").message(), "Permission denied");
   EXPECT_EQ(namesIn(locked), std::set<std::string>{"file"});
 }
 
-TEST_F(AtomicFileAsUser, StaysAsItIsBehindALinkIntoAReadOnlyFolder) {
+TEST_F(AtomicFileAsUser, IsUnchangedBehindALinkIntoAReadOnlyFolder) {
   std::filesystem::create_symlink(locked + "/file", folder / "link");
   EXPECT_EQ(writeFileAtomically(folder / "link", "new").message(), "Permission denied");
   EXPECT_EQ(contentOf(locked + "/file"), "old");
 }
 
-TEST_F(AtomicFileAsUser, IsReplacedThoughItMayNotBeWrittenItself) {
+TEST_F(AtomicFileAsUser, IsReplacedEvenIfItIsReadOnly) {
   const auto path = folder / "read-only";
   writeFile(path, "old");
   ASSERT_EQ(chmod(path.c_str(), 0400), 0);
@@ -54,12 +54,12 @@ TEST_F(AtomicFileAsUser, IsReplacedThoughItMayNotBeWrittenItself) {
   EXPECT_EQ(modeOf(path), 0400U);
 }
 
-TEST_F(AtomicFileAsUser, HasNoFoldersMadeInAReadOnlyFolder) {
+TEST_F(AtomicFileAsUser, GetsNoFoldersInAReadOnlyFolder) {
   EXPECT_EQ(createPrivateFolders(locked + "/a/b").message(), "Permission denied");
   EXPECT_EQ(namesIn(locked), std::set<std::string>{"file"});
 }
 
-TEST_F(AtomicFileAsUser, HasFoldersPassedThroughThatAreReadOnly) {
+TEST_F(AtomicFileAsUser, GetsFoldersBelowReadOnlyFolders) {
   ASSERT_EQ(chmod(locked.c_str(), 0700), 0);
   std::filesystem::create_directory(locked + "/open");
   ASSERT_EQ(chmod(locked.c_str(), 0500), 0);

@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
 
-/// While it lives, writing beyond so many bytes fails in every file.
+/// While it exists, writing more than `bytes` bytes to any file fails.
 class FileSizeLimit final {
  public:
   explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -42,7 +42,7 @@ class FileSizeLimit final {
   void (*handler_)(int);
 };
 
-/// Under each umask that people have.
+/// Tests with the usual umasks.
 class AtomicFile : public testing::TestWithParam<mode_t> {
  protected:
   AtomicFile() : before_(umask(GetParam())) {}
@@ -68,12 +68,12 @@ class AtomicFile : public testing::TestWithParam<mode_t> {
   mode_t before_;
 };
 
-TEST_P(AtomicFile, IsMadeForTheUserAlone) {
+TEST_P(AtomicFile, IsCreatedForTheUserOnly) {
   expectWritten("text");
   EXPECT_EQ(modeOf(path), 0600U);
 }
 
-TEST_P(AtomicFile, HoldsEveryByte) {
+TEST_P(AtomicFile, ContainsEveryByte) {
   for (const auto& text : {std::string(), std::string("\0\xFF\r\n", 4), std::string(3000000, 'x'),
                            std::string("short again")}) {
     expectWritten(text);
@@ -90,7 +90,7 @@ TEST_P(AtomicFile, KeepsAStricterMode) {
   }
 }
 
-TEST_P(AtomicFile, TightensAnyOtherMode) {
+TEST_P(AtomicFile, RestrictsAnyOtherMode) {
   for (const mode_t mode : {0644U, 0640U, 0660U, 0604U, 0444U, 0700U, 0777U, 04600U, 01600U}) {
     writeFile(path, "old");
     ASSERT_EQ(chmod(path.c_str(), mode), 0);
@@ -99,7 +99,7 @@ TEST_P(AtomicFile, TightensAnyOtherMode) {
   }
 }
 
-TEST_P(AtomicFile, LeavesWhoeverHasTheOldOneOpenWithTheOldOne) {
+TEST_P(AtomicFile, KeepsTheOldFileForThoseWhoHaveItOpen) {
   writeFile(path, "old");
   std::ifstream reader(path);
   expectWritten("new");
@@ -108,7 +108,7 @@ TEST_P(AtomicFile, LeavesWhoeverHasTheOldOneOpenWithTheOldOne) {
   EXPECT_EQ(seen, "old");
 }
 
-TEST_P(AtomicFile, LeavesAnotherNameOfTheOldOneAlone) {
+TEST_P(AtomicFile, DoesNotChangeAnotherNameOfTheOldFile) {
   const TemporaryFolder elsewhere;
   writeFile(path, "old");
   fs::create_hard_link(path, elsewhere / "other");
@@ -128,18 +128,18 @@ TEST_P(AtomicFile, FollowsLinksToAFile) {
   EXPECT_EQ(namesIn(elsewhere.path()), (Names{"real", "relative"}));
 }
 
-TEST_P(AtomicFile, IsNotMadeThroughADanglingLink) {
+TEST_P(AtomicFile, IsNotCreatedThroughADanglingLink) {
   fs::create_symlink(folder / "nowhere", path);
   expectRefused("No such file or directory");
   EXPECT_TRUE(fs::is_symlink(path));
 }
 
-TEST_P(AtomicFile, IsNotMadeThroughARingOfLinks) {
+TEST_P(AtomicFile, IsNotCreatedThroughARingOfLinks) {
   fs::create_symlink("file", path);
   expectRefused("Too many levels of symbolic links");
 }
 
-TEST_P(AtomicFile, TakesThePlaceOfRegularFilesAlone) {
+TEST_P(AtomicFile, ReplacesOnlyRegularFiles) {
   fs::create_directory(path);
   expectRefused("Not a regular file");
   EXPECT_TRUE(fs::is_empty(path));
@@ -183,15 +183,15 @@ TEST_P(AtomicFile, LeavesNoDescriptorOpenWhenAWriteFails) {
   EXPECT_EQ(namesIn(folder.path()), Names{});
 }
 
-TEST_P(AtomicFile, HasFoldersMadeForTheUserAlone) {
+TEST_P(AtomicFile, GetsFoldersForTheUserOnly) {
   EXPECT_FALSE(createPrivateFolders(folder / "a/b/c"));
   for (const std::string made : {"a", "a/b", "a/b/c"}) {
     EXPECT_EQ(modeOf(folder / made), 0700U);
   }
-  EXPECT_FALSE(createPrivateFolders(folder / "a/b/c")) << "once more is fine";
+  EXPECT_FALSE(createPrivateFolders(folder / "a/b/c")) << "a second call is no error";
 }
 
-TEST_P(AtomicFile, HasFoldersThatAreThereLeftAlone) {
+TEST_P(AtomicFile, DoesNotChangeFoldersThatExist) {
   fs::create_directory(folder / "a");
   ASSERT_EQ(chmod((folder / "a").c_str(), 0755), 0);
   fs::create_symlink("a", folder / "link");
@@ -200,7 +200,7 @@ TEST_P(AtomicFile, HasFoldersThatAreThereLeftAlone) {
   EXPECT_EQ(modeOf(folder / "a/b"), 0700U);
 }
 
-TEST_P(AtomicFile, HasNoFoldersMadeThroughFilesOrDanglingLinks) {
+TEST_P(AtomicFile, GetsNoFoldersThroughFilesOrDanglingLinks) {
   writeFile(path, "a file");
   EXPECT_EQ(createPrivateFolders(path).message(), "Not a directory");
   EXPECT_EQ(createPrivateFolders(path + "/a").message(), "Not a directory");

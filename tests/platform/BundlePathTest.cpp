@@ -10,7 +10,7 @@
 namespace quillmark::test {
 namespace {
 
-TEST(BundlePath, IsWhatHoldsTheProgramsFolder) {
+TEST(BundlePath, IsTheFolderAboveContentsMacOS) {
   EXPECT_EQ(bundlePathOf("/Applications/X.app/Contents/MacOS/panel"), "/Applications/X.app");
   EXPECT_EQ(bundlePathOf("/a/Contents/MacOS/b/Contents/MacOS/panel"), "/a/Contents/MacOS/b");
 }
@@ -32,7 +32,7 @@ TEST(BundlePath, KeepsEveryCharacter) {
   EXPECT_EQ(bundlePathOf("/My App's\n\xFF.app/Contents/MacOS/panel"), "/My App's\n\xFF.app");
 }
 
-TEST(BundlePath, OfTheRunningProgramIsWhereItLies) {
+TEST(BundlePath, OfTheRunningProgramIsItsFolder) {
   const auto program = std::filesystem::canonical("/proc/self/exe");
   EXPECT_EQ(bundlePath(), program.parent_path());
 }

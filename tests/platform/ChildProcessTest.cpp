@@ -28,20 +28,20 @@ class ChildProcess : public testing::Test {
   const TemporaryFolder folder;
 };
 
-TEST_F(ChildProcess, TellsTheExitStatus) {
+TEST_F(ChildProcess, ReturnsTheExitStatus) {
   EXPECT_EQ(runSilently(bash("exit 0")).value(), 0);
   EXPECT_EQ(runSilently(bash("exit 3")).value(), 3);
   EXPECT_EQ(runSilently(bash("exit 255")).value(), 255);
 }
 
-TEST_F(ChildProcess, TellsTheSignalThatEndedIt) {
+TEST_F(ChildProcess, ReturnsTheSignalThatEndedIt) {
   EXPECT_EQ(runSilently(bash("kill -TERM $$")).value(), 128 + SIGTERM);
   EXPECT_EQ(runSilently(bash("kill -KILL $$")).value(), 128 + SIGKILL);
 }
 
-// Who starts this program may have done so with that signal ignored, and then
-// the system keeps no exit status.
-TEST_F(ChildProcess, TellsTheExitStatusAlsoWhereEndedChildrenWereIgnored) {
+// This program may have been started with that signal ignored, and then the system keeps
+// no exit status.
+TEST_F(ChildProcess, ReturnsTheExitStatusEvenIfSigchldIsIgnored) {
   const auto before = std::signal(SIGCHLD, SIG_IGN);
   const auto failed = runSilently(bash("exit 1"));
   std::signal(SIGCHLD, SIG_IGN);
@@ -51,8 +51,8 @@ TEST_F(ChildProcess, TellsTheExitStatusAlsoWhereEndedChildrenWereIgnored) {
   EXPECT_EQ(succeeded.value(), 0);
 }
 
-// Such as a socket that was not opened with care.
-TEST_F(ChildProcess, GetsTheStandardStreamsAlone) {
+// Nothing else, such as a socket that was opened without close-on-exec.
+TEST_F(ChildProcess, InheritsOnlyTheStandardStreams) {
   const int leaking = open("/dev/null", O_RDONLY);
   const int status =
       runSilently(bash("[[ ! -e /proc/self/fd/" + std::to_string(leaking) + " ]]")).value();
@@ -82,7 +82,7 @@ TEST_F(ChildProcess, InheritsNoIgnoredOrBlockedSignals) {
   EXPECT_EQ(ignored.value(), 128 + SIGTERM);
 }
 
-TEST_F(ChildProcess, PassesArgumentsAsTheyAre) {
+TEST_F(ChildProcess, PassesArgumentsUnchanged) {
   const std::string odd = "a  b'\"$HOME`*\\\n\xFF";
   ASSERT_EQ(runSilently({"/bin/bash", {"-c", "printf %s \"$1\" > \"$2\"", "", odd, folder / "out"}})
                 .value(),
@@ -90,7 +90,7 @@ TEST_F(ChildProcess, PassesArgumentsAsTheyAre) {
   EXPECT_EQ(contentOf(folder / "out"), odd);
 }
 
-TEST_F(ChildProcess, DiscardsWhatItSays) {
+TEST_F(ChildProcess, DiscardsItsOutput) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   const auto status = runSilently(bash("echo output; echo errors >&2; exit 5"));
@@ -106,7 +106,7 @@ TEST_F(ChildProcess, WritesToTheNullDevice) {
       0);
 }
 
-TEST_F(ChildProcess, SpeaksOnThisProgramsStreamsWhenDetached) {
+TEST_F(ChildProcess, WritesToThisProgramsStreamsWhenDetached) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   const auto error = startDetached(bash("echo output; echo errors >&2; : > " + (folder / "done")));
@@ -117,17 +117,17 @@ TEST_F(ChildProcess, SpeaksOnThisProgramsStreamsWhenDetached) {
   EXPECT_FALSE(error);
 }
 
-TEST_F(ChildProcess, HasASessionOfItsOwnWhenDetached) {
-  const auto told = folder / "told";
+TEST_F(ChildProcess, HasItsOwnSessionWhenDetached) {
+  const auto result = folder / "result";
   ASSERT_FALSE(startDetached(bash("read -ra stat < /proc/$$/stat; echo $(($$ - stat[5])) > " +
-                                  told + ".new; mv " + told + ".new " + told)));
-  ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(told); }));
-  EXPECT_EQ(contentOf(told), "0\n");
+                                  result + ".new; mv " + result + ".new " + result)));
+  ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(result); }));
+  EXPECT_EQ(contentOf(result), "0\n");
 }
 
 TEST_F(ChildProcess, IsNotWaitedForWhenDetached) {
   const auto gate = folder / "gate";
-  // It comes to its end only after this has returned.
+  // The child ends only after startDetached() has returned.
   ASSERT_FALSE(startDetached(
       bash("until [[ -e " + gate + " ]]; do sleep 0.01; done; : > " + gate + ".passed")));
   EXPECT_FALSE(std::filesystem::exists(gate + ".passed"));

@@ -26,8 +26,8 @@ constexpr int utf8Length(char32_t c) {
   return c < 0x10000 ? 3 : 4;
 }
 
-/// The bit pattern of UTF-8 with `length` bytes for `c`: also where that is
-/// longer than it may be, or where `c` is no character.
+/// The bit pattern of UTF-8 with `length` bytes for `c`, even if that is longer than
+/// allowed, or `c` is no character.
 inline std::string utf8(char32_t c, int length) {
   if (length == 1) {
     return {static_cast<char>(c)};

@@ -15,7 +15,7 @@ namespace {
 namespace errc = boost::system::errc;
 using boost::system::error_code;
 
-TEST(FileErrors, SpeakToTheUser) {
+TEST(FileErrors, HaveMessagesForTheUser) {
   EXPECT_EQ(error_code(FileError::notRegular).message(), "Not a regular file");
   EXPECT_EQ(error_code(FileError::tooLarge).message(), "The file is too large");
   EXPECT_EQ(error_code(FileError::notUtf8).message(), "The file is not UTF-8 text");
@@ -30,8 +30,8 @@ TEST(FileErrors, EqualPortableConditions) {
   EXPECT_EQ(error_code(FileError::unquotablePath), errc::invalid_argument);
 }
 
-// Whoever adds one and forgets its words still gets some.
-TEST(FileErrors, OfUnknownNumbersAreErrorsOfTheirOwn) {
+// A new error without a message still gets a general one.
+TEST(FileErrors, OfUnknownNumbersAreDistinctErrors) {
   const error_code unknown(99, error_code(FileError::notRegular).category());
   EXPECT_EQ(unknown.message(), "Unknown error");
   EXPECT_EQ(unknown.default_error_condition().value(), 99);

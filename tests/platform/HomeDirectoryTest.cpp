@@ -36,7 +36,7 @@ class HomeDirectory : public testing::Test {
   std::optional<std::string> before_;
 };
 
-/// The home of the running user, as the system's own tool tells it.
+/// The home of the current user according to the system's own tool.
 std::string homeOfRunningUser() {
   const std::string command = "getent passwd " + std::to_string(getuid()) + " | cut -d: -f6";
   FILE* const output = popen(command.c_str(), "r");
@@ -76,7 +76,7 @@ TEST_F(HomeDirectory, IsThatOfThePasswordEntryWithAnEmptyVariable) {
   EXPECT_EQ(homeDirectory(), homeOfRunningUser());
 }
 
-TEST_F(HomeDirectory, IsReadAnewEachTime) {
+TEST_F(HomeDirectory, IsReadAgainEachTime) {
   setenv("HOME", "/first", 1);
   EXPECT_EQ(homeDirectory(), "/first");
   setenv("HOME", "/second", 1);

@@ -10,7 +10,7 @@
 
 namespace quillmark::test {
 
-/// An empty folder of its own, gone with everything in it at the end.
+/// A new empty folder, which is deleted with everything in it at the end.
 class TemporaryFolder final {
  public:
   TemporaryFolder() {

@@ -48,7 +48,7 @@ TEST_F(TextFile, ReadsEveryByte) {
   EXPECT_EQ(readTextFile(path, limit).value(), text);
 }
 
-TEST_F(TextFile, ReadsWhatTheSystemGivesNoSizeFor) {
+TEST_F(TextFile, ReadsFilesWithoutASize) {
   const auto text = readTextFile("/proc/self/status", 1 << 20);
   EXPECT_EQ(std::filesystem::file_size("/proc/self/status"), 0U);
   EXPECT_TRUE(text.value().starts_with("Name:"));
@@ -120,7 +120,7 @@ TEST_F(TextFile, RefusesWhatIsNotUtf8) {
   }
 }
 
-TEST_F(TextFile, TakesACharacterAcrossTwoBlocks) {
+TEST_F(TextFile, ReadsACharacterAcrossTwoBlocks) {
   const std::string text = std::string(4095, 'x') + "\xE2\x82\xAC";
   writeFile(path, text);
   EXPECT_EQ(readTextFile(path, 5000).value(), text);

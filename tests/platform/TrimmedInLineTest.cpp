@@ -45,7 +45,7 @@ TEST(TrimmedInLine, StopsAtLineBreaks) {
   }
 }
 
-TEST(TrimmedInLine, TakesNothingForNothing) { EXPECT_EQ(trimmedInLine(""), ""); }
+TEST(TrimmedInLine, KeepsAnEmptyText) { EXPECT_EQ(trimmedInLine(""), ""); }
 
 }  // namespace
 }  // namespace quillmark::test

@@ -74,9 +74,9 @@ TEST(Trimmed, KeepsNulCharacters) {
   EXPECT_EQ(trimmed(" " + text + " "), text);
 }
 
-TEST(Trimmed, TakesNothingForNothing) { EXPECT_EQ(trimmed(""), ""); }
+TEST(Trimmed, KeepsAnEmptyText) { EXPECT_EQ(trimmed(""), ""); }
 
-TEST(Trimmed, LooksIntoItsArgument) {
+TEST(Trimmed, IsAViewOfItsArgument) {
   const std::string text = "  token ";
   EXPECT_EQ(trimmed(text).data(), text.data() + 2);
 }

@@ -23,7 +23,7 @@ TEST(Utf8, AcceptsEveryCharacter) {
   EXPECT_TRUE(isUtf8(all));
 }
 
-TEST(Utf8, AcceptsNothingAtAll) { EXPECT_TRUE(isUtf8("")); }
+TEST(Utf8, AcceptsAnEmptyText) { EXPECT_TRUE(isUtf8("")); }
 
 TEST(Utf8, RefusesSurrogates) {
   for (char32_t c = 0xD800; c <= 0xDFFF; ++c) {
@@ -46,7 +46,7 @@ TEST(Utf8, RefusesWhatIsBeyondTheLastCodePoint) {
   }
 }
 
-TEST(Utf8, RefusesBytesThatBeginNothing) {
+TEST(Utf8, RefusesInvalidFirstBytes) {
   for (int byte = 0x80; byte <= 0xFF; ++byte) {
     const std::string alone(1, static_cast<char>(byte));
     EXPECT_FALSE(isUtf8(alone)) << byte;
@@ -54,7 +54,7 @@ TEST(Utf8, RefusesBytesThatBeginNothing) {
   }
 }
 
-TEST(Utf8, RefusesSequencesThatBreakOff) {
+TEST(Utf8, RefusesIncompleteSequences) {
   for (const char32_t c : oneOfEachLength) {
     const std::string whole = utf8(c);
     for (std::size_t size = 1; size < whole.size(); ++size) {

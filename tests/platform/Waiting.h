@@ -10,7 +10,7 @@
 
 namespace quillmark::test {
 
-/// Looks until `condition` holds; false when patience ends.
+/// Checks `condition` until it holds; false after `patience()`.
 template <class Condition>
 [[nodiscard]] bool waitUntil(Condition condition) {
   const auto end = std::chrono::steady_clock::now() + patience();

@@ -17,14 +17,14 @@ using namespace std::string_literals;
 using test::FixtureTree;
 using Arguments = ProcessCommand::Arguments;
 
-TEST(ProcessCommands, AreTheArgumentsJoinedByBlanks) {
+TEST(ProcessCommands, AreTheArgumentsJoinedBySpaces) {
   const FixtureTree tree;
   tree.write("proc/7/cmdline", "program\0--option\0two words\0"s);
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "program --option two words");
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::present);
 }
 
-TEST(ProcessCommands, EndWhereATitleIsPadded) {
+TEST(ProcessCommands, EndBeforeThePaddingOfATitle) {
   const FixtureTree tree;
   tree.write("proc/7/cmdline", "title\0\0\0\0"s);
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "title");
@@ -36,7 +36,7 @@ TEST(ProcessCommands, KeepEmptyArgumentsWithin) {
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "program  last");
 }
 
-TEST(ProcessCommands, AreTheNameWhereThereIsNone) {
+TEST(ProcessCommands, AreTheNameIfThereAreNoArguments) {
   const FixtureTree tree;
   tree.write("proc/7/cmdline", "");
   tree.write("proc/7/comm", "ended\n");
@@ -44,7 +44,7 @@ TEST(ProcessCommands, AreTheNameWhereThereIsNone) {
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::none);
 }
 
-TEST(ProcessCommands, StayBlankWhereTheOneArgumentIsBlank) {
+TEST(ProcessCommands, AreEmptyIfTheOnlyArgumentIsEmpty) {
   const FixtureTree tree;
   tree.write("proc/7/cmdline", "\0"s);
   tree.write("proc/7/comm", "nameless\n");
@@ -52,12 +52,12 @@ TEST(ProcessCommands, StayBlankWhereTheOneArgumentIsBlank) {
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::present);
 }
 
-TEST(ProcessCommands, AreEmptyForAProcessThatIsGone) {
+TEST(ProcessCommands, AreEmptyForAProcessThatHasEnded) {
   const FixtureTree tree;
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "");
 }
 
-TEST(ProcessCommands, OfAllComeInTheOrderOfTheirNumbers) {
+TEST(ProcessCommands, OfAllAreInTheOrderOfTheirNumbers) {
   const FixtureTree tree;
   for (const std::string pid : {"30", "4", "200"}) {
     tree.write("proc/" + pid + "/cmdline", "of " + pid);

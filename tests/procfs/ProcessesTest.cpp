@@ -23,7 +23,7 @@ using test::FixtureTree;
 
 std::vector<Process> read(const FixtureTree& tree) { return readProcesses(tree.path("proc")); }
 
-TEST(ReadProcesses, ReadsWhatTheKernelTells) {
+TEST(ReadProcesses, ReadsTheKernelsFields) {
   const FixtureTree tree;
   FakeProcess fake;
   fake.pid = 321;
@@ -53,14 +53,14 @@ TEST(ReadProcesses, ReadsWhatTheKernelTells) {
   EXPECT_EQ(sockets, (std::vector<std::uint64_t>{1060, 1061}));
 }
 
-TEST(ReadProcesses, KnowsWhenOneBegan) {
+TEST(ReadProcesses, ReadsTheStartTime) {
   const FixtureTree tree;
   tree.write("proc/7/stat", "7 (one) S 1 7 7 0 -1 0 1 2 3 4 5 6 7 8 20 0 1 0 123456 1000 10 0");
   ASSERT_EQ(read(tree).size(), 1U);
   EXPECT_EQ(read(tree)[0].startTicks, 123456U);
 }
 
-TEST(ReadProcesses, TakesAnyNameThatAProgramGivesItself) {
+TEST(ReadProcesses, ReadsAnyNameThatAProgramGivesItself) {
   const FixtureTree tree;
   FakeProcess fake;
   fake.name = ") S 1 (\xFF";

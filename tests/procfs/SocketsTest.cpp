@@ -57,7 +57,7 @@ TEST(ReadSockets, ReadsTheKernelsTables) {
   EXPECT_EQ(stateName(sockets[2]), "UNCONNECTED");
 }
 
-TEST(ReadSockets, LeavesOutLinesThatDoNotRead) {
+TEST(ReadSockets, SkipsMalformedLines) {
   const FixtureTree tree;
   tree.write("net/tcp", std::string(heading) +
                             "   0: 0100007F:1E8F 0500000A:01BB 01 0:0 0:0 0 0\n"      // cut off
@@ -88,7 +88,7 @@ TEST(StateName, NamesEveryStateOfTheKernel) {
   EXPECT_EQ(stateName(udpSocket("127.0.0.1", 1, 1)), "ESTABLISHED");
 }
 
-TEST(ReachOf, TellsLoopbackFromTheRest) {
+TEST(ReachOf, DistinguishesLoopbackFromTheRest) {
   const auto reach = [](const char* address) { return reachOf(tcpSocket(address, 80)); };
   EXPECT_EQ(reach("127.0.0.1"), Reach::thisMachine);
   EXPECT_EQ(reach("127.0.0.53"), Reach::thisMachine);

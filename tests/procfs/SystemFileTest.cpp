@@ -17,20 +17,20 @@ namespace {
 
 using test::FixtureTree;
 
-TEST(ReadSystemFile, GivesEveryByte) {
+TEST(ReadSystemFile, ReturnsEveryByte) {
   const FixtureTree tree;
   const std::string bytes = std::string("\xFF\0z", 3) + std::string(100'000, 'x');
   EXPECT_EQ(readSystemFile(tree.write("file", bytes)), bytes);
   EXPECT_EQ(readSystemFile(tree.write("empty", "")), "");
 }
 
-TEST(ReadSystemFile, ReadsFilesThatTellNoSize) {
+TEST(ReadSystemFile, ReadsFilesWithoutASize) {
   const auto status = readSystemFile("/proc/self/status");
   ASSERT_TRUE(status);
   EXPECT_NE(status->find("\nPid:"), std::string::npos);
 }
 
-TEST(ReadSystemFile, GivesNothingForWhatIsNoRegularFile) {
+TEST(ReadSystemFile, ReturnsNothingForOtherKindsOfFiles) {
   const FixtureTree tree;
   EXPECT_FALSE(readSystemFile(tree.path("missing")));
   EXPECT_FALSE(readSystemFile(tree.folder("folder")));
@@ -38,7 +38,7 @@ TEST(ReadSystemFile, GivesNothingForWhatIsNoRegularFile) {
   EXPECT_FALSE(readSystemFile(tree.path("fifo"))) << "and it must not wait for a writer";
 }
 
-TEST(ReadLink, GivesTheTargetWhateverItIs) {
+TEST(ReadLink, ReturnsAnyTarget) {
   const FixtureTree tree;
   EXPECT_EQ(readLink(tree.link("link", "socket:[12]")), "socket:[12]");
   EXPECT_FALSE(readLink(tree.write("file", "")));

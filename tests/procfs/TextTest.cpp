@@ -17,7 +17,7 @@ namespace {
 
 using Views = std::vector<std::string_view>;
 
-TEST(AsUtf8, LeavesTextAsItIs) {
+TEST(AsUtf8, KeepsValidText) {
   const std::string text = "plain, żółć, 漢字, \U0001F600, \n\t\x01";
   EXPECT_EQ(asUtf8(text), text);
   EXPECT_EQ(asUtf8(""), "");
@@ -32,13 +32,13 @@ TEST(AsUtf8, ReplacesEachByteThatIsNoCharacter) {
   EXPECT_EQ(asUtf8("\xF5\x80\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD") << "beyond the last character";
 }
 
-TEST(AsUtf8, KeepsWhatFollowsACharacterThatIsCutOff) {
+TEST(AsUtf8, KeepsWhatFollowsAnIncompleteCharacter) {
   EXPECT_EQ(asUtf8("\xC3(x)"), "\uFFFD(x)");
   EXPECT_EQ(asUtf8("\xE2\x82"), "\uFFFD\uFFFD");
   EXPECT_EQ(asUtf8("\xE2\x82\xC3\xA9"), "\uFFFD\uFFFD\u00E9");
 }
 
-TEST(AsUtf8, MakesTextOfAnyTwoBytes) {
+TEST(AsUtf8, MakesValidTextOfAnyTwoBytes) {
   for (int first = 0; first < 256; ++first) {
     for (int second = 0; second < 256; ++second) {
       const std::string bytes{static_cast<char>(first), static_cast<char>(second)};
@@ -70,7 +70,7 @@ TEST(LeafOf, IsWhatFollowsTheLastSlash) {
   EXPECT_EQ(leafOf("/usr/bin/"), "");
 }
 
-TEST(ParseNumber, TakesTheWholeTextOrNothing) {
+TEST(ParseNumber, ParsesTheWholeTextOrNothing) {
   EXPECT_EQ(parseNumber<int>("42"), 42);
   EXPECT_EQ(parseNumber<int>("1F", 16), 31);
   EXPECT_FALSE(parseNumber<int>(""));
