@@ -17,7 +17,7 @@ bool isRestyled(const QQuickWindow& window) {
          window.requestedFormat().alphaBufferSize() == 8;
 }
 
-/// As the toolkit makes it.
+/// As the toolkit creates it.
 bool isUntouched(const QQuickWindow& window) {
   return window.color() == QColor(Qt::white) && !window.requestedFormat().hasAlpha();
 }
@@ -29,7 +29,7 @@ TEST(AppDelegate, GivesTheFirstWindowItsBackground) {
   EXPECT_TRUE(isRestyled(window)) << qUtf8Printable(window.color().name(QColor::HexArgb));
 }
 
-TEST(AppDelegate, LeavesFurtherWindowsAlone) {
+TEST(AppDelegate, DoesNotChangeOtherWindows) {
   const QQuickWindow first;
   const QQuickWindow second;
   AppDelegate().applicationDidFinishLaunching();
@@ -37,7 +37,7 @@ TEST(AppDelegate, LeavesFurtherWindowsAlone) {
   EXPECT_TRUE(isUntouched(second));
 }
 
-TEST(AppDelegate, LeavesLaterWindowsAlone) {
+TEST(AppDelegate, DoesNotChangeLaterWindows) {
   const QQuickWindow first;
   AppDelegate().applicationDidFinishLaunching();
   const QQuickWindow later;
@@ -52,8 +52,8 @@ TEST(AppDelegate, DoesNothingWithoutAWindow) {
   EXPECT_TRUE(isUntouched(later));
 }
 
-// The first is meant, not the first that would do.
-TEST(AppDelegate, LooksNoFurtherThanTheFirstWindow) {
+// Only the very first window counts, not the first one of the right type.
+TEST(AppDelegate, ChecksOnlyTheFirstWindow) {
   const QRasterWindow other;
   const QQuickWindow second;
   AppDelegate().applicationDidFinishLaunching();

@@ -32,7 +32,7 @@ TEST_F(MainWindowTest, IsNeverSmallerThanItsContentNeeds) {
 }
 
 TEST_F(MainWindowTest, MayGrowWithoutLimit) {
-  constexpr int unlimited = (1 << 24) - 1;  // what the toolkit takes for no limit
+  constexpr int unlimited = (1 << 24) - 1;  // the toolkit's value for no limit
   EXPECT_EQ(presented()->maximumSize(), QSize(unlimited, unlimited));
 }
 
@@ -88,7 +88,7 @@ TEST_F(MainWindowTest, MaximizesAtADoubleClickOnTheHeader) {
   EXPECT_TRUE(window->windowStates() & Qt::WindowMaximized);
 }
 
-TEST_F(MainWindowTest, LeavesTheFocusWhereItWasAtAClickOnAGlyph) {
+TEST_F(MainWindowTest, KeepsTheFocusAtAClickOnAGlyph) {
   auto* const window = presented();
   auto* const tab = glyph(*window, "Alerts");
   ASSERT_NE(tab, nullptr);
@@ -113,7 +113,7 @@ TEST_F(MainWindowTest, HasItsGlyphsInTheTopPaddingOfTheHeader) {
 }
 
 // The keyboard reaches the tabs first, then what is in the tab, then the glyphs.
-TEST_F(MainWindowTest, IsReachedByTheKeyboardWhole) {
+TEST_F(MainWindowTest, IsCompletelyReachedByTheKeyboard) {
   auto* const window = presented();
   QStringList reached;
   constexpr int stops = 2 + 5 + 3;  // badges, tabs, glyphs

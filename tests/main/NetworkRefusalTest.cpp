@@ -19,10 +19,10 @@
 namespace quillmark::test {
 namespace {
 
-/// Views that would fetch something, and a server that would see it.
+/// Views that would fetch something, and a server that would notice it.
 class NetworkRefusalTest : public testing::Test {
  protected:
-  /// What `source` builds; it tells in its property `outcome` how it went.
+  /// The object that `source` creates; its property `outcome` has the result.
   QObject* build(const QByteArray& source) {
     QQmlComponent component(&engine_);
     component.setData(source, QUrl());
@@ -40,7 +40,7 @@ class NetworkRefusalTest : public testing::Test {
   const Backend backend_{[](const ReceivedRequest&, Connection& connection) {
     connection.send(okAnswer("import QtQuick\nItem {}"));
   }};
-  // Refusing is loud; what is said of it is no matter of this test.
+  // Refused requests cause warnings, which this test does not check.
   KeptWarnings warnings_;
   QQmlEngine engine_;
 
@@ -63,7 +63,7 @@ constexpr auto requestSource = R"(
       }
     })";
 
-// Shows that the test would see a fetch.
+// Shows that the test would notice a fetch.
 TEST_F(NetworkRefusalTest, AnotherEngineFetches) {
   EXPECT_EQ(outcomeOf(requestSource), QStringLiteral("status 200, 22 bytes"));
   EXPECT_EQ(backend_.connections(), 1);

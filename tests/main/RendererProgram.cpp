@@ -8,9 +8,9 @@
 
 #include "main/Renderer.h"
 
-// Says whether it chose how windows are drawn, what the environment asks for,
-// and with what arguments it runs. With the
-// argument "restart" it restarts itself first, to draw in software.
+// Prints whether it chose the renderer, the renderer in the environment, and its
+// arguments. With the argument "restart" it first restarts itself with the software
+// renderer.
 int main(int argc, char* argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   quillmark::chooseRenderer();

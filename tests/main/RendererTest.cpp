@@ -16,9 +16,9 @@ namespace {
 constexpr auto quickBackend = "QT_QUICK_BACKEND";
 constexpr auto rhiBackend = "QSG_RHI_BACKEND";
 
-/// What the program beside this one says with this environment.
-std::string said(const std::map<std::string, std::string>& variables,
-                 const QStringList& arguments = {}) {
+/// The output of quillmark_renderer_program with this environment.
+std::string outputWith(const std::map<std::string, std::string>& variables,
+                       const QStringList& arguments = {}) {
   auto environment = QProcessEnvironment::systemEnvironment();
   environment.remove(QString::fromLatin1(quickBackend));
   environment.remove(QString::fromLatin1(rhiBackend));
@@ -35,23 +35,24 @@ std::string said(const std::map<std::string, std::string>& variables,
   return process.readAllStandardOutput().toStdString();
 }
 
-TEST(Renderer, IsChosenWhereTheEnvironmentSaysNothing) { EXPECT_EQ(said({}), "chosen,"); }
+TEST(Renderer, IsChosenIfTheEnvironmentSetsNone) { EXPECT_EQ(outputWith({}), "chosen,"); }
 
-TEST(Renderer, IsWhatTheEnvironmentAsksFor) {
-  EXPECT_EQ(said({{rhiBackend, "opengl"}}), "left to Qt,");
-  EXPECT_EQ(said({{quickBackend, "rhi"}}), "left to Qt,rhi");
-  EXPECT_EQ(said({{quickBackend, "software"}}), "left to Qt,software");
+TEST(Renderer, IsWhatTheEnvironmentSets) {
+  EXPECT_EQ(outputWith({{rhiBackend, "opengl"}}), "left to Qt,");
+  EXPECT_EQ(outputWith({{quickBackend, "rhi"}}), "left to Qt,rhi");
+  EXPECT_EQ(outputWith({{quickBackend, "software"}}), "left to Qt,software");
 }
 
-// By the environment of these tests, before their first window.
+// The global environment of these tests chooses it before their first window.
 TEST(Renderer, IsChosenAsSoftware) {
   EXPECT_EQ(QQuickWindow::sceneGraphBackend().toStdString(), "software");
 }
 
 TEST(Renderer, RestartsInSoftwareWithTheSameArguments) {
-  EXPECT_EQ(said({{rhiBackend, "opengl"}},
+  EXPECT_EQ(
+      outputWith({{rhiBackend, "opengl"}},
                  {QStringLiteral("restart"), QStringLiteral("two words"), QStringLiteral("größe")}),
-            "left to Qt,software,restart,two words,größe");
+      "left to Qt,software,restart,two words,größe");
 }
 
 }  // namespace

@@ -45,20 +45,20 @@ TEST_F(ResizeBorderTest, KnowsTheEdgesOfEachPlace) {
   }
 }
 
-TEST_F(ResizeBorderTest, LeavesToOthersWhatLiesFurtherIn) {
+TEST_F(ResizeBorderTest, DoesNotContainPointsFurtherInside) {
   const auto& border = borderOf(*presented());
   for (const auto& point : within) {
     EXPECT_FALSE(border.contains(point)) << point.x() << ' ' << point.y();
   }
 }
 
-TEST_F(ResizeBorderTest, EndsWithTheWindow) {
+TEST_F(ResizeBorderTest, EndsAtTheEdgeOfTheWindow) {
   const auto& border = borderOf(*presented());
   EXPECT_FALSE(border.contains({-1, 350}));
   EXPECT_FALSE(border.contains({500, 700}));
 }
 
-TEST_F(ResizeBorderTest, ShowsWhichWayAnEdgeGoes) {
+TEST_F(ResizeBorderTest, ShowsTheCursorOfEachEdge) {
   auto* const window = presented();
   for (const auto& place : places) {
     QTest::mouseMove(window, place.point);
@@ -68,7 +68,7 @@ TEST_F(ResizeBorderTest, ShowsWhichWayAnEdgeGoes) {
   EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST_F(ResizeBorderTest, IsNotThereInAMaximizedWindow) {
+TEST_F(ResizeBorderTest, IsHiddenInAMaximizedWindow) {
   auto* const window = presented();
   window->showMaximized();
   EXPECT_TRUE(waitUntil([&] { return !borderOf(*window).isVisible(); }));

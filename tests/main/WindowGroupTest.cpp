@@ -19,7 +19,7 @@ TEST_F(WindowGroupTest, OpensAWindowThatIsNotShownYet) {
   EXPECT_FALSE(windows().first()->isVisible());
 }
 
-TEST_F(WindowGroupTest, PresentsTheWindowThatIsThere) {
+TEST_F(WindowGroupTest, PresentsTheExistingWindow) {
   group().open();
   auto* const opened = windows().first();
   group().present();
@@ -28,7 +28,7 @@ TEST_F(WindowGroupTest, PresentsTheWindowThatIsThere) {
   EXPECT_EQ(windows(), QList{opened});
 }
 
-TEST_F(WindowGroupTest, OpensAWindowToPresentWhereThereIsNone) {
+TEST_F(WindowGroupTest, OpensAWindowToPresentIfThereIsNone) {
   group().present();
   ASSERT_EQ(windows().size(), 1);
   EXPECT_TRUE(windows().first()->isVisible());
@@ -43,7 +43,7 @@ TEST_F(WindowGroupTest, BringsAMinimizedWindowBack) {
   EXPECT_EQ(windows(), QList{window});
 }
 
-TEST_F(WindowGroupTest, KeepsAMaximizedWindowSo) {
+TEST_F(WindowGroupTest, KeepsAMaximizedWindowMaximized) {
   auto* const window = presented();
   window->showMaximized();
   group().present();
@@ -73,7 +73,7 @@ TEST_F(WindowGroupTest, OpensAnotherAfterTheFirstIsClosed) {
 
   auto* const second = presented();
   EXPECT_EQ(windows(), QList{second});
-  // With the toolkit's own background, and a content that begins anew.
+  // With the toolkit's own background and new content.
   EXPECT_EQ(second->color(), QColor(Qt::white));
   EXPECT_EQ(second->requestedFormat().alphaBufferSize(), QSurfaceFormat().alphaBufferSize());
   EXPECT_NE(itemWith(*second, "selectedTab", QStringLiteral("dashboard")), nullptr);
@@ -88,7 +88,7 @@ TEST_F(WindowGroupTest, PresentsTheLatestOfSeveral) {
   EXPECT_TRUE(windows().last()->isVisible());
 }
 
-TEST_F(WindowGroupTest, GivesEachWindowAViewModelOfItsOwn) {
+TEST_F(WindowGroupTest, GivesEachWindowItsOwnViewModel) {
   group().open();
   group().open();
   const auto modelOf = [](const QQuickWindow& window) {

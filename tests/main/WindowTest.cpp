@@ -29,7 +29,7 @@ QQuickItem* firstIn(QQuickItem* item, Accept accept) {
   return nullptr;
 }
 
-/// Once, before the first window of any test.
+/// Runs once, before the first window of any test.
 class RendererChoice final : public testing::Environment {
  public:
   void SetUp() override { chooseRenderer(); }
@@ -47,7 +47,7 @@ WindowTest::WindowTest() {
 
 WindowTest::~WindowTest() {
   group_.reset();
-  // Polling goes on until the process ends; the next test shall not see it.
+  // Polling continues until the process ends and would affect the next test.
   qDeleteAll(QCoreApplication::instance()->findChildren<QTimer*>());
   EXPECT_TRUE(waitUntil([] { return windows().isEmpty(); }));
 }

@@ -18,8 +18,8 @@
 
 namespace quillmark::test {
 
-/// What tests share that open the panel's windows; inside the sandbox alone,
-/// for what is in a window polls.
+/// The base of the tests that open the panel's windows; only inside the sandbox, because
+/// the windows poll.
 class WindowTest : public testing::Test {
  protected:
   WindowTest();
@@ -28,7 +28,7 @@ class WindowTest : public testing::Test {
   /// The windows that exist, oldest first.
   [[nodiscard]] static QList<QQuickWindow*> windows();
 
-  /// The one window, on screen.
+  /// Presents a window, and waits until it is active.
   [[nodiscard]] QQuickWindow* presented();
 
   /// The item in `window` whose property has this value; null if there is none.
