@@ -21,8 +21,8 @@ def is_saved(text):
 
 
 class Scene:
-    """`action` in a home where `before` is configured, or no configuration and
-    no folder for it yet."""
+    """`action` in a home with the configuration `before`; None means no
+    configuration and no folder for it."""
 
     def __init__(self, home, action, before):
         self.home = pathlib.Path(home)
@@ -43,7 +43,7 @@ class Scene:
             self.file.chmod(0o600)
 
     def state(self):
-        """`old` or `new`; what is neither of them whole is an error."""
+        """`old` or `new`; anything else, such as a part of one, is an error."""
         text = self.file.read_text() if self.file.exists() else None
         if text == self.before:
             return "old"

@@ -22,7 +22,7 @@ def check(one, *faults):
     run = traced.run(one.command, one.home, faults)
     assert run.killed
     assert run.message == ""
-    # A file beside it may stay behind, for the user alone.
+    # A temporary file may be left, which only the user may read.
     assert all(path.stat().st_mode & 0o077 == 0 for path in one.leftovers())
     assert len(one.leftovers()) <= 1
     return one.state()
@@ -31,7 +31,7 @@ def check(one, *faults):
 @pytest.mark.parametrize("name, fault", CASES)
 def test_killed(name, fault):
     assert check(SCENES[name], fault) in ("old", "new")
-    # And the next time it works.
+    # The next run works.
     one = SCENES[name]
     assert traced.run(one.command, one.home).message == "ok"
     assert one.state() == "new"
@@ -39,7 +39,7 @@ def test_killed(name, fault):
 
 @pytest.mark.parametrize("name", SCENES)
 def test_the_file_changes_once(name):
-    """Killed later and later, the action has first done nothing and then all."""
+    """Killed later and later, the action has first done nothing and then everything."""
     states = [check(SCENES[name], case.values[1]) for case in CASES if case.values[0] == name]
     assert states == sorted(states, key=["old", "new"].index)
     assert set(states) == {"old", "new"}

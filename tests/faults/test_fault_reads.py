@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """System calls that fail, or end the process, while the panel reads the token or
-the configuration: two files each, the second for want of the first."""
+the configuration: two files each, the second of which is read if the first fails."""
 
 import pathlib
 import shutil
@@ -11,21 +11,22 @@ import pytest
 import scene
 import traced
 
-# In many reads, so that a part of one would look like one.
+# Long enough for several reads: a part of a text must not be taken for the whole.
 FIRST = "a" * 10000
 SECOND = "b" * 10000
-# What makes a file unreadable; the others are made again, or do not matter.
+# The calls without which a file is unreadable; the others are repeated or not needed.
 DECIDING = ("openat", "newfstatat", "fstat", "read")
 
 
 class Reading:
     """Two files with something to read in each, and nothing else."""
 
-    def __init__(self, action, first, second, text, told):
+    def __init__(self, action, first, second, text, message):
         self.home = pathlib.Path("/tmp/reading")
         self.command = [scene.DRIVER, action]
         self.files = {first: text(FIRST), self.home / second: text(SECOND)}
-        self.told = {"first": told(FIRST), "second": told(SECOND), "none": told("none")}
+        self.messages = {"first": message(FIRST), "second": message(SECOND),
+                         "none": message("none")}
 
     def set_up(self):
         shutil.rmtree(self.home, ignore_errors=True)
@@ -34,7 +35,7 @@ class Reading:
             path.write_text(text)
 
     def run(self, *faults):
-        """Which of the two was read, or none; half of one is an error."""
+        """Which of the two was read, or none; a part of one is an error."""
         self.set_up()
         outcome = traced.run(self.command, self.home, faults)
         for path, text in self.files.items():
@@ -44,7 +45,7 @@ class Reading:
             assert outcome.message == ""
             return "killed"
         assert {fault.call for fault in faults} == set(outcome.disturbed)
-        (source,) = (name for name, told in self.told.items() if told == outcome.message)
+        (source,) = (name for name, text in self.messages.items() if text == outcome.message)
         return source
 
 
@@ -54,14 +55,14 @@ READINGS = {
         pathlib.Path("/var/run/quillmark/token"),
         ".quillmark/token",
         text=lambda word: word + "\n",
-        told=lambda word: word,
+        message=lambda word: word,
     ),
     "read-back": Reading(
         "read-back",
         pathlib.Path("/tmp/reading/.config/quillmark/config.toml"),
         ".quillmark/config.toml",
         text=lambda word: f'[agent]\nserver_url = "{word}"\napi_key = "{word}"\n',
-        told=lambda word: f"{word} at {word}",
+        message=lambda word: f"{word} at {word}",
     ),
 }
 
@@ -111,7 +112,7 @@ def test_killed_while_reading(name, fault):
 
 
 def test_the_calls_are_those_that_read_a_file():
-    """Else the cases above were about nothing."""
+    """Otherwise the cases above would test nothing."""
     names = [case.values[1].call.name for case in ERRORS if case.values[0] == "token"]
     assert set(names) >= {"openat", "read", "close"}
     # Three blocks and the end of the file, each failing in two ways.

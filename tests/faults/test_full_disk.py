@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Saving and importing on a real disk of 128 KiB, emptier and fuller."""
+"""Saving and importing on a real disk of 128 KiB, with more and less free space."""
 
 import errno
 import os
@@ -14,8 +14,8 @@ import traced
 DISK = pathlib.Path("/tmp/disk")
 PAGE = 4096
 SCENES = scene.scenes(DISK / "home")
-# As an import over the old file needs more than one page, so that a disk can
-# run full in the midst of it.
+# An import over the old file needs more than one page, so the disk can become full
+# during it.
 PAGES = range(0, 9)
 
 
@@ -25,7 +25,7 @@ def free_pages():
 
 
 def fill_but(pages):
-    """Leaves room for so many pages."""
+    """Leaves this many pages free."""
     with open(DISK / "filler", "wb", buffering=0) as filler:
         while True:
             try:
@@ -47,7 +47,7 @@ def attempt(name, pages):
     return run.message, one.state()
 
 
-def test_the_disk_is_a_small_one():
+def test_the_disk_is_small():
     assert os.statvfs(DISK).f_blocks * os.statvfs(DISK).f_frsize == 131072
 
 
@@ -72,8 +72,8 @@ def test_just_enough_and_a_page_short(name):
     assert attempt(name, enough - 1) == ("Error: No space left on device", "old")
 
 
-def test_an_import_runs_full_in_the_midst_of_its_text():
-    """Else the levels above were all none or all of it."""
+def test_the_disk_can_become_full_during_an_import():
+    """Otherwise each level above would leave room for nothing or for the whole text."""
     text = len(scene.IMPORTED)
     one = SCENES["import-over-old"]
     (DISK / "filler").unlink(missing_ok=True)

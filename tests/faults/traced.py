@@ -13,18 +13,18 @@ import pytest
 
 from patience import PATIENCE
 
-# The driver frames the action by these.
+# The driver makes this call before and after the action.
 FRAME = "getppid"
-# For memory and threads; they touch no file, and to fail or kill the process
-# in them is to have no memory left.
+# For memory and threads: they use no file, and their failure means that there is no
+# memory left.
 NOT_OF_FILES = {
     "brk", "mmap", "munmap", "mremap", "mprotect", "madvise", "futex",
     "rt_sigprocmask", "rt_sigaction", "sched_yield",
 }  # fmt: skip
-# The C library draws the name of a temporary file with such a call in a few
-# runs out of a hundred and does without it otherwise.
+# The C library makes this call for the name of a temporary file only in a few runs
+# out of a hundred.
 SOMETIMES = "GRND_NONBLOCK"
-# What a sanitizer cannot do while someone else traces the process.
+# A sanitizer cannot detect leaks in a process that is traced.
 SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=0"}
 
 
@@ -44,14 +44,14 @@ class Fault(NamedTuple):
 
 
 class Run(NamedTuple):
-    message: str  # what the user reads; empty if killed before
+    message: str  # the message for the user; empty if killed before it
     killed: bool
     calls: list  # those of the action, in order
-    disturbed: list  # those that were
+    disturbed: list  # those with a fault
 
 
 def _injections(faults):
-    """One option for each name of a call: a second one would replace it."""
+    """One option for each name of a call: a second one would replace the first."""
     for name in {fault.call.name for fault in faults}:
         of_name = sorted(f.call.ordinal for f in faults if f.call.name == name)
         effects = {f.effect for f in faults if f.call.name == name}
@@ -61,7 +61,7 @@ def _injections(faults):
 
 
 def _calls(trace):
-    """Those between the frames, of the process's first thread."""
+    """The calls of the action, and those with a fault, of the process's first thread."""
     counts = {}
     inside = False
     found, disturbed = [], []
@@ -112,8 +112,8 @@ def cases(scenes, effects):
 
 
 def faults_of(scene, effects):
-    """Every fault of these kinds for the calls of an undisturbed run. `effects`
-    names those for a call, given the call."""
+    """Every fault for the calls of an undisturbed run. `effects` returns the kinds
+    of faults for a call."""
     scene.set_up()
     return [
         Fault(call, effect)

@@ -18,7 +18,7 @@ using namespace quillmark::fuzz;
 // Small, so that short inputs reach them.
 constexpr HttpLimits limits{.headerBytes = 512, .bodyBytes = 1024};
 
-/// The body of the answer that comes in pieces of `pieceSize` bytes.
+/// The body of the answer that arrives in pieces of `pieceSize` bytes.
 std::optional<std::string> bodyOf(std::string_view bytes, std::size_t pieceSize) {
   AnswerReader reader(limits);
   while (!reader.isOver() && !bytes.empty()) {
@@ -37,7 +37,7 @@ std::optional<std::string> bodyOf(std::string_view bytes, std::size_t pieceSize)
   if (!result) {
     return std::nullopt;
   }
-  require(result->body.size() <= limits.bodyBytes, "a body keeps to its limit");
+  require(result->body.size() <= limits.bodyBytes, "a body stays within its limit");
   return std::move(result->body);
 }
 

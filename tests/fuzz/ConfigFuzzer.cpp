@@ -17,7 +17,8 @@ using namespace quillmark::fuzz;
 void requireValue(const std::optional<std::string>& value, std::string_view text) {
   if (value) {
     require(!value->empty(), "a value is not empty");
-    require(value->find_first_of("=\n") == std::string::npos, "a value ends with = and the line");
+    require(value->find_first_of("=\n") == std::string::npos,
+            "a value contains neither = nor a line feed");
     require(text.find(*value) != std::string_view::npos, "a value is a part of its file");
     require(isUtf8(*value), "a value is text");
   }
@@ -34,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   requireValue(entries.apiKey, text);
   requireValue(entries.serverUrl, text);
 
-  // What the user sees in the form and saves as it is comes back the same.
+  // Values that the form shows and the user saves unchanged are read back unchanged.
   const auto saved = configText({.agentId = "id",
                                  .machineIdentifier = "machine",
                                  .serverUrl = entries.serverUrl.value_or(""),

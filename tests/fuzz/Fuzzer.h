@@ -16,7 +16,7 @@ inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
 
-/// Ends the run, so that the input is kept, unless what must hold does.
+/// Aborts the run, so that libFuzzer keeps the input, unless `holds` is true.
 inline void require(bool holds, std::string_view what) {
   if (!holds) {
     std::cerr << "does not hold: " << what << std::endl;

@@ -16,7 +16,7 @@ template <Record R>
 void decodeAs(std::string_view json) {
   const auto record = decode<R>(std::string(json));
   if (!record) {
-    require(!record.error().detail.empty(), "a failure says what it is");
+    require(!record.error().detail.empty(), "a failure has a detail");
     return;
   }
   const auto again = decode<R>(encode(*record));

@@ -29,18 +29,18 @@ constexpr std::string_view token = "0123456789abcdef";
 const Snapshot snapshot{R"({"of":"status"})", R"({"of":"alerts"})", R"({"of":"network"})",
                         R"({"of":"inventory"})"};
 
-/// All that is answered to a client that sends `bytes` and waits.
+/// Everything that the server sends to a client that sends `bytes` and waits.
 std::string answersTo(std::string_view bytes) {
   std::array<int, 2> ends{};
   require(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) == 0, "there are sockets");
   const int client = ends[1];
-  // Less than a socket holds, so that nobody needs to read meanwhile.
+  // Fits into the socket's buffer, so no other thread has to read it meanwhile.
   require(write(client, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()),
           "the request fits");
   shutdown(client, SHUT_WR);
 
   asio::io_context context(1);
-  // The kind of socket matters to nothing that is called of it.
+  // In truth a Unix socket, which makes no difference to the functions called here.
   tcp::socket server(context, tcp::v4(), ends[0]);
   asio::co_spawn(
       context,
@@ -71,7 +71,8 @@ void requireOneAnswer(const std::string& answers, std::string_view request) {
   require(!error && parser.is_done() && used == answers.size(), "there is one answer");
   const auto& body = parser.get().body();
   const bool isData = body.starts_with(R"({"of":)");
-  require(isData == (parser.get().result_int() == 200 && !body.empty()), "200 brings data alone");
+  require(isData == (parser.get().result_int() == 200 && !body.empty()),
+          "only status 200 has data");
   require(!isData || request.find(token) != std::string_view::npos, "data need the token");
 }
 

@@ -19,7 +19,7 @@ using namespace quillmark;
 using namespace quillmark::fuzz;
 namespace http = boost::beast::http;
 
-/// Whether a server reads just this request out of the bytes, with this token.
+/// Requires that a server reads exactly one request from the bytes, with this token.
 void requireOneRequest(const std::string& wire, const std::string& token) {
   http::request_parser<http::empty_body> parser;
   boost::system::error_code error;
@@ -27,7 +27,7 @@ void requireOneRequest(const std::string& wire, const std::string& token) {
   require(!error && parser.is_done() && used == wire.size(), "the bytes are one request");
   const auto& message = parser.get();
   require(std::distance(message.begin(), message.end()) == 3, "a token adds no field");
-  require(message["X-Agent-Token"] == token, "a token arrives as it is");
+  require(message["X-Agent-Token"] == token, "a token arrives unchanged");
   require(message[http::field::host] == "127.0.0.1:7823", "a token changes no other field");
 }
 
@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return 0;
   }
   const std::string token(trimmed(file));
-  require(trimmed(token) == token, "white space is gone at once");
+  require(trimmed(token) == token, "white space is removed completely");
   require(file.find(token) != std::string_view::npos, "a token is a part of its file");
   if (fitsHeaderField(token)) {
     requireOneRequest(requestText({{}, "127.0.0.1:7823", "GET", "/api/status", token}), token);
