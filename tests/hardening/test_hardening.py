@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the built programs bring along against being taken over."""
+"""The protections of the built programs against exploits."""
 
 import os
 import platform
@@ -14,7 +14,7 @@ FOLDER = Path(os.environ["QUILLMARK_BUILD_DIR"]) / "QuillmarkAgent.app/Contents/
 PROGRAMS = sorted(FOLDER.iterdir())
 
 
-def test_every_program_is_looked_at():
+def test_every_program_is_checked():
     assert len(PROGRAMS) == 3
 
 
@@ -35,7 +35,7 @@ def called(program):
     return set(re.findall(r" UND (\w+)", symbols))
 
 
-def test_lies_at_another_place_each_time(program):
+def test_is_loaded_at_random_addresses(program):
     assert re.search(r"Type:\s+DYN", readelf("--file-header", program))
     assert re.search(r"FLAGS_1\b.*\bPIE\b", readelf("--dynamic", program))
 
@@ -52,19 +52,19 @@ def test_no_memory_is_both_writable_and_executable(program):
     assert not [entry for entry in flags if "W" in entry[1] and "E" in entry[1]]
 
 
-def test_needs_no_library_from_a_path_of_its_own(program):
+def test_has_no_library_path_of_its_own(program):
     assert not re.search(r"\((RPATH|RUNPATH|TEXTREL)\)", readelf("--dynamic", program))
 
 
-def test_its_stack_is_watched(program):
+def test_its_stack_is_protected(program):
     assert "__stack_chk_fail" in called(program)
 
 
-def test_copies_of_unknown_size_are_watched(program):
+def test_copies_of_unknown_size_are_checked(program):
     assert {name for name in called(program) if name.endswith("_chk")}
 
 
-def test_its_containers_are_watched(program):
+def test_its_containers_are_checked(program):
     assert any("__glibcxx_assert_fail" in name for name in called(program))
 
 
@@ -80,9 +80,9 @@ def code_of(program, function, size):
         if start <= address < start + int(length, 16):
             place = int(offset, 16) + address - start
             return program.read_bytes()[place : place + size]
-    raise AssertionError(f"{function} lies nowhere")
+    raise AssertionError(f"{function} has no address")
 
 
-@pytest.mark.skipif(platform.machine() != "x86_64", reason="other processors mark it otherwise")
-def test_says_where_jumps_may_land(program):
+@pytest.mark.skipif(platform.machine() != "x86_64", reason="other processors use other marks")
+def test_marks_the_targets_of_jumps(program):
     assert code_of(program, "main", 4) == bytes.fromhex("f30f1efa")

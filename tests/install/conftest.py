@@ -30,7 +30,7 @@ class Installation:
                  "--component", component],
                 check=True, capture_output=True, env=self._environment,
             )
-            # Away from the notes that a developer's own installation has left.
+            # Not mixed with the manifest of a developer's own installation.
             note = BUILD / f"install_manifest_{component}.txt"
             with open(notes / "install_manifest.txt", "a") as all_notes:
                 all_notes.write(note.read_text() + "\n")

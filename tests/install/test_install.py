@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Installing to any prefix, using what was installed, and taking it back."""
+"""Installing to any prefix, using what was installed, and uninstalling it."""
 
 import os
 import stat
@@ -31,7 +31,7 @@ def output(*command, **options):
 
 
 @pytest.mark.parametrize("folder", ["usr", "a folder with spaces"])
-def test_programs_answer_where_they_were_put(install, tmp_path, folder):
+def test_programs_run_where_they_were_installed(install, tmp_path, folder):
     prefix = tmp_path / folder
     install(prefix)
     for name in ("quillmark-agent", processes.AGENT):
@@ -43,22 +43,22 @@ def test_programs_answer_where_they_were_put(install, tmp_path, folder):
     assert entry_command(prefix, "Desktop Action quit") == [*launch, "--quit"]
 
 
-def test_software_centres_are_told_the_release(install, tmp_path):
+def test_metainfo_has_the_release(install, tmp_path):
     install(tmp_path / "usr")
-    told = ElementTree.parse(tmp_path / f"usr/share/metainfo/{APPLICATION}.metainfo.xml")
-    releases = [release.get("version") for release in told.iterfind("releases/release")]
+    metainfo = ElementTree.parse(tmp_path / f"usr/share/metainfo/{APPLICATION}.metainfo.xml")
+    releases = [release.get("version") for release in metainfo.iterfind("releases/release")]
     version = output(tmp_path / "usr/bin/quillmark-agent", "--version").split()[-1]
     assert releases[0] == version
 
 
-def test_folder_may_be_moved_but_for_the_entry(install, tmp_path):
+def test_folder_may_be_moved_except_for_the_entry(install, tmp_path):
     install(tmp_path / "here")
     (tmp_path / "here").rename(tmp_path / "there")
     assert output(tmp_path / "there/bin/quillmark-agent", "--version")
 
 
 def test_launching_prepares_the_home(install, tmp_path):
-    """Start Agent counts on the folder of its log."""
+    """Start Agent needs the folder of its log."""
     install(tmp_path / "usr")
     settings.clean_home()
     launch = entry_command(tmp_path / "usr")
@@ -70,18 +70,18 @@ def test_launching_prepares_the_home(install, tmp_path):
         assert output(*launch, "--version", env=os.environ | {"HOME": home})
 
 
-def test_uninstalling_leaves_what_others_put(install, tmp_path):
+def test_uninstalling_keeps_files_of_others(install, tmp_path):
     prefix = tmp_path / "usr"
     (prefix / "bin").mkdir(parents=True)
     (prefix / "bin/other").write_text("theirs")
     installation = install(prefix)
-    # A part that somebody removed by hand is no hindrance.
+    # It does not matter if a file was already removed by hand.
     (prefix / "bin/quillmark-agent").unlink()
     installation.uninstall()
     assert installation.paths() == ["bin", "bin/other"]
 
 
-def test_uninstalling_leaves_the_systems_own_folders(install, tmp_path):
+def test_uninstalling_keeps_the_systems_own_folders(install, tmp_path):
     installation = install("/usr/local", stage=tmp_path / "stage")
     assert f"/usr/local/{PROGRAMS.partition('/Quill')[0]}/" in (
         installation.prefix / f"share/applications/{APPLICATION}.desktop").read_text()
@@ -92,7 +92,7 @@ def test_uninstalling_leaves_the_systems_own_folders(install, tmp_path):
     assert not [path for path in left if "quillmark" in path]
 
 
-def test_uninstalling_twice_says_so(install, tmp_path):
+def test_uninstalling_twice_is_an_error(install, tmp_path):
     installation = install(tmp_path / "usr")
     installation.uninstall()
     with pytest.raises(subprocess.CalledProcessError) as failure:

@@ -17,7 +17,7 @@ PROGRAMS = "/usr/lib/quillmark-agent/QuillmarkAgent.app/Contents/MacOS"
 INSIDE = [
     "bwrap", "--ro-bind", str(ROOT), "/", "--dev", "/dev", "--proc", "/proc",
     "--bind", "/tmp", "/tmp", "--bind", "/run", "/run",
-    # What tells of crashes is no part of the bare system.
+    # The crash reporter is not part of the bare system.
     "--unsetenv", "LD_PRELOAD",
     "--chdir", os.environ["HOME"], "--die-with-parent", "--",
 ]
@@ -43,7 +43,7 @@ def entry():
 
 
 def commands():
-    """Every command that the packages brought."""
+    """Every command of the packages."""
     links = (p for p in (ROOT / "usr/bin").iterdir() if p.is_symlink())
     return sorted(p.name for p in links if "/quillmark-agent/" in os.readlink(p))
 

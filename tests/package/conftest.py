@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The packages as they are installed in a bare system, which is no more than
-the root of one: display, window manager and buses are those of the sandbox."""
+"""The packages, installed in a bare system, which is only a root folder: display,
+window manager and buses are those of the sandbox."""
 
 import os
 import sys
@@ -14,7 +14,7 @@ pytest.register_assert_rewrite("harness")
 
 import bare  # noqa: E402
 
-# What the end-to-end tests' harness is to start.
+# The panel that the harness of the end-to-end tests starts.
 os.environ["QUILLMARK_TEST_PANEL"] = bare.entry().command()[0]
 
 from harness import processes, settings  # noqa: E402
@@ -39,7 +39,7 @@ def new_user():
 
 @pytest.fixture
 def start(display, new_user):
-    """The panel from its entry in the menu, as often as asked."""
+    """Starts the panel from its menu entry, once for each call."""
     panels = []
 
     def once():

@@ -12,7 +12,7 @@ from harness.waiting import until
 class InstalledPanel(Panel):
     def __init__(self):
         super().__init__(*bare.INSIDE)
-        # Behind bubblewrap and the launcher.
+        # A descendant of bubblewrap and the launcher.
         self.pid = until(self._own_process, "the panel's process")
         self.tree = Tree(self.pid, self.ended)
 

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What a new user does with the packages, with nothing there but what they ask for."""
+"""What a new user does with the packages, on a system with only their dependencies."""
 
 import gzip
 import os
@@ -23,12 +23,12 @@ def take(panel, name):
     save(BUILD / "pictures" / f"package-{name}.png", panel.window.box)
 
 
-def test_both_packages_bring_commands():
+def test_both_packages_have_commands():
     assert {"quillmark-agent", processes.AGENT} <= set(bare.commands())
 
 
 @pytest.mark.parametrize("name", bare.commands())
-def test_command_answers_and_is_described(name):
+def test_command_runs_and_is_documented(name):
     done = bare.run(name, "--version")
     assert (done.returncode, done.stderr) == (0, "")
     assert re.fullmatch(rf"{name} \d+\.\d+\.\d+\n", done.stdout)
@@ -39,7 +39,7 @@ def test_command_answers_and_is_described(name):
         assert name in (share / completion).read_text()
 
 
-def test_every_way_in_leads_to_the_same_program():
+def test_every_entry_point_starts_the_same_program():
     entry = bare.entry()
     service = (bare.ROOT / "usr/share/dbus-1/services/org.quillmark.Agent.service").read_text()
     assert f"\nExec={' '.join(entry.command())}\n" in service
@@ -48,8 +48,8 @@ def test_every_way_in_leads_to_the_same_program():
     assert done.stdout == bare.run("quillmark-agent", "--version").stdout
 
 
-def test_nothing_of_the_panel_bears_the_agents_name():
-    """Stopping the agent ends whatever has its name on the command line."""
+def test_nothing_of_the_panel_has_the_agents_name():
+    """Stopping the agent ends every process with its name on the command line."""
     listed = bare.run("dpkg", "--listfiles", "quillmark-agent")
     assert bare.PROGRAMS + "/quillmark-agent" in listed.stdout
     assert processes.AGENT not in listed.stdout
@@ -76,7 +76,7 @@ def test_first_day(start):
     panel.tree.wait_for("text", "OFFLINE")
     take(panel, "offline")
     start_agent(panel)
-    # The token came after the panel had looked for it.
+    # The token was created after the panel had tried to read it.
     panel.finish()
 
     panel = start()
@@ -84,7 +84,7 @@ def test_first_day(start):
     for tab in TABS:
         panel.show(tab)
         if tab == "Dashboard":
-            # The bare system's packages bring a few commands.
+            # The bare system's packages have a few commands.
             until(lambda: int(cards.cards(panel)["Installed Applications"]) > 5, "applications")
         if tab == "Inventory":
             until(lambda: lists.names(panel, "Installed applications"), "rows")
@@ -112,7 +112,7 @@ def import_configuration(panel):
 
 def test_window_and_quit_of_the_menu_entry(start):
     panel = start()
-    # By this a task bar knows whose window it is, and whose icon it gets.
+    # A task bar finds the application and icon of a window by this.
     assert f'"{bare.entry().value("StartupWMClass")}"' in panel.window.property("WM_CLASS")
     done = bare.run(*bare.entry().command("Desktop Action quit"))
     assert (done.returncode, done.stdout, done.stderr) == (0, "", "")
