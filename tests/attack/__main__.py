@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""attack OUTPUT [WORD...]: the panel under every attack, or those whose names
-bear one of the words; figures as JSON."""
+"""attack OUTPUT [WORD...]: measures the panel under every attack, or those whose
+names contain one of the words, and writes the figures as JSON."""
 
 import json
 import sys
@@ -39,7 +39,7 @@ def under(attack, server, panel):
         with server.attacking(attack):
             time.sleep(SECONDS)
             ended = time.monotonic()
-        # Values of before may still stand there; new ones need a whole poll.
+        # Old values may still be shown; new ones need a whole poll.
         server.wait_for_poll()
         until(lambda: Picture().whole() == good, "the good values again", step=0.1)
         recovered = time.monotonic() - ended

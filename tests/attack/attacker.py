@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A good agent that turns bad and good again."""
+"""A good agent that can be hostile for some time."""
 
 import contextlib
 import threading
@@ -38,7 +38,7 @@ class Attacker(Backend):
             self._await_end(connection)
 
     def _await_end(self, connection):
-        """Until the panel has taken all and leaves."""
+        """Waits until the panel has read everything and closes."""
         connection.shutdown(1)
         connection.settimeout(5)
         connection.recv(1)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What an attacker at the agent's place may send, each until it is told to stop."""
+"""What an attacker on the agent's port may send."""
 
 import json
 import socket
@@ -24,32 +24,32 @@ class Victim:
     def send(self, data):
         self._connection.sendall(data)
 
-    def goes_on(self, pause=0.0):
-        """False once the attack is over."""
+    def continues(self, pause=0.0):
+        """False when the attack is over."""
         return not self._over.wait(pause) if pause else not self._over.is_set()
 
     def reset(self):
-        """An end without a good-bye."""
+        """Ends the connection with a reset."""
         self._connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
         self._connection.close()
 
 
 def endless_body(victim):
     victim.send(OK + b"\r\n")
-    while victim.goes_on():
+    while victim.continues():
         victim.send(BLOCK)
 
 
 def endless_chunks(victim):
     victim.send(OK + b"Transfer-Encoding: chunked\r\n\r\n")
     chunk = b"4000\r\n" + BLOCK[:0x4000] + b"\r\n"
-    while victim.goes_on():
+    while victim.continues():
         victim.send(chunk * 64)
 
 
 def endless_header_line(victim):
     victim.send(OK + b"X: ")
-    while victim.goes_on():
+    while victim.continues():
         victim.send(BLOCK)
 
 
@@ -59,18 +59,18 @@ def million_headers(victim):
 
 def byte_every_half_second(victim):
     for byte in OK + b"X: " + b"y" * 1000:
-        if not victim.goes_on(0.5):
+        if not victim.continues(0.5):
             return
         victim.send(bytes([byte]))
 
 
 def silence(victim):
-    while victim.goes_on(1.0):
+    while victim.continues(1.0):
         pass
 
 
 def whole(**values):
-    """Answers that are complete, and far too much."""
+    """Answers that are complete, and far too large."""
     bodies_sent = {endpoint: json.dumps(value).encode() for endpoint, value in values.items()}
 
     def send(victim):
@@ -85,7 +85,7 @@ def huge_text():
 
 
 def huge_texts():
-    """In every place that shows one."""
+    """In every place that shows a text."""
     text = "many words " * 1_800_000
     return whole(
         status=bodies.status(status=text, last_scan=text),
@@ -95,7 +95,7 @@ def huge_texts():
 
 
 def huge_text_in_chunks():
-    """Of which nobody knows how long it will be."""
+    """A text whose length is not announced."""
     body = json.dumps(bodies.alerts(bodies.alert("x" * HUGE))).encode()
     size = len(BLOCK)
 
@@ -115,7 +115,7 @@ def long_texts():
 
 
 def empty_services(victim):
-    """Each of which takes ten times as much memory as text."""
+    """Each takes ten times as much memory as its text."""
     body = b'{"apps":[],"network_interfaces":[],"permissions":[],"services":["' \
         + b'","' * 20_000_000 + b'"]}'
     victim.send(OK + b"Content-Length: %d\r\n\r\n" % len(body) + body)
@@ -132,7 +132,7 @@ def resets(victim):
 
 
 def every():
-    """Name and attack, in the order in which they are told."""
+    """The attacks by name, in the order of the report."""
     return {
         "a body without end": endless_body,
         "chunks without end": endless_chunks,

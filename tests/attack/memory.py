@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What a process holds, sampled while something goes on."""
+"""The memory of a process, sampled during an attack."""
 
 import threading
 import time
@@ -11,12 +11,12 @@ MIB = 1 << 20
 
 
 def resident(pid):
-    """In bytes; cheaper to ask for than the whole status."""
+    """In bytes, from the file that is cheaper to read than the whole status."""
     return int(Path(f"/proc/{pid}/statm").read_text().split()[1]) * PAGE
 
 
 class Peak:
-    """The most that a process held beyond `idle`."""
+    """The peak of a process's memory, minus `idle`."""
 
     def __init__(self, pid, idle):
         self._pid, self._idle = pid, idle

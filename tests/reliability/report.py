@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""report RESULTS OUTPUT: what soak, attack and tests found, as a page."""
+"""report RESULTS OUTPUT: writes the results of soak, attacks and tests as a page."""
 
 import json
 import sys
@@ -70,27 +70,27 @@ def attacks(report, results):
         rows.append((name, f"{number(figures['peak_above_idle_mib'])} MiB",
                      *(f"{value} ({verdict})" if verdict != "met" else value
                        for value, _, verdict in judged)))
-    for key, told, limit, unit in ATTACK:
+    for key, label, limit, unit in ATTACK:
         held = sum(figures[key] <= limit for figures in found.values())
-        report.goal(f"attacks: {told}", (f"held by {held} of {len(found)}",
+        report.goal(f"attacks: {label}", (f"held by {held} of {len(found)}",
                                          f"≤ {number(limit)}{unit}",
                                          "met" if held == len(found) else "**not met**"))
     report.section("Attacks", "The whole panel on its Alerts tab, twelve seconds of each. Memory "
                    "is sampled every 5 ms; its peak has no limit of its own, that of a body is "
                    "64 MiB. When good values come depends on where between two polls an attack "
                    "ends.\n\n" + table(("attack", "peak memory above idle",
-                                        *(told for _, told, _, _ in ATTACK)), rows))
+                                        *(label for _, label, _, _ in ATTACK)), rows))
 
 
 def trouble(report, results):
     rows = []
-    for name, told in TROUBLE.items():
+    for name, label in TROUBLE.items():
         root = xml.parse(results / f"{name}.xml").getroot()
         suites = [root] if root.tag == "testsuite" else root.findall("testsuite")
         tried = sum(int(s.get("tests")) for s in suites)
         skipped = sum(int(s.get("skipped") or 0) for s in suites)
         failed = sum(int(s.get("failures")) + int(s.get("errors")) for s in suites)
-        rows.append((told, tried - skipped, tried - skipped - failed))
+        rows.append((label, tried - skipped, tried - skipped - failed))
     report.section("Trouble", table(("", "tried", "held"), rows))
 
 

@@ -3,8 +3,8 @@
 
 // soak_core POLLS
 //
-// As many polls as asked for, one after another without a pause; a week of them
-// is 120,960. Ends with 1 if they left anything behind, 2 if one got no answer.
+// Polls POLLS times without a pause; a week has 120,960 polls. Ends with 1 if memory,
+// descriptors or threads leaked, with 2 if a poll got no answer.
 
 #include <chrono>
 #include <cstdio>

@@ -7,7 +7,7 @@
 
 namespace quillmark::test {
 
-/// What this process holds at a moment.
+/// The resources that this process uses at a moment.
 struct Footprint {
   long residentKib = 0;
   long descriptors = 0;
@@ -16,8 +16,8 @@ struct Footprint {
   [[nodiscard]] static Footprint now();
 };
 
-/// Prints what was held before and after as one line of JSON; true if it grew
-/// by no more than `allowedKib`, and by no descriptor or thread.
+/// Prints the growth as one line of JSON; true if it is at most `allowedKib`, and no
+/// descriptor or thread.
 [[nodiscard]] bool report(const std::string& what, long polls, double seconds,
                           const Footprint& before, const Footprint& after, long allowedKib);
 

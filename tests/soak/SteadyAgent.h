@@ -11,17 +11,17 @@
 
 namespace quillmark::test {
 
-/// What is answered during one poll: whole answers by target.
+/// The answers of one poll: complete answers by target.
 using PollAnswers = std::map<std::string, std::string>;
 
-/// Two polls' worth of answers whose lists differ in length and content.
+/// The answers of two polls, whose lists differ in length and content.
 [[nodiscard]] std::vector<PollAnswers> changingAnswers();
 
-/// A server at the agent's port that keeps nothing of what it was asked, in a
-/// process of its own, so that nothing it needs counts as the caller's.
+/// A server on the agent's port that does not record requests, in a separate process, so
+/// that its resources do not count as the caller's.
 ///
-/// To be made before the caller's first thread. It goes by one entry of the
-/// answers to the next with each request for the status.
+/// Create it before the caller's first thread. It changes to the next entry of the
+/// answers with each request for the status.
 class SteadyAgent final {
  public:
   explicit SteadyAgent(const std::vector<PollAnswers>& answers);
