@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Changes one line of the sources at a time, and looks whether a test notices."""
+"""Changes one line of the sources at a time, and checks whether a test detects it."""
 
 import argparse
 import random
@@ -19,7 +19,7 @@ FOLDERS = ["TovelAgent", "doctor", "procfs", "sample-agent"]
 
 
 def drawn(options):
-    """Mutants in an order that the seed decides, at most one for a line."""
+    """Mutants in a random order that depends on the seed, at most one for each line."""
     lines = []
     for file in sorted(listed(CHECKOUT)):
         path = Path(file)
@@ -33,12 +33,12 @@ def drawn(options):
 
 def parsed():
     parser = argparse.ArgumentParser(prog="mutants", description=__doc__)
-    parser.add_argument("--seed", type=int, default=1, help="which mutants are drawn")
-    parser.add_argument("--count", type=int, default=20, help="how many that build")
+    parser.add_argument("--seed", type=int, default=1, help="seed for the choice of the mutants")
+    parser.add_argument("--count", type=int, default=20, help="number of mutants that build")
     parser.add_argument("--folder", action="append", dest="folders", metavar="FOLDER",
-                        help="of these sources only; may be given again")
-    parser.add_argument("--continue", action="store_true", dest="goes_on",
-                        help="go on with the last run and its options")
+                        help="only sources of this folder; may be repeated")
+    parser.add_argument("--continue", action="store_true", dest="is_continued",
+                        help="continue the last run with its options")
     options = vars(parser.parse_args())
     options["folders"] = options["folders"] or FOLDERS
     return options
@@ -48,7 +48,7 @@ def main():
     signal.signal(signal.SIGTERM, signal.default_int_handler)
     options = parsed()
     HOME.mkdir(parents=True, exist_ok=True)
-    results = Results(HOME / "results.jsonl", None if options.pop("goes_on") else options)
+    results = Results(HOME / "results.jsonl", None if options.pop("is_continued") else options)
     tree = Tree(CHECKOUT, HOME / "tree")
     tree.refresh()
     tree.configure()
@@ -62,11 +62,11 @@ def main():
                 results.add(mutant, verdict)
                 print(described(mutant, verdict), flush=True)
     except KeyboardInterrupt:
-        return "ended; go on with --continue"
+        return "interrupted; --continue continues this run"
     finally:
         print(f"\n{results.summary()}")
         for name in sorted(judge.unsound):
-            print(f"not asked, for it fails without a mutant: {name}")
+            print(f"skipped, because it fails without a mutant: {name}")
     return 0
 
 

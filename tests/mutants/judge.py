@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What becomes of a mutant."""
+"""Finds out whether a test detects a mutant."""
 
 import time
 from dataclasses import dataclass
@@ -16,7 +16,7 @@ KILLED, TIMED_OUT, SURVIVED, NOT_BUILT = "killed", "timed out", "survived", "not
 @dataclass(frozen=True)
 class Verdict:
     fate: str
-    test: str = ""  # which noticed
+    test: str = ""  # which detected it
 
 
 class Judge:
@@ -40,7 +40,7 @@ class Judge:
             self.unsound.add(test.name)
 
     def _meets(self, mutant):
-        """The verdict, and the test that noticed."""
+        """The verdict, and the test that detected the mutant."""
         for test in suites.of(mutant.file):
             if test.name in self.unsound:
                 continue
@@ -48,16 +48,16 @@ class Judge:
                 return Verdict(NOT_BUILT), None
             code = self._run(test)
             if code not in (0, None):
-                code = self._run(test)  # What fails by chance seldom does so twice.
+                code = self._run(test)  # Random failures rarely happen twice.
             if code != 0:
                 return Verdict(TIMED_OUT if code is None else KILLED, test.name), test
         return Verdict(SURVIVED), None
 
     def _run(self, test):
         known = self._seconds.get(test.name)
-        begun = time.monotonic()
+        started = time.monotonic()
         code = self._tree.run(test.command,
                               max(SHORTEST, PATIENCE * known) if known else LONGEST)
         if code == 0:
-            self._seconds[test.name] = time.monotonic() - begun
+            self._seconds[test.name] = time.monotonic() - started
         return code

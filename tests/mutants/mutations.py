@@ -1,16 +1,16 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Every small change of one line of C++ or QML that a test should notice."""
+"""Every small change of one line of C++ or QML that a test should detect."""
 
 import re
 from collections import defaultdict
 from dataclasses import dataclass
 
 LITERAL = (r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"'
-           # After a digit it groups digits.
+           # After a digit, an apostrophe groups digits.
            r"|(?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])*'")
 COMMENT = r"//[^\n]*|/\*.*?\*/"
-# What decides nothing when the program runs.
+# Lines without an effect when the program runs.
 SKIPPED_LINE = re.compile(
     r"\s*(#|import\b|pragma\b|using\b|namespace\b|friend\b|static_assert|assert\(|Q_PROPERTY|QML_)"
     r"|.*\) (const )?= (0|default|delete);$")
@@ -30,7 +30,7 @@ RETURNED = re.compile(r"(?<=\breturn )(?!\{\}|\*this|false|0|nullptr|std::nullop
 STATEMENT = re.compile(
     r"(Q_EMIT |delete |co_await )?[A-Za-z_*(]([\w:.*()\[\]]|->)*(<[\w:, ]+>)?"
     r"( [-+|&*/]?= |\(|\+\+|--).*;$|(break|continue|return);$")
-# A property's value, unless it goes on on the next line.
+# A property's value, unless it continues on the next line.
 BINDING = re.compile(r"(?!id:)[\w.]+: .*[^,{(\[?:&|+]$")
 CONTINUATION = re.compile(r"\s*([?:.+]|&&|\|\|)")
 

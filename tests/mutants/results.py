@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What a run was asked for and what it found, in a file that the next can continue."""
+"""The options and results of a run, in a file that the next run can continue."""
 
 import dataclasses
 import json
@@ -12,7 +12,7 @@ from .mutations import Mutant
 
 class Results:
     def __init__(self, path, options):
-        """Begins anew with `options`; without any, goes on with what is there."""
+        """Starts a new file with `options`; without them, continues the existing one."""
         self._path = path
         self._verdicts = {}
         if options:

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Which tests should notice a change of which source, the quickest first."""
+"""Which tests should detect a change of which source, the fastest first."""
 
 import fnmatch
 from dataclasses import dataclass
@@ -48,7 +48,7 @@ def qml(folder, file=""):
                 (f"{BUILD}/tests/{folder}/{name}", "-input", f"tests/{folder}/{file}"))
 
 
-# Every line one of whose patterns fits, in this order.
+# All lines apply that have a pattern that matches, in this order.
 TABLE = [
     ("*/platform/*", [program("platform/platform_tests"),
                       program("platform/platform_as_user_tests"), *faults("fault_errors")]),

@@ -28,8 +28,8 @@ class Tree:
         self.log = folder.parent / "last.log"
 
     def refresh(self):
-        """Copies what differs, so that little is built anew; also ends a mutant
-        that an interrupted run left behind."""
+        """Copies only what differs, so that little is rebuilt. This also removes the
+        mutant of an interrupted run."""
         wanted = listed(self.checkout)
         for path in self.folder.rglob("*"):
             if path.is_file() and self.build not in path.parents:
@@ -53,7 +53,7 @@ class Tree:
         try:
             yield
         finally:
-            # With a new time, so that the build notices this change as well.
+            # Gets a new time, so that the build notices this change as well.
             path.write_text(original)
 
     def configure(self):
@@ -72,7 +72,7 @@ class Tree:
                         writable=(self.build, cache)) == 0
 
     def run(self, command, limit=None, writable=()):
-        """The exit code in the sandbox, or None past `limit` seconds."""
+        """The exit code in the sandbox, or None after `limit` seconds."""
         environment = os.environ | {
             "QUILLMARK_BUILD_DIR": str(self.build),
             "QUILLMARK_SANDBOX_WRITABLE": ":".join(map(str, writable)),
