@@ -40,7 +40,7 @@ const quillmark::CommandLineRules commandLineRules{
         "\n"
         "Ends with 0 when all is well, 1 when something is wrong, 2 for a wrong option.\n",
     .flags = {jsonFlag, watchFlag},
-    .passedOn = {}};
+    .valueOptions = {}};
 
 // The panel's polling interval.
 constexpr timespec pause{5, 0};

@@ -45,7 +45,7 @@ const quillmark::CommandLineRules commandLineRules{
         "  -h, --help      print this and end\n"
         "  -V, --version   print the version and end\n",
     .flags = {},
-    .passedOn = {}};
+    .valueOptions = {}};
 
 int fail(ExitCode code, const std::string& reason) {
   std::cerr << reason << std::endl;

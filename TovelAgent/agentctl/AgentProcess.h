@@ -15,9 +15,7 @@ namespace quillmark {
 /// The file name of the agent's program, used to find and stop its processes.
 inline constexpr std::string_view agentFileName = "tovel-agent";
 
-/// The folder of a bundle's programs, to append to the bundle's path, and the
-/// agent's log file, to append to the path of the home directory.
-inline constexpr std::string_view programsInBundle = "/Contents/MacOS";
+/// The agent's log file, to append to the path of the home directory.
 inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log";
 
 /// Whether `path` can be put in a shell's single quotes: it contains none.

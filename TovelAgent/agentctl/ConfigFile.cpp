@@ -26,7 +26,7 @@ std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 boost::system::result<std::string> newAgentId() {
   try {
     return "macos-" + computerName().value_or("device") + "-" +
-           canonicalText(randomUuid()).substr(0, uuidCharactersInId);
+           upperCaseText(randomUuid()).substr(0, uuidCharactersInId);
   } catch (const boost::uuids::entropy_error& error) {
     return boost::system::error_code(static_cast<int>(error.errcode()),
                                      boost::system::system_category());

@@ -32,7 +32,7 @@ quillmark::CommandLineRules commandLineRules() {
               "  -V, --version   print the version and end\n",
           .flags = {quitFlag},
           // The option that a session manager adds when it restarts the panel.
-          .passedOn = {"session"}};
+          .valueOptions = {"session"}};
 }
 
 /// Returns the exit code: 1 when no panel is open.
@@ -68,7 +68,7 @@ int main(int argc, char* argv[]) {
     return quitOpenPanel(argc, argv);
   }
 
-  quillmark::returnLargeBlocks();
+  quillmark::returnLargeBlocksOnFree();
   quillmark::chooseRenderer();
   const QGuiApplication application(argc, argv);
   QCoreApplication::setApplicationName(QString::fromLatin1(programName));

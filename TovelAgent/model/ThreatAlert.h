@@ -30,7 +30,7 @@ struct ThreatAlert {
 
   /// A new random id at every call, in canonical text form: an alert cannot be
   /// matched with an alert of an earlier poll. Any thread.
-  [[nodiscard]] std::string id() const { return canonicalText(randomUuid()); }
+  [[nodiscard]] std::string id() const { return upperCaseText(randomUuid()); }
 
   friend bool operator==(const ThreatAlert&, const ThreatAlert&) = default;
 };

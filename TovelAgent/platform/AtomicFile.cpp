@@ -33,7 +33,7 @@ struct Target {
   mode_t mode = privateFile;
 };
 
-error_code examine(const std::string& path, Target& target) {
+error_code resolveTarget(const std::string& path, Target& target) {
   target.path = path;
   struct stat status {};
   if (lstat(path.c_str(), &status) != 0) {
@@ -59,10 +59,10 @@ class TemporaryFile final {
   explicit TemporaryFile(const Target& target)
       : path_(target.path + ".XXXXXX"), descriptor_(mkostemp(path_.data(), O_CLOEXEC)) {}
   ~TemporaryFile() {
-    if (descriptor_ >= 0) {
+    if (isOpen()) {
       close(descriptor_);
     }
-    if (isCreated_) {
+    if (mustRemove_) {
       unlink(path_.c_str());
     }
   }
@@ -70,10 +70,10 @@ class TemporaryFile final {
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
   [[nodiscard]] const char* path() const { return path_.c_str(); }
-  [[nodiscard]] bool isCreated() const { return isCreated_; }
+  [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
 
   /// Call after the file was renamed: there is nothing left to remove.
-  void markMoved() { isCreated_ = false; }
+  void markMoved() { mustRemove_ = false; }
 
   /// Writes `text`, flushes it to the disk and closes the file.
   [[nodiscard]] error_code fill(std::string_view text, mode_t mode) {
@@ -96,7 +96,7 @@ class TemporaryFile final {
  private:
   std::string path_;
   int descriptor_;
-  bool isCreated_ = descriptor_ >= 0;
+  bool mustRemove_ = isOpen();
 };
 
 error_code syncFolder(const std::string& path) {
@@ -115,7 +115,7 @@ error_code createPrivateFolders(const std::string& path) {
   for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const auto folder = path.substr(0, end);
     if (mkdir(folder.c_str(), privateFolder) == 0) {
-      // Otherwise a power loss could remove the folder with everything in it.
+      // Without this flush, a power loss could remove the folder and its content.
       if (const auto error = syncFolder(folderOf(folder))) {
         return error;
       }
@@ -136,11 +136,11 @@ error_code createPrivateFolders(const std::string& path) {
 
 error_code writeFileAtomically(const std::string& path, std::string_view text) {
   Target target;
-  if (const auto error = examine(path, target)) {
+  if (const auto error = resolveTarget(path, target)) {
     return error;
   }
   TemporaryFile file(target);
-  if (!file.isCreated()) {
+  if (!file.isOpen()) {
     return lastSystemError();
   }
   if (const auto error = file.fill(text, target.mode)) {
@@ -150,8 +150,7 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
     return lastSystemError();
   }
   file.markMoved();
-  // The new file is in place. If the folder cannot be flushed, a loss of power may
-  // still bring the old one back.
+  // Not an error: the new file is in place, and only a power loss could undo that.
   static_cast<void>(syncFolder(folderOf(target.path)));
   return {};
 }

@@ -19,10 +19,10 @@ namespace quillmark {
 /// a power loss.
 ///
 /// The file is accessible only to the user: mode 0600, or the old file's mode
-/// if that is stricter. A symbolic link to a regular file is followed. On an
-/// error the old file is unchanged and no other file is left behind. A folder
-/// that cannot be flushed after the replacement is not an error. Any thread;
-/// waits for the disk.
+/// if that is stricter. A symbolic link to a regular file is followed; a broken
+/// link is an error. On an error the old file is unchanged and no other file is
+/// left behind. A folder that cannot be flushed after the replacement is not an
+/// error. Any thread; waits for the disk.
 [[nodiscard]] boost::system::error_code writeFileAtomically(const std::string& path,
                                                             std::string_view text);
 

@@ -3,21 +3,14 @@
 
 #include "platform/BundlePath.h"
 
-#include <string_view>
-
 #include "platform/OperatingSystem.h"
 
 namespace quillmark {
-namespace {
-
-constexpr std::string_view programsFolder = "/Contents/MacOS";
-
-}  // namespace
 
 std::string bundlePathOf(const std::string& executable) {
   auto folder = executable.substr(0, executable.rfind('/'));
-  if (folder.ends_with(programsFolder)) {
-    folder.resize(folder.size() - programsFolder.size());
+  if (folder.ends_with(programsInBundle)) {
+    folder.resize(folder.size() - programsInBundle.size());
   }
   return folder;
 }

@@ -4,8 +4,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace quillmark {
+
+/// The folder of a bundle's programs, to append to the bundle's path.
+inline constexpr std::string_view programsInBundle = "/Contents/MacOS";
 
 /// The path of the application bundle that contains `executable`, an absolute
 /// path: `X` for `X/Contents/MacOS/name`, otherwise the executable's folder.

@@ -21,7 +21,7 @@ namespace {
 
 using boost::system::error_code;
 
-/// The settings of a child process that differ from this process.
+/// The settings in which a child process differs from this one.
 class SpawnSetup final {
  public:
   SpawnSetup() {
@@ -47,7 +47,7 @@ class SpawnSetup final {
       posix_spawn_file_actions_addopen(&actions_, stream, "/dev/null", O_WRONLY, 0);
     }
   }
-  void ownSession() { flags_ |= POSIX_SPAWN_SETSID; }
+  void useNewSession() { flags_ |= POSIX_SPAWN_SETSID; }
 
   [[nodiscard]] error_code spawn(const Command& command, pid_t& child) {
     posix_spawnattr_setflags(&attributes_, flags_);
@@ -67,8 +67,8 @@ class SpawnSetup final {
   short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
-/// The parent process may have started this program with SIGCHLD ignored; the
-/// system then keeps no exit status of a child.
+/// Resets SIGCHLD if this program was started with it ignored: the system would
+/// keep no exit statuses.
 void keepExitStatuses() {
   struct sigaction current {};
   if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {
@@ -90,7 +90,7 @@ boost::system::result<int> waitFor(pid_t child) {
 
 error_code startDetached(const Command& command) {
   SpawnSetup setup;
-  setup.ownSession();
+  setup.useNewSession();
   pid_t child = 0;
   const auto error = setup.spawn(command, child);
   if (error) {
@@ -99,7 +99,7 @@ error_code startDetached(const Command& command) {
   try {
     std::thread([child] { static_cast<void>(waitFor(child)); }).detach();
   } catch (const std::system_error&) {
-    // No thread is available. The wait is short: what is started here ends at once.
+    // No thread is available: wait, so that no zombie remains.
     static_cast<void>(waitFor(child));
   }
   return {};

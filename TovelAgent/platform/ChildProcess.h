@@ -19,14 +19,15 @@ struct Command {
   friend bool operator==(const Command&, const Command&) = default;
 };
 
-/// Starts `command` in its own session, with this process's standard streams,
-/// and does not wait; it leaves no zombie when it ends. Returns an error when the
-/// program could not be started. Any thread.
+/// Starts `command` in its own session, with this process's standard streams, and
+/// does not wait if a thread is available. The child leaves no zombie. Returns an
+/// error when the program could not be started. Threads: as `homeDirectory`.
 [[nodiscard]] boost::system::error_code startDetached(const Command& command);
 
 /// Runs `command` with its output discarded and waits for it to end. Returns its
 /// exit status, or 128 plus the number of the signal that ended it; an error
-/// when it could not be started or waited for. Blocks the calling thread.
+/// when it could not be started or waited for. Sets an ignored SIGCHLD to its
+/// default. Blocks the calling thread; threads: as `homeDirectory`.
 [[nodiscard]] boost::system::result<int> runSilently(const Command& command);
 
 }  // namespace quillmark

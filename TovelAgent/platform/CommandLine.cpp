@@ -13,26 +13,26 @@ namespace quillmark {
 namespace {
 
 // Above all character values, so that they do not collide with short options.
-enum Meaning : int { flagMeaning = 256, passedOnMeaning };
+enum OptionCode : int { flagOption = 256, valueOption };
 
 std::vector<option> optionTable(const CommandLineRules& rules) {
   std::vector<option> table{{"help", no_argument, nullptr, 'h'},
                             {"version", no_argument, nullptr, 'V'}};
   for (const auto& flag : rules.flags) {
-    table.push_back({flag.c_str(), no_argument, nullptr, flagMeaning});
+    table.push_back({flag.c_str(), no_argument, nullptr, flagOption});
   }
-  for (const auto& name : rules.passedOn) {
-    table.push_back({name.c_str(), required_argument, nullptr, passedOnMeaning});
+  for (const auto& name : rules.valueOptions) {
+    table.push_back({name.c_str(), required_argument, nullptr, valueOption});
   }
   table.push_back({nullptr, 0, nullptr, 0});
   return table;
 }
 
-CommandLine done(int exitCode) { return {.exitCode = exitCode, .flags = {}}; }
+CommandLine exitWith(int exitCode) { return {.exitCode = exitCode, .flags = {}}; }
 
 CommandLine reportMisuse(const CommandLineRules& rules, const std::string& reason) {
   std::cerr << rules.program << ": " << reason << '\n' << rules.help;
-  return done(usageError);
+  return exitWith(usageError);
 }
 
 }  // namespace
@@ -43,7 +43,7 @@ bool CommandLine::has(const std::string& flag) const {
 
 CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules) {
   const auto table = optionTable(rules);
-  const auto next = rules.passedOn.empty() ? getopt_long : getopt_long_only;
+  const auto next = rules.valueOptions.empty() ? getopt_long : getopt_long_only;
   CommandLine line;
   opterr = 0;
   while (true) {
@@ -58,17 +58,17 @@ CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rule
         return line;
       case 'h':
         std::cout << rules.help;
-        return done(0);
+        return exitWith(0);
       case 'V':
         std::cout << rules.program << ' ' << rules.version << '\n';
-        return done(0);
-      case flagMeaning:
+        return exitWith(0);
+      case flagOption:
         line.flags.emplace_back(table[static_cast<std::size_t>(index)].name);
         break;
-      case passedOnMeaning:
+      case valueOption:
         break;
       case ':':
-        return reportMisuse(rules, "a value is missing behind '" + std::string(word) + "'");
+        return reportMisuse(rules, "a value is missing after '" + std::string(word) + "'");
       default:
         return reportMisuse(rules, "unknown option '" + std::string(word) + "'");
     }

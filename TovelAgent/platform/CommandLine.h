@@ -18,9 +18,9 @@ struct CommandLineRules {
   std::string help;
   /// Options without a value, by their long names.
   std::vector<std::string> flags;
-  /// Options with a value that another component reads. They may also begin with
-  /// a single dash, as toolkits write them.
-  std::vector<std::string> passedOn;
+  /// Options with a value. Accepted and dropped: another component reads them from
+  /// `argv`. If there are any, all long options may begin with a single dash.
+  std::vector<std::string> valueOptions;
 };
 
 struct CommandLine {
@@ -36,7 +36,7 @@ struct CommandLine {
 inline constexpr int usageError = 2;
 
 /// Parses the arguments of `main`. Answers `--help` and `--version` on standard
-/// output, and reports unknown arguments on standard error.
+/// output, and reports wrong arguments, with the help, on standard error.
 /// Call at the start of a program, before it starts threads.
 [[nodiscard]] CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules);
 

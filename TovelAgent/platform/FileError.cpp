@@ -25,7 +25,7 @@ class Category final : public boost::system::error_category {
       case FileError::notUtf8:
         return "The file is not UTF-8 text";
       case FileError::unquotablePath:
-        return "The application's path holds an apostrophe";
+        return "The application's path contains an apostrophe";
     }
     return "Unknown error";
   }

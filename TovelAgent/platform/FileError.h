@@ -7,17 +7,16 @@
 
 namespace quillmark {
 
-/// Errors of files that are not errors of the operating system.
+/// Errors of files and paths that the operating system does not report, with their
+/// portable conditions.
 enum class FileError {
-  notRegular = 1,  ///< a folder, FIFO, device or socket
-  tooLarge,        ///< more bytes than the reader accepts
-  notUtf8,
-  unquotablePath,  ///< cannot be put in a shell's single quotes
+  notRegular = 1,  ///< a folder, FIFO, device or socket; `not_supported`
+  tooLarge,        ///< more bytes than the reader accepts; `file_too_large`
+  notUtf8,         ///< `illegal_byte_sequence`
+  unquotablePath,  ///< cannot be put in a shell's single quotes; `invalid_argument`
 };
 
-/// The error as a code with a message for the user. In the order of the enum,
-/// the codes equal the portable conditions `not_supported`, `file_too_large`,
-/// `illegal_byte_sequence` and `invalid_argument`.
+/// The error as a code with a message for the user.
 [[nodiscard]] boost::system::error_code make_error_code(FileError error);
 
 }  // namespace quillmark

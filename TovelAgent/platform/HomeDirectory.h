@@ -9,7 +9,7 @@ namespace quillmark {
 
 /// The current user's home directory without a trailing slash: `$HOME`, or the
 /// entry in the password database when `$HOME` is unset or empty. Empty when
-/// neither is available. Any thread, as long as no thread changes the
+/// neither is available, and for "/". Any thread, as long as no thread changes the
 /// environment at the same time.
 [[nodiscard]] std::string homeDirectory();
 

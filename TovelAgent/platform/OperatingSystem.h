@@ -9,8 +9,8 @@
 
 namespace quillmark {
 
-// Functions that differ between operating systems: a port replaces their source
-// file. Any thread.
+// To support another operating system, replace these functions' source file. Any
+// thread, except `returnLargeBlocksOnFree`.
 
 /// The absolute path of the running program, with symbolic links resolved. Empty
 /// when the system does not report it.
@@ -20,8 +20,8 @@ namespace quillmark {
 /// other descriptor of this process.
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
 
-/// Makes the allocator return large blocks to the system as soon as they are
-/// freed, independent of earlier allocations.
-void returnLargeBlocks();
+/// Makes the allocator return blocks of 1 MiB or more to the system as soon as they
+/// are freed. Call before threads start.
+void returnLargeBlocksOnFree();
 
 }  // namespace quillmark

@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// The error of the last failed system call. Call on the same thread.
+/// The error of the last failed system call. Call at once, on the same thread.
 [[nodiscard]] inline boost::system::error_code lastSystemError() {
   return {errno, boost::system::system_category()};
 }

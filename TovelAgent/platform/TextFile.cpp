@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cerrno>
-#include <string_view>
 
 #include <boost/scope_exit.hpp>
 

@@ -22,16 +22,16 @@ bool isWhiteSpace(utf::code_point c) {
 
 template <class IsSpace>
 std::string_view trimEnds(IsSpace isSpace, std::string_view text) {
-  const auto* first = text.end();
-  const auto* last = text.end();
+  const auto* begin = text.end();
+  const auto* end = text.end();
   for (const auto* at = text.begin(); at != text.end();) {
     const auto* const start = at;
     if (!isSpace(Utf8::decode(at, text.end()))) {
-      first = first == text.end() ? start : first;
-      last = at;
+      begin = begin == text.end() ? start : begin;
+      end = at;
     }
   }
-  return {first, last};
+  return {begin, end};
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ Uuid randomUuid() {
   return generate();
 }
 
-std::string canonicalText(const Uuid& uuid) {
+std::string upperCaseText(const Uuid& uuid) {
   return boost::algorithm::to_upper_copy(boost::uuids::to_string(uuid));
 }
 

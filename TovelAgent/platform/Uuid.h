@@ -11,10 +11,10 @@ namespace quillmark {
 
 using Uuid = boost::uuids::uuid;
 
-/// A new random (version 4) identifier. Any thread.
+/// A new random (version 4) UUID. Throws `boost::uuids::entropy_error`. Any thread.
 [[nodiscard]] Uuid randomUuid();
 
 /// The 36-character form: upper-case hexadecimal, 8-4-4-4-12. Any thread.
-[[nodiscard]] std::string canonicalText(const Uuid& uuid);
+[[nodiscard]] std::string upperCaseText(const Uuid& uuid);
 
 }  // namespace quillmark

@@ -18,7 +18,7 @@ class BundlePaths : public WithAgents {
 TEST_F(BundlePaths, ThatBreakOutOfTheQuotesStartNothing) {
   for (const std::string name : {"Ann's.app", "'; touch injected; '.app", "'", "two\n'lines.app"}) {
     const Bundle bundle(name);
-    EXPECT_EQ(bundle.resultOf("start"), "Error: The application's path holds an apostrophe")
+    EXPECT_EQ(bundle.resultOf("start"), "Error: The application's path contains an apostrophe")
         << testing::PrintToString(name);
     EXPECT_TRUE(waitUntil(isAlone));
     EXPECT_EQ(namesIn(std::filesystem::path(bundle.path()).parent_path()),

@@ -65,4 +65,4 @@ def test_session_managers_option_is_left_to_the_toolkit():
     assert run("quillmark-agent", "-session", "10a0_1", "--version").returncode == 0
     done = run("quillmark-agent", "-session")
     assert done.returncode == 2
-    assert done.stderr.startswith("quillmark-agent: a value is missing behind '-session'\n")
+    assert done.stderr.startswith("quillmark-agent: a value is missing after '-session'\n")

@@ -59,5 +59,5 @@ def test_apostrophe_in_the_applications_path(launch_alone, tmp_path):
     panel = launch_alone("/bin/sh", "-c", f'exec "{programs}/quillmark-agent"')
     panel.show("Settings")
     settings.press(panel, START)
-    settings.wait_for_message(panel, "❌ Error: The application's path holds an apostrophe")
+    settings.wait_for_message(panel, "❌ Error: The application's path contains an apostrophe")
     assert not processes.named()

@@ -95,7 +95,7 @@ TEST(IdentityValue, IsOfVersionFour) {
 TEST(IdentityText, IsTheTextOfTheValue) {
   const Uuid uuid{{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0x4D, 0xEF, 0x80, 0x00, 0x00, 0x00, 0x00,
                    0xFE, 0xDC, 0xBA}};
-  EXPECT_EQ(canonicalText(uuid), "01234567-89AB-4DEF-8000-000000FEDCBA");
+  EXPECT_EQ(upperCaseText(uuid), "01234567-89AB-4DEF-8000-000000FEDCBA");
 }
 
 }  // namespace

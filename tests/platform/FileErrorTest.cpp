@@ -20,7 +20,7 @@ TEST(FileErrors, HaveMessagesForTheUser) {
   EXPECT_EQ(error_code(FileError::tooLarge).message(), "The file is too large");
   EXPECT_EQ(error_code(FileError::notUtf8).message(), "The file is not UTF-8 text");
   EXPECT_EQ(error_code(FileError::unquotablePath).message(),
-            "The application's path holds an apostrophe");
+            "The application's path contains an apostrophe");
 }
 
 TEST(FileErrors, EqualPortableConditions) {
