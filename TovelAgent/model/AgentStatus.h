@@ -14,7 +14,7 @@ namespace quillmark {
 /// The agent's status; the body of "/api/status".
 struct AgentStatus {
   bool protection_enabled = false;  ///< whether the agent acts on what it finds
-  std::int64_t threat_count = 0;    ///< the agent's own count; may be negative
+  std::int64_t threat_count = 0;    ///< shown as received, even if negative
   std::string last_alert;           ///< free text
   std::string status;               ///< only "ok" means healthy
   std::string last_scan;            ///< usually an RFC 3339 time; other text is shown unchanged

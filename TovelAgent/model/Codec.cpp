@@ -23,10 +23,10 @@ constexpr std::size_t parserDepth = maxNesting + 1;
 // With a smaller capacity the parser allocates again and loses the nesting limit.
 constexpr std::size_t minCapacity = 64;
 
-/// Parses `json` into `document`. The text and the parser, which take twice as
-/// much memory, are freed before the records are created.
+/// Parses `json` into `document`. The text and the parser, the larger part of the
+/// memory, are freed before the records are created.
 simdjson::simdjson_result<dom::element> parse(std::string json, dom::document& document) {
-  // Some versions of simdjson skip a byte order mark.
+  // Not JSON, but some versions of simdjson skip a byte order mark.
   if (json.starts_with("\xEF\xBB\xBF")) {
     return simdjson::UTF8_ERROR;
   }

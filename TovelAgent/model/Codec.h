@@ -16,6 +16,7 @@
 
 namespace quillmark {
 
+/// The record, or why it cannot be decoded.
 template <Record R>
 using Decoded = boost::system::result<R, DecodeError>;
 

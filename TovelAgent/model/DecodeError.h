@@ -13,7 +13,7 @@ enum class DecodeFailure {
   keyNotFound,    ///< a required key is missing
   valueNotFound,  ///< the value of a required key, or a string in an array, is null
   typeMismatch,   ///< a value has the wrong JSON type
-  dataCorrupted,  ///< not JSON, or a number outside its field's range
+  dataCorrupted,  ///< not JSON, over 512 levels deep, or a number out of range
 };
 
 /// The kind as text, such as "type mismatch". Any thread.

@@ -15,7 +15,7 @@ namespace quillmark {
 /// One installed application; an element of `InventoryData::apps`.
 struct InstalledApp {
   std::string name;
-  std::optional<std::string> version;    ///< without a leading "v"
+  std::optional<std::string> version;    ///< shown with a leading "v"
   std::optional<std::string> publisher;  ///< who made or maintains it
   std::optional<std::string> path;       ///< where it is installed
 

@@ -32,6 +32,7 @@ class JsonReader final {
   [[nodiscard]] bool read(Element json, R& record) {
     simdjson::dom::object object;
     if (json.get(object) != simdjson::SUCCESS) {
+      // For null, too: only scalars and arrays report it as `valueNotFound`.
       return fail(DecodeFailure::typeMismatch, expected("object", json));
     }
     const auto values = valuesOf<R>(object);
@@ -77,7 +78,7 @@ class JsonReader final {
       return true;
     }
     // 2.0 and 1e3 are integers too. Between -2^63 and 2^63 the conversion is exact;
-    // a double of -2^63 is rejected because it may be a smaller number, rounded.
+    // -2^63 itself is rejected: it may be a smaller number that was rounded.
     constexpr double limit = 9223372036854775808.0;
     double value = 0;
     if (json.get(value) == simdjson::SUCCESS && value > -limit && value < limit &&
@@ -85,7 +86,7 @@ class JsonReader final {
       number = static_cast<std::int64_t>(value);
       return true;
     }
-    return fail(DecodeFailure::dataCorrupted, "a whole number of 64 bits expected");
+    return fail(DecodeFailure::dataCorrupted, "signed 64-bit integer expected");
   }
 
   /// The first failure. Call once, after a `read` returned false.
@@ -140,8 +141,8 @@ class JsonReader final {
 
   /// Puts the enclosing key or index `step` in front of the failure's path.
   bool failWithin(std::string_view step) {
-    const bool separate = !failure_.path.empty() && failure_.path.front() != '[';
-    failure_.path.insert(0, std::string(step) + (separate ? "." : ""));
+    const bool needsDot = !failure_.path.empty() && failure_.path.front() != '[';
+    failure_.path.insert(0, std::string(step) + (needsDot ? "." : ""));
     return false;
   }
 

@@ -42,7 +42,7 @@ Expectation::Failure Expectation::read(const Verdict& found, bool& flag) {
 
 Expectation::Failure Expectation::read(const Verdict& found, std::int64_t& number) {
   if (std::holds_alternative<OtherNumber>(found)) {
-    return DecodeError{DecodeFailure::dataCorrupted, {}, "a whole number of 64 bits expected"};
+    return DecodeError{DecodeFailure::dataCorrupted, {}, "signed 64-bit integer expected"};
   }
   const auto* const integer = std::get_if<std::int64_t>(&found);
   if (integer == nullptr) {
