@@ -13,8 +13,7 @@
 namespace quillmark {
 
 /// The files that may contain the agent's access token; the first readable one is
-/// used. Any thread, as long as no thread changes the environment at the same
-/// time.
+/// used. Threads: as `homeDirectory`.
 [[nodiscard]] std::vector<std::string> accessTokenPaths();
 
 /// The token in the file at `path`, without white space at both ends; the errors
@@ -24,7 +23,7 @@ namespace quillmark {
 /// Reads the agent's access token: from the system-wide file if that can be read,
 /// even if it is blank, otherwise from the file in the user's home directory.
 /// White space at both ends is removed. No value when neither file can be read as
-/// UTF-8 text. Any thread; it reads files.
+/// UTF-8 text. Threads: as `homeDirectory`; it reads files.
 [[nodiscard]] std::optional<std::string> readAccessToken();
 
 /// Whether `token` can be sent unchanged in an HTTP header field: it contains no

@@ -11,7 +11,7 @@
 
 namespace quillmark {
 
-/// The URL of the agent's interface; append a path that begins with a slash.
+/// The URL of the agent's HTTP server; append a path that begins with a slash.
 inline constexpr auto agentBaseUrl = "http://127.0.0.1:7823";
 
 // The paths that the agent serves.
@@ -20,8 +20,8 @@ inline constexpr std::string_view alertsPath = "/api/alerts";
 inline constexpr std::string_view networkPath = "/api/network";
 inline constexpr std::string_view inventoryPath = "/api/inventory";
 
-/// A request to `url` with empty method and token. No value when `url` is not a
-/// URL with an IPv4 address and a port; host names are never looked up. Any
+/// A request to `url`, an http URL with a path; method and token are empty. No
+/// value without an IPv4 address and a port; host names are never looked up. Any
 /// thread.
 [[nodiscard]] std::optional<HttpRequest> requestTo(const std::string& url);
 

@@ -11,16 +11,15 @@ namespace {
 
 namespace http = boost::beast::http;
 
-using ErrorCode = boost::system::error_code;
+using boost::system::error_code;
 
 constexpr int maxInterimAnswers = 16;
 
-// Every chunked body ends with at least this many bytes, which belong together.
-// Never give the parser fewer: after the last chunk's size it assumes that the
-// rest has arrived.
+// The shortest end of a chunked body. Never give the parser fewer bytes: after the
+// last chunk's size it asserts that the rest has arrived.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
 
-bool exceedsLimit(const ErrorCode& error) {
+bool exceedsLimit(const error_code& error) {
   return error == http::error::header_limit || error == http::error::body_limit;
 }
 
@@ -28,21 +27,21 @@ bool exceedsLimit(const ErrorCode& error) {
 
 AnswerReader::AnswerReader(const HttpLimits& limits) : limits_(limits) { startAnswer(); }
 
-// One byte more than may be unparsed, so that an excess is noticed.
-boost::asio::mutable_buffer AnswerReader::space() {
+// One byte more than the header limit, so that exceeding it is noticed.
+boost::asio::mutable_buffer AnswerReader::prepare() {
   return buffer_.prepare(limits_.headerBytes + std::size_t{1} - buffer_.size());
 }
 
-void AnswerReader::received(std::size_t count) {
+void AnswerReader::parse(std::size_t count) {
   buffer_.commit(count);
   while (!isOver() && hasEnoughToParse()) {
     const bool inHeader = !parser_->is_header_done();
-    ErrorCode error;
+    error_code error;
     const std::size_t used = parser_->put(buffer_.data(), error);
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
-    // These bytes are part of the header, or of a chunk's size line or a trailer line.
+    // The header limit also applies to a chunk's size line and to trailers.
     const std::size_t unparsed = needsMore ? buffer_.size() : 0;
     if (headerSize_ + unparsed > limits_.headerBytes || exceedsLimit(error)) {
       failure_ = HttpFailure::tooLarge;
@@ -56,8 +55,8 @@ void AnswerReader::received(std::size_t count) {
   }
 }
 
-void AnswerReader::ended() {
-  ErrorCode error = http::error::partial_message;
+void AnswerReader::finish() {
+  error_code error = http::error::partial_message;
   if (parser_->got_some()) {
     parser_->put_eof(error);
   }
@@ -85,6 +84,7 @@ void AnswerReader::startAnswer() {
 
 void AnswerReader::endAnswer() {
   const auto& answer = parser_->get();
+  // 101 is final: what follows is no longer HTTP.
   const bool isInterim =
       http::to_status_class(answer.result_int()) == http::status_class::informational &&
       answer.result() != http::status::switching_protocols;

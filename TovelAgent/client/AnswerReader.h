@@ -14,8 +14,8 @@
 
 namespace quillmark {
 
-/// Parses the final answer from the bytes of one connection, which may arrive in
-/// pieces of any size; interim (1xx) answers are skipped. Does not use a socket.
+/// Parses the final answer from the bytes of one connection, in pieces of any size;
+/// interim answers (1xx except 101) are skipped. Does not use a socket.
 ///
 /// Beast's own `async_read` (1.81) is not enough. Its header limit is not applied
 /// to lines that arrive one by one. It asserts that the end of a chunked body
@@ -26,11 +26,11 @@ class AnswerReader final {
   explicit AnswerReader(const HttpLimits& limits);
 
   /// Where the next bytes of the connection go.
-  [[nodiscard]] boost::asio::mutable_buffer space();
-  /// Parses `count` bytes that were written to `space()`. Throws `std::bad_alloc`.
-  void received(std::size_t count);
+  [[nodiscard]] boost::asio::mutable_buffer prepare();
+  /// Parses `count` bytes that were written to `prepare()`. Throws `std::bad_alloc`.
+  void parse(std::size_t count);
   /// Call when the server will send no more bytes.
-  void ended();
+  void finish();
 
   /// Whether the answer is complete or has failed.
   [[nodiscard]] bool isOver() const { return isDone_ || failure_; }

@@ -20,9 +20,9 @@ namespace {
 namespace asio = boost::asio;
 namespace beast = boost::beast;
 
-using ErrorCode = boost::system::error_code;
+using boost::system::error_code;
 
-HttpFailure failureOf(const ErrorCode& error, HttpFailure otherwise) {
+HttpFailure failureOf(const error_code& error, HttpFailure otherwise) {
   return error == beast::error::timeout ? HttpFailure::timedOut : otherwise;
 }
 
@@ -35,8 +35,8 @@ std::string requestText(const HttpRequest& request) {
 }
 
 asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
-  ErrorCode error;
-  // A named variable, because GCC 12 destroys temporaries inside a co_await twice.
+  error_code error;
+  // Named, because GCC 12 may destroy a temporary inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   const auto executor = co_await asio::this_coro::executor;
   beast::tcp_stream stream(executor);
@@ -56,12 +56,12 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
 
   AnswerReader answer(limits);
   while (!answer.isOver()) {
-    const auto space = answer.space();
+    const auto space = answer.prepare();
     const std::size_t count = co_await stream.async_read_some(space, completion);
     if (!error) {
-      answer.received(count);
+      answer.parse(count);
     } else if (error == asio::error::eof) {
-      answer.ended();
+      answer.finish();
     } else {
       co_return failureOf(error, HttpFailure::brokenOff);
     }

@@ -26,7 +26,7 @@ struct HttpRequest {
 struct HttpLimits {
   /// From connecting to the answer's last byte.
   std::chrono::steady_clock::duration time = std::chrono::seconds(60);
-  std::uint32_t headerBytes = 64 * 1024;
+  std::uint32_t headerBytes = 64 * 1024;  ///< also for chunk size and trailer lines
   std::uint64_t bodyBytes = std::uint64_t{64} * 1024 * 1024;
 };
 
@@ -40,7 +40,7 @@ enum class HttpFailure {
   notConnected,  ///< no connection to the address is possible
   timedOut,      ///< the answer was not complete within `HttpLimits::time`
   brokenOff,     ///< the connection ended before the answer was complete
-  malformed,     ///< the received bytes are not an HTTP answer
+  malformed,     ///< not an HTTP answer, or more than 16 interim ones
   tooLarge,      ///< the answer is larger than `HttpLimits` allows
 };
 
@@ -51,7 +51,7 @@ using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 
 /// Sends `request` over a new connection and completes with the answer, with any
 /// status, or with the reason why there is no complete answer. Does not follow
-/// redirects, ask for compression or store anything. Runs on the awaiting
+/// redirects, ask for compression, cache or keep cookies. Runs on the awaiting
 /// coroutine's executor and does not block it; that executor must run one handler
 /// at a time, because a connection closes itself at the time limit, at any point of
 /// the coroutine. Throws only `std::bad_alloc`.

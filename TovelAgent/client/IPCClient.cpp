@@ -27,6 +27,7 @@ asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
+  // Named for the reason given in HttpExchange.cpp.
   auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {
@@ -73,7 +74,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Mainly `std::bad_alloc`.
+    // Such as `std::bad_alloc`.
     co_return std::nullopt;
   }
 }

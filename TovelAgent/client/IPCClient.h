@@ -18,16 +18,14 @@
 
 namespace quillmark {
 
-/// The only access to the agent: four read operations over its loopback
-/// interface. Callers with the same agent and token share one client; it cannot
-/// be copied.
+/// The only access to the agent: four read operations over the loopback interface.
 ///
 /// Every operation completes exactly once, with a value or with no value. The
 /// reason for no value (no token, no agent, no answer, a body that cannot be
-/// decoded) is not reported. An empty list is a value. The client is immutable
-/// after construction, so all operations may run at the same time, from any
-/// thread, as long as the client outlives them. Each runs on its caller's executor,
-/// which must run one handler at a time.
+/// decoded) is not reported; the HTTP status is ignored. An empty list is a value.
+/// The client is immutable after construction, so all operations may run at the same
+/// time, from any thread, as long as the client outlives them. Each runs on its
+/// caller's executor, which must run one handler at a time.
 class IPCClient final {
  public:
   /// Reads the access token; it is not read again later.
@@ -44,7 +42,7 @@ class IPCClient final {
  private:
   void loadAuthToken();
 
-  /// Both arguments must be string literals: they are read while the request runs.
+  /// Both arguments must outlive the request.
   template <class R>
   [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,
                                                                      std::string_view method) const;

@@ -22,14 +22,14 @@ constexpr HttpLimits limits{.headerBytes = 64};
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
   AnswerReader reader(limits);
   while (!reader.isOver() && !answer.empty()) {
-    const auto space = reader.space();
+    const auto space = reader.prepare();
     const auto piece = answer.substr(0, std::min(pieceSize, space.size()));
     std::memcpy(space.data(), piece.data(), piece.size());
     answer.remove_prefix(piece.size());
-    reader.received(piece.size());
+    reader.parse(piece.size());
   }
   if (!reader.isOver()) {
-    reader.ended();
+    reader.finish();
   }
   auto result = reader.takeResult();
   return result ? std::optional(std::move(result->body)) : std::nullopt;

@@ -22,15 +22,15 @@ constexpr HttpLimits limits{.headerBytes = 512, .bodyBytes = 1024};
 std::optional<std::string> bodyOf(std::string_view bytes, std::size_t pieceSize) {
   AnswerReader reader(limits);
   while (!reader.isOver() && !bytes.empty()) {
-    const auto space = reader.space();
+    const auto space = reader.prepare();
     const auto piece = bytes.substr(0, std::min(pieceSize, space.size()));
     require(!piece.empty(), "there is space until the answer is over");
     std::memcpy(space.data(), piece.data(), piece.size());
     bytes.remove_prefix(piece.size());
-    reader.received(piece.size());
+    reader.parse(piece.size());
   }
   if (!reader.isOver()) {
-    reader.ended();
+    reader.finish();
     require(reader.isOver(), "the end of the connection ends the answer");
   }
   auto result = reader.takeResult();
