@@ -20,7 +20,7 @@ void judgeBundle(Findings& findings, const std::string& bundle, const TextSaniti
   finding.check = "bundle";
   finding.facts["path"] = sanitize(bundle);
   finding.text = sanitize(bundle) + ": ";
-  if (!staysQuoted(bundle)) {
+  if (!isQuotable(bundle)) {
     finding.say(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
                 "Move the application to a path without an apostrophe.");
   }

@@ -84,7 +84,7 @@ void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sani
 void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"config", "config-old"};
   std::vector<ConfigCandidate> places;
-  for (const auto& path : configFilePaths()) {
+  for (const auto& path : configSearchPaths()) {
     places.push_back({path, readTextFile(path, maxConfigBytes)});
   }
   const ConfigCandidate* chosen = nullptr;

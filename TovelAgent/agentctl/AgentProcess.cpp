@@ -16,7 +16,7 @@ constexpr auto shell = "/bin/bash";
 
 }  // namespace
 
-bool staysQuoted(std::string_view path) { return path.find('\'') == std::string_view::npos; }
+bool isQuotable(std::string_view path) { return path.find('\'') == std::string_view::npos; }
 
 Command startCommand(const std::string& bundle, const std::string& home) {
   std::string line = "cd '" + bundle;
@@ -31,7 +31,7 @@ Command probeCommand() { return {shell, {"-c", "pgrep -f " + std::string(agentFi
 
 boost::system::error_code startAgentProcess() {
   const auto bundle = bundlePath();
-  if (!staysQuoted(bundle)) {
+  if (!isQuotable(bundle)) {
     return FileError::unquotablePath;
   }
   return startDetached(startCommand(bundle, homeDirectory()));

@@ -18,8 +18,8 @@ inline constexpr std::string_view agentFileName = "tovel-agent";
 /// The agent's log file, to append to the path of the home directory.
 inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log";
 
-/// Whether `path` can be put in a shell's single quotes: it contains none.
-[[nodiscard]] bool staysQuoted(std::string_view path);
+/// Whether `path` can be put in a shell's single quotes: it contains no such quote.
+[[nodiscard]] bool isQuotable(std::string_view path);
 
 /// The command that starts the agent of the bundle at `bundle` in the
 /// background, with its output in the log file under `home`. The home path is not
@@ -31,13 +31,13 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// file name.
 [[nodiscard]] Command stopCommand();
 
-/// The command that exits with status 0 if the command line of any process
-/// contains that name.
+/// The command that exits with status 0 if any command line contains the agent's
+/// file name.
 [[nodiscard]] Command probeCommand();
 
 /// Starts the agent of this program's bundle and does not wait for it. Returns an
-/// error when the shell cannot be started, or `unquotablePath` when the bundle's
-/// path cannot be put in the shell's single quotes. Any thread.
+/// error only when the shell cannot be started, or `unquotablePath` when the
+/// bundle's path contains a single quote. Threads: as `homeDirectory`.
 [[nodiscard]] boost::system::error_code startAgentProcess();
 
 /// Runs the stop command to its end; finding no agent is not an error. Returns an
@@ -45,7 +45,7 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 [[nodiscard]] boost::system::error_code stopAgentProcess();
 
 /// Whether the probe command finds an agent; false, with the reason in `error`,
-/// when it cannot be run. Blocks the calling thread.
+/// when the shell cannot be run. Blocks the calling thread.
 [[nodiscard]] bool probeAgentProcess(boost::system::error_code& error);
 
 /// The same, for callers that do not need the reason.

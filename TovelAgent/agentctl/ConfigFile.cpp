@@ -18,7 +18,7 @@
 namespace quillmark {
 namespace {
 
-constexpr std::size_t uuidCharactersInId = 8;
+constexpr std::size_t uuidCharactersInAgentId = 8;
 
 std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 
@@ -26,14 +26,14 @@ std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 boost::system::result<std::string> newAgentId() {
   try {
     return "macos-" + computerName().value_or("device") + "-" +
-           upperCaseText(randomUuid()).substr(0, uuidCharactersInId);
+           upperCaseText(randomUuid()).substr(0, uuidCharactersInAgentId);
   } catch (const boost::uuids::entropy_error& error) {
     return boost::system::error_code(static_cast<int>(error.errcode()),
                                      boost::system::system_category());
   }
 }
 
-boost::system::error_code install(std::string_view text) {
+boost::system::error_code writeConfig(std::string_view text) {
   if (const auto error = createPrivateFolders(configFolder())) {
     return error;
   }
@@ -55,7 +55,7 @@ boost::system::error_code saveConfig(const std::string& serverUrl, const std::st
   values.serverUrl = serverUrl;
   values.apiKey = apiKey;
   values.home = homeDirectory();
-  return install(configText(values));
+  return writeConfig(configText(values));
 }
 
 ImportResult importConfigFile(const std::string& source) {
@@ -67,7 +67,7 @@ ImportResult importConfigFile(const std::string& source) {
   if (text->find("[agent]") == std::string::npos) {
     return {missingAgentSection, {}};
   }
-  const auto error = install(*text);
+  const auto error = writeConfig(*text);
   return {error ? failed : imported, error};
 }
 

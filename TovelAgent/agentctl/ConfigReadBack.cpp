@@ -13,8 +13,8 @@
 namespace quillmark {
 namespace {
 
-/// The text between the first "=" and the second "=" or the end of the line,
-/// without white space and then quotes at both ends; empty when there is no "=".
+/// The text between the first "=" and the second "=" or the end of the line, its ends
+/// stripped of white space, then of quotes; empty when there is no "=".
 std::string valueOf(std::string_view line) {
   const auto start = line.find('=');
   if (start == std::string_view::npos) {
@@ -36,7 +36,7 @@ bool isPlaceholderKey(std::string_view key) {
   return key == "your-api-key-here" || key == "pending-registration";
 }
 
-std::vector<std::string> configFilePaths() {
+std::vector<std::string> configSearchPaths() {
   return {configFilePath(), homeDirectory() + "/.quillmark/config.toml"};
 }
 
@@ -47,21 +47,21 @@ ConfigEntries readEntries(std::string_view text) {
     const auto line = trimmedInLine(text.substr(0, end));
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
 
-    const bool isKey = line.starts_with("api_key");
-    if (!isKey && !line.starts_with("server_url")) {
+    const bool isApiKey = line.starts_with("api_key");
+    if (!isApiKey && !line.starts_with("server_url")) {
       continue;
     }
     auto value = valueOf(line);
-    if (value.empty() || (isKey && isPlaceholderKey(value))) {
+    if (value.empty() || (isApiKey && isPlaceholderKey(value))) {
       continue;
     }
-    (isKey ? entries.apiKey : entries.serverUrl) = std::move(value);
+    (isApiKey ? entries.apiKey : entries.serverUrl) = std::move(value);
   }
   return entries;
 }
 
 ConfigEntries readCurrentConfig() {
-  for (const auto& path : configFilePaths()) {
+  for (const auto& path : configSearchPaths()) {
     if (const auto text = readTextFile(path, maxConfigBytes)) {
       return readEntries(*text);
     }
