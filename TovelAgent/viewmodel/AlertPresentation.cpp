@@ -26,14 +26,14 @@ constexpr std::array severityLooks{
                  QLatin1String("yellow")},
 };
 
-constexpr SeverityLook otherLook{{}, QLatin1String("info.circle"), QLatin1String("blue")};
+constexpr SeverityLook informationLook{{}, QLatin1String("info.circle"), QLatin1String("blue")};
 
 const SeverityLook& lookOf(const QString& severity) {
   const QString lowered = severity.toLower();
   const auto* const found =
       std::find_if(severityLooks.begin(), severityLooks.end(),
                    [&](const SeverityLook& look) { return look.severity == lowered; });
-  return found == severityLooks.end() ? otherLook : *found;
+  return found == severityLooks.end() ? informationLook : *found;
 }
 
 }  // namespace

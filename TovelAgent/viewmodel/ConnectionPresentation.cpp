@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+#include <QStringList>
+
 #include "viewmodel/DisplayText.h"
 
 namespace quillmark {

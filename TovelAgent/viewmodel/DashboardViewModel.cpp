@@ -48,8 +48,8 @@ DashboardViewModel::DashboardViewModel()
 
 void DashboardViewModel::startPolling() {
   updateData();
-  // The application owns the timer, and the timer keeps the model alive. The timer of
-  // an earlier call keeps running: a view that appears twice polls twice.
+  // The application owns the timer, and the timer keeps the model alive. Each call
+  // polls on its own: earlier timers keep running.
   timer_ = new QTimer(QCoreApplication::instance());
   timer_->setTimerType(Qt::PreciseTimer);
   timer_->callOnTimeout([self = shared_from_this()] { self->updateData(); });
@@ -75,18 +75,18 @@ boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardV
   }
 
   auto* const receiver = self.get();
-  auto handOver = [self = std::move(self), result = std::move(result)]() mutable {
+  auto deliver = [self = std::move(self), result = std::move(result)]() mutable {
     self->assign(std::move(result));
   };
-  QMetaObject::invokeMethod(receiver, std::move(handOver), Qt::QueuedConnection);
+  QMetaObject::invokeMethod(receiver, std::move(deliver), Qt::QueuedConnection);
 }
 
 void DashboardViewModel::assign(PollResult result) {
-  publish(status_, result.status, &DashboardViewModel::statusChanged);
-  publish(alerts_, result.alerts, &DashboardViewModel::alertsChanged);
-  publish(networkConnections_, result.networkConnections,
+  publish(latest_.status, result.status, &DashboardViewModel::statusChanged);
+  publish(latest_.alerts, result.alerts, &DashboardViewModel::alertsChanged);
+  publish(latest_.networkConnections, result.networkConnections,
           &DashboardViewModel::networkConnectionsChanged);
-  publish(inventory_, result.inventory, &DashboardViewModel::inventoryChanged);
+  publish(latest_.inventory, result.inventory, &DashboardViewModel::inventoryChanged);
   showLists();
   // `result` now holds the old values; free them off the UI thread, because long lists
   // take too long. At shutdown a result may arrive after the executor is destroyed.
@@ -105,10 +105,11 @@ void DashboardViewModel::publish(Value& field, Value& value,
 }
 
 void DashboardViewModel::showLists() {
-  alertRows_.show(alerts_);
-  connectionRows_.show(networkConnections_);
-  appRows_.show(inventory_ ? Snapshot<std::vector<InstalledApp>>(inventory_, &inventory_->apps)
-                           : emptyList<InstalledApp>());
+  alertRows_.show(latest_.alerts);
+  connectionRows_.show(latest_.networkConnections);
+  const auto& data = latest_.inventory;
+  appRows_.show(data ? Snapshot<std::vector<InstalledApp>>(data, &data->apps)
+                     : emptyList<InstalledApp>());
   cardRows_.show(std::make_shared<const std::vector<StatsCard>>(
       statsCards(inventory(), networkConnections(), alerts())));
 }

@@ -51,23 +51,23 @@ class DashboardViewModel final : public QObject,
   /// Creates a model that has not polled yet. Its client reads the access token now.
   [[nodiscard]] static std::shared_ptr<DashboardViewModel> create();
 
-  /// Polls at once, then every 5 seconds until the process ends, which keeps the model
-  /// alive until then. Each call adds a timer and stops no earlier one.
+  /// Polls at once, then every 5 seconds until the process ends; this keeps the model
+  /// alive. Each call adds a timer and stops no earlier one.
   Q_INVOKABLE void startPolling();
 
   /// No value before the first poll, and after a poll whose request failed.
-  [[nodiscard]] const std::optional<AgentStatus>& status() const { return status_; }
+  [[nodiscard]] const std::optional<AgentStatus>& status() const { return latest_.status; }
   /// Empty when there is no value.
-  [[nodiscard]] const std::vector<ThreatAlert>& alerts() const { return *alerts_; }
+  [[nodiscard]] const std::vector<ThreatAlert>& alerts() const { return *latest_.alerts; }
   /// Empty when there is no value.
   [[nodiscard]] const std::vector<NetworkConnection>& networkConnections() const {
-    return *networkConnections_;
+    return *latest_.networkConnections;
   }
   /// Null when there is no value.
-  [[nodiscard]] const InventoryData* inventory() const { return inventory_.get(); }
+  [[nodiscard]] const InventoryData* inventory() const { return latest_.inventory.get(); }
 
-  [[nodiscard]] StatusPresentation statusPresentation() const { return present(status_); }
-  [[nodiscard]] bool hasInventory() const { return inventory_ != nullptr; }
+  [[nodiscard]] StatusPresentation statusPresentation() const { return present(latest_.status); }
+  [[nodiscard]] bool hasInventory() const { return latest_.inventory != nullptr; }
   [[nodiscard]] ListModel* alertRows() { return &alertRows_; }
   [[nodiscard]] ListModel* connectionRows() { return &connectionRows_; }
   [[nodiscard]] ListModel* appRows() { return &appRows_; }
@@ -81,7 +81,7 @@ class DashboardViewModel final : public QObject,
   void inventoryChanged();
 
  private:
-  /// The result of one poll; without values at first.
+  /// The values of one poll; none by default.
   struct PollResult {
     std::optional<AgentStatus> status;
     Snapshot<std::vector<ThreatAlert>> alerts = emptyList<ThreatAlert>();
@@ -99,12 +99,9 @@ class DashboardViewModel final : public QObject,
   template <class Value>
   void publish(Value& field, Value& value, void (DashboardViewModel::*changed)());
 
-  std::optional<AgentStatus> status_;
-  Snapshot<std::vector<ThreatAlert>> alerts_ = emptyList<ThreatAlert>();
-  Snapshot<std::vector<NetworkConnection>> networkConnections_ = emptyList<NetworkConnection>();
-  Snapshot<InventoryData> inventory_;
+  PollResult latest_;
   const std::shared_ptr<const IPCClient> client_ = std::make_shared<const IPCClient>();
-  /// The timer of the latest `startPolling`. Nothing reads it: no timer is ever stopped.
+  /// The latest timer. Nothing reads it, because none is ever stopped.
   QPointer<QTimer> timer_;
 
   SnapshotListModel<ThreatAlert> alertRows_;

@@ -9,8 +9,8 @@
 
 namespace quillmark {
 
-/// Converts UTF-8 text of the agent for display and screen readers. Longer text is
-/// cut after 16,000 characters and gets an ellipsis. Any thread.
+/// Converts UTF-8 text of the agent for display and screen readers. Text is cut after
+/// 16,000 code points and then gets an ellipsis. Any thread.
 [[nodiscard]] QString displayText(std::string_view text);
 
 }  // namespace quillmark

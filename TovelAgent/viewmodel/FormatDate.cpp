@@ -32,7 +32,7 @@ icu::Locale userLocale() {
 
 /// The user's local time, encoded as if it were UTC. The C library knows the user's
 /// time zone and notices when the machine's zone changes; ICU does not.
-UDate clockTime(const QDateTime& instant) {
+UDate localTimeAsUtc(const QDateTime& instant) {
   const auto local = instant.toLocalTime();
   return static_cast<UDate>(QDateTime(local.date(), local.time(), Qt::UTC).toMSecsSinceEpoch());
 }
@@ -46,7 +46,7 @@ QString inShortStyle(const QDateTime& instant) {
   }
   format->setTimeZone(*icu::TimeZone::getGMT());
   icu::UnicodeString text;
-  format->format(clockTime(instant), text);
+  format->format(localTimeAsUtc(instant), text);
   // ICU versions differ in which space they put before AM and PM.
   constexpr QChar narrowNoBreakSpace(0x202F);
   return QString::fromUtf16(text.getBuffer(), text.length())

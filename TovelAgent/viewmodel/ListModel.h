@@ -38,7 +38,7 @@ class ListModel : public QAbstractListModel {
   /// they are always inserted or removed at the end; a view then keeps its scroll
   /// position.
   template <class Exchange>
-  void resize(int count, Exchange exchange) {
+  void replaceRows(int count, Exchange exchange) {
     const int before = count_;
     if (count < before) {
       beginRemoveRows({}, count, before - 1);

@@ -4,6 +4,7 @@
 #include "viewmodel/SettingsState.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 #include <QTimer>
@@ -52,21 +53,21 @@ void SettingsState::setServerUrl(const QString& url) {
   }
 }
 
-void SettingsState::appear() {
+void SettingsState::refresh() {
   checkAgentStatus();
   loadCurrentConfig();
 }
 
 void SettingsState::startAgent() {
   if (const auto error = startAgentProcess()) {
-    failWith(error);
+    reportError(error);
   }
   checkAgentStatusLater(probeAfterStartMs);
 }
 
 void SettingsState::stopAgent() {
   if (const auto error = stopAgentProcess()) {
-    failWith(error);
+    reportError(error);
   }
   checkAgentStatusLater(probeAfterStopMs);
 }
@@ -75,7 +76,7 @@ void SettingsState::checkAgentStatus() {
   boost::system::error_code error;
   const bool isRunning = probeAgentProcess(error);
   if (error) {
-    failWith(error);
+    reportError(error);
   }
   if (isRunning != isAgentRunning_) {
     isAgentRunning_ = isRunning;
@@ -108,9 +109,9 @@ void SettingsState::loadCurrentConfig() {
 
 void SettingsState::saveApiKey() {
   if (const auto error = saveConfig(serverUrl_.toStdString(), apiKeyInput_.toStdString())) {
-    failWith(error);
+    reportError(error);
   } else {
-    succeed(QStringLiteral("✅ Config saved! Restart the agent to connect."));
+    report(QStringLiteral("✅ Config saved! Restart the agent to connect."), true);
   }
 }
 
@@ -126,34 +127,27 @@ void SettingsState::importConfig(const QString& path) {
   const auto result = importConfigFile(QFile::encodeName(path).toStdString());
   switch (result.outcome) {
     case ImportResult::Outcome::imported:
-      succeed(QStringLiteral(
-          "✅ Config imported successfully! Close and reopen the agent to apply changes."));
+      report(QStringLiteral(
+                 "✅ Config imported successfully! Close and reopen the agent to apply changes."),
+             true);
       break;
     case ImportResult::Outcome::missingAgentSection:
-      fail(QStringLiteral("❌ Invalid config: missing [agent] section"));
+      report(QStringLiteral("❌ Invalid config: missing [agent] section"), false);
       break;
     case ImportResult::Outcome::failed:
-      failWith(result.error);
+      reportError(result.error);
       break;
   }
 }
 
-void SettingsState::succeed(const QString& message) {
+void SettingsState::report(const QString& message, bool isSuccess) {
   statusMessage_ = message;
-  showSuccess_ = true;
-  showError_ = false;
+  showSuccess_ = isSuccess;
   Q_EMIT statusChanged();
 }
 
-void SettingsState::fail(const QString& message) {
-  statusMessage_ = message;
-  showSuccess_ = false;
-  showError_ = true;
-  Q_EMIT statusChanged();
-}
-
-void SettingsState::failWith(const boost::system::error_code& error) {
-  fail(QStringLiteral("❌ Error: ") + QString::fromStdString(error.message()));
+void SettingsState::reportError(const boost::system::error_code& error) {
+  report(QStringLiteral("❌ Error: ") + QString::fromStdString(error.message()), false);
 }
 
 }  // namespace quillmark

@@ -13,8 +13,7 @@
 namespace quillmark {
 
 /// The Settings tab's state and the actions of its buttons. It exists as long as
-/// the tab's view. UI thread only; stopping, probing and saving block that thread
-/// until they are done.
+/// the tab's view. UI thread only; every operation blocks that thread.
 class SettingsState : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -37,12 +36,13 @@ class SettingsState : public QObject {
   using QObject::QObject;
 
   [[nodiscard]] QString configPath() const { return configPath_; }
-  /// The name of the chosen file, without its folder.
+  /// "Selected: " and the name of the chosen file.
   [[nodiscard]] QString selectedFileLine() const;
   [[nodiscard]] QString statusMessage() const { return statusMessage_; }
+  /// Constant, like `agentStatusText`; no view shows them.
   [[nodiscard]] bool isImporting() const { return isImporting_; }
   [[nodiscard]] bool showSuccess() const { return showSuccess_; }
-  [[nodiscard]] bool showError() const { return showError_; }
+  [[nodiscard]] bool showError() const { return !statusMessage_.isEmpty() && !showSuccess_; }
   [[nodiscard]] QString apiKeyInput() const { return apiKeyInput_; }
   void setApiKeyInput(const QString& key);
   [[nodiscard]] bool canSave() const { return !apiKeyInput_.isEmpty(); }
@@ -57,10 +57,10 @@ class SettingsState : public QObject {
   [[nodiscard]] QString agentStatusLine() const;
 
   /// Call when the tab becomes visible: probes, then reads the configuration back.
-  Q_INVOKABLE void appear();
+  Q_INVOKABLE void refresh();
   /// Starts the agent, and probes 2 seconds later.
   Q_INVOKABLE void startAgent();
-  /// Stops every agent process, and probes 1 second later.
+  /// Runs the stop command, and probes 1 second later.
   Q_INVOKABLE void stopAgent();
   /// Writes the configuration from the two fields.
   Q_INVOKABLE void saveApiKey();
@@ -82,15 +82,13 @@ class SettingsState : public QObject {
   void checkAgentStatusLater(int milliseconds);
   void loadCurrentConfig();
   void importConfig(const QString& path);
-  void succeed(const QString& message);
-  void fail(const QString& message);
-  void failWith(const boost::system::error_code& error);
+  void report(const QString& message, bool isSuccess);
+  void reportError(const boost::system::error_code& error);
 
   QString configPath_;
   QString statusMessage_;
   const bool isImporting_ = false;
   bool showSuccess_ = false;
-  bool showError_ = false;
   QString apiKeyInput_;
   QString serverUrl_ = defaultServerUrl();
   const QString agentStatusText_ = QStringLiteral("Checking...");

@@ -31,7 +31,8 @@ class SnapshotListModel final : public ListModel {
   void show(Rows rows) {
     const int before = count();
     const int after = static_cast<int>(std::min(rows->size(), maxRows_));
-    resize(after, [&] { std::swap(rows_, rows); });
+    replaceRows(after, [&] { std::swap(rows_, rows); });
+    // `rows` now holds the old rows.
     announceChanges(*rows, std::min(before, after));
     if (after != before) {
       Q_EMIT countChanged();

@@ -15,7 +15,7 @@ StatusPresentation present(const std::optional<AgentStatus>& status) {
   header.status = status ? displayText(status->status).toUpper() : QStringLiteral("OFFLINE");
   header.statusIsHealthy = status && status->status == "ok";
   header.threats = QString::number(threatCount);
-  header.threatsAreHealthy = threatCount == 0;
+  header.hasNoThreats = threatCount == 0;
   header.hasLastScan = status.has_value();
   header.lastScan = status ? formatDate(displayText(status->last_scan)) : QString();
   return header;

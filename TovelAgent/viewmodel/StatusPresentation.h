@@ -12,14 +12,14 @@
 
 namespace quillmark {
 
-/// What the header shows of the agent's status, or when there is no status.
+/// What the header shows, with or without a status of the agent.
 struct StatusPresentation {
   Q_GADGET
   QML_VALUE_TYPE(statusPresentation)
   Q_PROPERTY(QString status MEMBER status CONSTANT)
   Q_PROPERTY(bool statusIsHealthy MEMBER statusIsHealthy CONSTANT)
   Q_PROPERTY(QString threats MEMBER threats CONSTANT)
-  Q_PROPERTY(bool threatsAreHealthy MEMBER threatsAreHealthy CONSTANT)
+  Q_PROPERTY(bool hasNoThreats MEMBER hasNoThreats CONSTANT)
   Q_PROPERTY(bool hasLastScan MEMBER hasLastScan CONSTANT)
   Q_PROPERTY(QString lastScan MEMBER lastScan CONSTANT)
 
@@ -27,9 +27,9 @@ struct StatusPresentation {
   QString status;                ///< upper-cased, or "OFFLINE"
   bool statusIsHealthy = false;  ///< whether the text as received is exactly "ok"
   QString threats;               ///< a plain decimal integer
-  bool threatsAreHealthy = false;
-  bool hasLastScan = false;
-  QString lastScan;
+  bool hasNoThreats = false;
+  bool hasLastScan = false;  ///< true also for an empty text
+  QString lastScan;          ///< formatted, or the text as received
 };
 
 [[nodiscard]] StatusPresentation present(const std::optional<AgentStatus>& status);

@@ -76,7 +76,7 @@ Item {
 
                 title: "Threats"
                 value: header.status.threats
-                isHealthy: header.status.threatsAreHealthy
+                isHealthy: header.status.hasNoThreats
             }
         }
     }

@@ -15,7 +15,7 @@ Rectangle {
     SettingsState {
         id: settings
 
-        Component.onCompleted: appear()
+        Component.onCompleted: refresh()
         onPickerRequested: picker.setSource("ConfigFilePicker.qml", {
             settings: settings,
             opener: advanced.browse

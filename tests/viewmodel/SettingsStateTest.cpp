@@ -63,7 +63,7 @@ TEST_F(SettingsStateTest, HasDefaultsAtFirst) {
 
 TEST_F(SettingsStateTest, ReadsTheConfigurationBackWhenTheTabAppears) {
   writeFile(configFile(), "api_key = 'k'\nserver_url = 'https://s.example'\n");
-  state.appear();
+  state.refresh();
   EXPECT_EQ(state.apiKeyInput(), "k");
   EXPECT_EQ(state.serverUrl(), "https://s.example");
   EXPECT_EQ(state.configPath(), "");
@@ -72,7 +72,7 @@ TEST_F(SettingsStateTest, ReadsTheConfigurationBackWhenTheTabAppears) {
 
 TEST_F(SettingsStateTest, KeepsItsFieldsWithoutAConfiguration) {
   state.setApiKeyInput(QStringLiteral("typed"));
-  state.appear();
+  state.refresh();
   EXPECT_EQ(state.apiKeyInput(), "typed");
   EXPECT_EQ(state.serverUrl(), SettingsState::defaultServerUrl());
 }

@@ -62,14 +62,14 @@ TEST_F(SettingsTimes, LookForAnAgentTwoSecondsAfterStart) {
 
 TEST_F(SettingsTimes, LookForAnAgentOneSecondAfterStop) {
   startAnAgent();
-  state.appear();
+  state.refresh();
   EXPECT_EQ(orderAround(1s, &SettingsState::stopAgent), exact);
   EXPECT_FALSE(state.isAgentRunning());
 }
 
 TEST_F(SettingsTimes, FindTheAgentAsSoonAsTheTabAppears) {
   startAnAgent();
-  state.appear();
+  state.refresh();
   EXPECT_TRUE(state.isAgentRunning());
 }
 

@@ -25,7 +25,7 @@ TEST(StatusPresentation, IsOfflineWithoutThreatsIfThereIsNoStatus) {
   EXPECT_EQ(header.status, QStringLiteral("OFFLINE"));
   EXPECT_FALSE(header.statusIsHealthy);
   EXPECT_EQ(header.threats, QStringLiteral("0"));
-  EXPECT_TRUE(header.threatsAreHealthy);
+  EXPECT_TRUE(header.hasNoThreats);
   EXPECT_FALSE(header.hasLastScan);
   EXPECT_TRUE(header.lastScan.isEmpty());
 }
@@ -75,7 +75,7 @@ class ThreatCountTest : public testing::TestWithParam<ThreatCount> {};
 TEST_P(ThreatCountTest, IsAPlainIntegerAndHealthyAtZeroOnly) {
   const auto header = presentCount(GetParam().count);
   EXPECT_EQ(header.threats, GetParam().shown);
-  EXPECT_EQ(header.threatsAreHealthy, GetParam().isHealthy);
+  EXPECT_EQ(header.hasNoThreats, GetParam().isHealthy);
 }
 
 INSTANTIATE_TEST_SUITE_P(Counts, ThreatCountTest,
@@ -110,7 +110,7 @@ TEST(StatusPresentation, FormatsALastScanThatIsATime) {
 TEST(StatusPresentation, DoesNotJudgeByProtectionOrLastAlert) {
   const auto header = present(AgentStatus{false, 0, "malware", "ok", ""});
   EXPECT_TRUE(header.statusIsHealthy);
-  EXPECT_TRUE(header.threatsAreHealthy);
+  EXPECT_TRUE(header.hasNoThreats);
 }
 
 }  // namespace

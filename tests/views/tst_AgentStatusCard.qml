@@ -43,7 +43,7 @@ SettingsCardTest {
         verify(home.startAgent());
         // The card shows the result of the last search.
         tryVerify(() => {
-            settings.appear();
+            settings.refresh();
             return settings.isAgentRunning;
         }, patience);
         settle(view);
