@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A filled button with an icon and a text. When disabled, the keyboard skips it.
+/// A filled button with an icon and a text.
 Pressable {
     id: button
 

@@ -43,7 +43,7 @@ QSGNode* Box::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/) {
       .radius = std::min(radius_ * ratio, std::min(size.width(), size.height()) / 2.0),
       .borderWidth = pixels(borderWidth_, ratio),
       .borderColor = borderColor_,
-      .softness = softness_ * ratio,
+      .shadowBlur = shadowBlur_ * ratio,
   };
   auto* const box = node != nullptr ? static_cast<BoxNode*>(node) : new BoxNode(*window());
   box->show(size, look, ratio);

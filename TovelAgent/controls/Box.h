@@ -11,8 +11,8 @@ namespace quillmark {
 
 /// A box with round corners, drawn in device pixels: at every scale its corners
 /// are equal, and its border has the same thickness on all sides. Qt's software
-/// renderer aligns to whole units of the scene only and draws them unequal. UI
-/// thread only.
+/// renderer aligns to whole units of the scene only and draws them unequal. Lengths
+/// are in scene units. UI thread only.
 class Box : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
@@ -20,9 +20,9 @@ class Box : public QQuickItem {
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY lookChanged)
   Q_PROPERTY(qreal borderWidth MEMBER borderWidth_ NOTIFY lookChanged)
   Q_PROPERTY(QColor borderColor MEMBER borderColor_ NOTIFY lookChanged)
-  /// The blur radius, in scene units. Above 0, the box's shadow is drawn instead
-  /// of the box. It extends beyond the item by twice this radius.
-  Q_PROPERTY(qreal softness MEMBER softness_ NOTIFY lookChanged)
+  /// The blur radius. Above 0, the box's shadow is drawn instead of the box. It
+  /// extends beyond the item by twice this radius.
+  Q_PROPERTY(qreal shadowBlur MEMBER shadowBlur_ NOTIFY lookChanged)
 
  public:
   explicit Box(QQuickItem* parent = nullptr);
@@ -39,7 +39,7 @@ class Box : public QQuickItem {
   qreal radius_ = 0;
   qreal borderWidth_ = 0;
   QColor borderColor_ = Qt::black;
-  qreal softness_ = 0;
+  qreal shadowBlur_ = 0;
 };
 
 }  // namespace quillmark

@@ -23,14 +23,14 @@ QPointF origin(const QSGNode& node) {
 
 BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNinePatchNode()) {
   setFlag(UsePreprocess);
-  // With OpenGL the node has no device pixel ratio by default.
+  // Not set by default with OpenGL.
   patch_->setDevicePixelRatio(1);
   appendChildNode(patch_);
 }
 
 void BoxNode::show(QSize box, const BoxLook& look, qreal ratio) {
   const BoxPicture picture(look, box);
-  if (picture.size != drawn_ || !(look == look_)) {
+  if (picture.size != textureSize_ || !(look == look_)) {
     look_ = look;
     draw(picture);
   }
@@ -53,7 +53,7 @@ void BoxNode::preprocess() {
 }
 
 void BoxNode::draw(const BoxPicture& picture) {
-  drawn_ = picture.size;
+  textureSize_ = picture.size;
   patch_->setTexture(window_.createTextureFromImage(drawBox(look_, picture)));
   const auto& corners = picture.corners;
   patch_->setPadding(corners.left(), corners.top(), corners.right(), corners.bottom());

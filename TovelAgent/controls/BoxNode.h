@@ -21,6 +21,7 @@ class BoxNode final : public QSGTransformNode {
   /// pixels per scene unit.
   void show(QSize box, const BoxLook& look, qreal ratio);
 
+  /// Aligns the box before each frame.
   void preprocess() override;
 
  private:
@@ -29,7 +30,7 @@ class BoxNode final : public QSGTransformNode {
   QQuickWindow& window_;
   QSGNinePatchNode* const patch_;  ///< owned by this node, as a child
   BoxLook look_;
-  QSize drawn_;
+  QSize textureSize_;
   qreal ratio_ = 1;
 };
 

@@ -13,12 +13,12 @@
 namespace quillmark {
 namespace {
 
-// The opacity that each layer of a shadow adds, from the box's edge outwards.
+// The opacity of each layer of a shadow, the smallest layer first.
 // Each layer extends beyond the previous one by half the blur radius.
 constexpr std::array shadowSteps{0.22, 0.17, 0.1, 0.05};
 
 qreal spread(const BoxLook& look, std::size_t step) {
-  return static_cast<qreal>(step + 1) * look.softness / 2;
+  return static_cast<qreal>(step + 1) * look.shadowBlur / 2;
 }
 
 void drawShadow(QPainter& painter, const BoxLook& look, const QRectF& box) {
@@ -65,7 +65,7 @@ QImage drawBox(const BoxLook& look, const BoxPicture& picture) {
   painter.setPen(Qt::NoPen);
   const auto reach = picture.reach;
   const auto box = QRectF(image.rect()).adjusted(reach, reach, -reach, -reach);
-  if (look.softness > 0) {
+  if (look.shadowBlur > 0) {
     drawShadow(painter, look, box);
   } else {
     drawPlain(painter, look, box);

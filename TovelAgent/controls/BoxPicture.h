@@ -16,13 +16,13 @@ struct BoxLook {
   qreal radius = 0;  ///< at most half of the box's shorter side
   int borderWidth = 0;
   QColor borderColor;
-  qreal softness = 0;  ///< above 0, the box is a shadow of this blur radius
+  qreal shadowBlur = 0;  ///< above 0, the box is a shadow of this blur radius
 
   bool operator==(const BoxLook&) const = default;
 };
 
-/// The smallest nine-patch picture of a box: stretching the part between its
-/// corners gives any larger size. All lengths are device pixels.
+/// The size and corners of the smallest nine-patch picture of a box: stretching the
+/// part between its corners gives any larger size. All lengths are device pixels.
 struct BoxPicture {
   BoxPicture(const BoxLook& look, QSize box);
 
@@ -31,7 +31,7 @@ struct BoxPicture {
   int reach = 0;     ///< how far the picture extends beyond the box on each side
 };
 
-/// Draws `look` as a picture of `picture`'s size.
+/// The image of `picture`, drawn as `look` says.
 [[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPicture& picture);
 
 }  // namespace quillmark

@@ -3,7 +3,7 @@
 
 import QtQuick
 
-/// What a tab shows instead of an empty list.
+/// Shown instead of an empty list.
 Rectangle {
     id: state
 

@@ -8,8 +8,8 @@
 namespace quillmark {
 namespace {
 
-/// Whether the focus only returns to the item: its origin stays the same then.
-bool isReturn(Qt::FocusReason reason) {
+/// Whether `reason` says nothing about the origin, which then stays the same.
+bool keepsOrigin(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
          reason == Qt::OtherFocusReason;
 }
@@ -29,10 +29,10 @@ void FocusOrigin::setTarget(QQuickItem* target) {
 bool FocusOrigin::eventFilter(QObject* watched, QEvent* event) {
   if (watched == target_ && event->type() == QEvent::FocusIn) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    const bool isPointer = isReturn(reason) ? isPointer_ : reason == Qt::MouseFocusReason;
-    if (isPointer != isPointer_) {
-      isPointer_ = isPointer;
-      Q_EMIT isPointerChanged();
+    const bool fromPointer = keepsOrigin(reason) ? fromPointer_ : reason == Qt::MouseFocusReason;
+    if (fromPointer != fromPointer_) {
+      fromPointer_ = fromPointer;
+      Q_EMIT fromPointerChanged();
     }
   }
   return QObject::eventFilter(watched, event);

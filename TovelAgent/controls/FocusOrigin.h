@@ -16,7 +16,7 @@ class FocusOrigin : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QQuickItem* target READ target WRITE setTarget REQUIRED)
-  Q_PROPERTY(bool isPointer READ isPointer NOTIFY isPointerChanged)
+  Q_PROPERTY(bool fromPointer READ fromPointer NOTIFY fromPointerChanged)
 
  public:
   using QObject::QObject;
@@ -24,16 +24,16 @@ class FocusOrigin : public QObject {
   [[nodiscard]] QQuickItem* target() const { return target_; }
   void setTarget(QQuickItem* target);
 
-  [[nodiscard]] bool isPointer() const { return isPointer_; }
+  [[nodiscard]] bool fromPointer() const { return fromPointer_; }
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
  Q_SIGNALS:
-  void isPointerChanged();
+  void fromPointerChanged();
 
  private:
   QPointer<QQuickItem> target_;
-  bool isPointer_ = false;
+  bool fromPointer_ = false;
 };
 
 }  // namespace quillmark

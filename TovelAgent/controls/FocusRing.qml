@@ -16,7 +16,7 @@ Box {
     anchors.fill: parent
     // Whole device pixels, or the margins would differ from side to side.
     anchors.margins: Math.round(inset * Screen.devicePixelRatio) / Screen.devicePixelRatio
-    visible: target.activeFocus && !origin.isPointer
+    visible: target.activeFocus && !origin.fromPointer
     color: "transparent"
     radius: Theme.focusRadius
     borderWidth: 2

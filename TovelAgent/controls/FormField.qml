@@ -28,6 +28,7 @@ Column {
     component Entry: TextInput {
         id: entry
 
+        // The real text, which `text` below shadows.
         property alias content: entry.text
     }
 

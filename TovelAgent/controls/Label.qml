@@ -6,8 +6,6 @@ import QtQuick
 /// A plain text: markup in it is never interpreted, wherever the text comes from.
 /// It wraps at the label's width.
 Text {
-    id: label
-
     property int size: Theme.bodySize
 
     textFormat: Text.PlainText

@@ -12,7 +12,7 @@ bool isTextEvent(const QAccessibleEvent& event) {
 }
 
 void forwardUnlessMasked(QAccessibleEvent* event) {
-  if (tellsMaskedText(*event)) {
+  if (containsMaskedText(*event)) {
     return;
   }
   // Without a handler Qt forwards the event to the platform.
@@ -23,7 +23,7 @@ void forwardUnlessMasked(QAccessibleEvent* event) {
 
 }  // namespace
 
-bool tellsMaskedText(const QAccessibleEvent& event) {
+bool containsMaskedText(const QAccessibleEvent& event) {
   if (!isTextEvent(event)) {
     return false;
   }
@@ -31,6 +31,6 @@ bool tellsMaskedText(const QAccessibleEvent& event) {
   return source != nullptr && source->state().passwordEdit;
 }
 
-void silenceMaskedText() { QAccessible::installUpdateHandler(forwardUnlessMasked); }
+void hideMaskedText() { QAccessible::installUpdateHandler(forwardUnlessMasked); }
 
 }  // namespace quillmark

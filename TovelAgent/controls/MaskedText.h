@@ -8,11 +8,11 @@
 namespace quillmark {
 
 /// Whether `event` contains the text of a masked field. UI thread.
-[[nodiscard]] bool tellsMaskedText(const QAccessibleEvent& event);
+[[nodiscard]] bool containsMaskedText(const QAccessibleEvent& event);
 
-/// Hides the text of masked fields from assistive technology: Qt's text events
+/// Keeps the text of masked fields out of accessibility events: Qt's text events
 /// contain the text itself, even if the field shows dots. In effect until the
 /// program ends; UI thread.
-void silenceMaskedText();
+void hideMaskedText();
 
 }  // namespace quillmark

@@ -11,8 +11,8 @@ Label {
 
     /// The width of its longest line, with room for the ellipsis after the last one.
     /// At least 1: an elided text without a width has no height either.
-    readonly property real naturalWidth: Math.max(1, ruler.implicitWidth + ellipsis)
-    readonly property real ellipsis: ruler.lineCount > maximumLineCount ? size : 0
+    readonly property real naturalWidth: Math.max(1, ruler.implicitWidth + ellipsisWidth)
+    readonly property real ellipsisWidth: ruler.lineCount > maximumLineCount ? size : 0
 
     Text {
         id: ruler

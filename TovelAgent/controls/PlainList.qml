@@ -16,7 +16,7 @@ ListView {
     pixelAligned: true
     reuseItems: true
     activeFocusOnTab: true
-    // Rows cannot be selected, and a highlight would cost frames at start.
+    // Rows cannot be selected, and a highlight would slow down the first frames.
     keyNavigationEnabled: false
     currentIndex: -1
 

@@ -40,7 +40,7 @@ Item {
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
-        // The difference to 1 is invisible. The renderer assumes that an opaque box
+        // The difference from 1 is invisible. The renderer assumes that an opaque box
         // covers every pixel it touches, and leaves partly covered ones unpainted.
         opacity: 0.999
     }

@@ -10,8 +10,8 @@ Item {
 
     required property string label
     property int focusInset: 1
-    /// Whether a click takes the keyboard focus. False for controls that replace a
-    /// part of the desktop: a click on one must leave the focus where it was.
+    /// Whether a click takes the keyboard focus. False for the window's own
+    /// buttons, which must leave the focus where it was.
     property bool takesFocus: true
     readonly property bool hovered: hover.hovered
 
@@ -23,7 +23,7 @@ Item {
             pressed();
     }
 
-    // Qt reports this value to assistive technology even for a disabled item.
+    // Qt reports an item as focusable by this value, even a disabled one.
     activeFocusOnTab: enabled
 
     Keys.onSpacePressed: event => pressBy(event)

@@ -42,17 +42,19 @@ MouseArea {
     Box {
         id: thumb
 
-        readonly property real way: bar.height - 2 * bar.margin - height
-        readonly property real share: bar.target.visibleArea.yPosition / (1 - bar.target.visibleArea.heightRatio)
+        readonly property real travel: bar.height - 2 * bar.margin - height
+        readonly property real fraction: bar.target.visibleArea.yPosition
+                                         / Math.max(Number.EPSILON, 1 - bar.target.visibleArea.heightRatio)
 
         function moveTo(top: real) {
-            bar.scroller.scrollToShare((top - bar.margin) / way);
+            if (travel > 0)
+                bar.scroller.scrollToFraction((top - bar.margin) / travel);
         }
 
         // Stays clear of the window's edge, where a drag resizes the window.
         x: bar.margin
         width: bar.width - bar.margin - 5
-        y: bar.margin + Math.max(0, Math.min(1, share)) * way
+        y: bar.margin + Math.max(0, Math.min(1, fraction)) * travel
         height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * bar.margin))
         radius: width / 2
         color: bar.pressed || bar.containsMouse ? Theme.gray : Theme.scrollBar

@@ -28,6 +28,8 @@ Flickable {
 
     Accessible.role: Accessible.Pane
     Accessible.name: label
+    Accessible.focusable: activeFocusOnTab
+    Accessible.focused: activeFocus
     Accessible.onScrollUpAction: scroller.scrollLines(-1)
     Accessible.onScrollDownAction: scroller.scrollLines(1)
     Accessible.onPreviousPageAction: scroller.scrollPages(-1)

@@ -14,7 +14,7 @@ namespace {
 constexpr qreal lineStep = 40;
 // The part of a page that stays in view, so that the reader finds the place again.
 constexpr qreal pageOverlap = 40;
-// The distance between the item and the edge, so that its label is visible as well.
+// Kept free around a revealed item, so that its label is visible as well.
 constexpr qreal margin = 32;
 
 }  // namespace
@@ -25,13 +25,13 @@ void Scroller::setTarget(QQuickItem* target) {
     target_->disconnect(this);
   }
   target_ = target;
+  watch(target_ ? target_->window() : nullptr);
   if (target_) {
     target_->installEventFilter(this);
     connect(target_, &QQuickItem::windowChanged, this, &Scroller::watch);
     connect(target_, &QQuickItem::heightChanged, this, &Scroller::keepInView);
     // Connected by name, because Flickable's C++ class is not public.
     connect(target_, SIGNAL(contentHeightChanged()), this, SLOT(keepInView()));
-    watch(target_->window());
   }
 }
 
@@ -53,14 +53,15 @@ void Scroller::reveal(QQuickItem* item) {
 }
 
 void Scroller::keepInView() {
-  const auto* const content = target_->property("contentItem").value<QQuickItem*>();
+  const auto* const content =
+      target_ ? target_->property("contentItem").value<QQuickItem*>() : nullptr;
   if (content == nullptr || !item_ || !content->isAncestorOf(item_)) {
     return;
   }
   const auto place = item_->mapRectToItem(content, item_->boundingRect());
-  const auto lowest = place.top() - margin;
-  const auto highest = place.bottom() + margin - target_->height();
-  scrollTo(std::min(std::max(position(), highest), lowest));
+  const auto maxPosition = place.top() - margin;
+  const auto minPosition = place.bottom() + margin - target_->height();
+  scrollTo(std::min(std::max(position(), minPosition), maxPosition));
 }
 
 bool Scroller::eventFilter(QObject* watched, QEvent* event) {
@@ -72,10 +73,10 @@ bool Scroller::eventFilter(QObject* watched, QEvent* event) {
   }
   const auto* const press = static_cast<QKeyEvent*>(event);
   const auto modifiers = press->modifiers() & ~Qt::KeypadModifier;
-  return modifiers == Qt::NoModifier && scroll(press->key());
+  return modifiers == Qt::NoModifier && handleKey(press->key());
 }
 
-bool Scroller::scroll(int key) {
+bool Scroller::handleKey(int key) {
   switch (key) {
     case Qt::Key_Up:
       scrollLines(-1);
@@ -103,10 +104,10 @@ bool Scroller::scroll(int key) {
 void Scroller::scrollLines(int count) { scrollTo(position() + count * lineStep); }
 
 void Scroller::scrollPages(int count) {
-  scrollTo(position() + count * std::max(lineStep, target_->height() - pageOverlap));
+  scrollTo(position() + count * std::max(lineStep, valueOf("height") - pageOverlap));
 }
 
-void Scroller::scrollToShare(qreal share) { scrollTo(std::lerp(top(), bottom(), share)); }
+void Scroller::scrollToFraction(qreal fraction) { scrollTo(std::lerp(top(), bottom(), fraction)); }
 
 void Scroller::scrollToEnd() {
   // A list view only estimates the height of rows that it has not created yet.
@@ -117,17 +118,22 @@ void Scroller::scrollToEnd() {
   }
 }
 
-qreal Scroller::position() const { return target_->property("contentY").toReal(); }
+qreal Scroller::valueOf(const char* name) const {
+  return target_ ? target_->property(name).toReal() : 0;
+}
 
-qreal Scroller::top() const { return target_->property("originY").toReal(); }
+qreal Scroller::position() const { return valueOf("contentY"); }
+
+qreal Scroller::top() const { return valueOf("originY"); }
 
 qreal Scroller::bottom() const {
-  const auto height = target_->property("contentHeight").toReal();
-  return top() + std::max(0.0, height - target_->height());
+  return top() + std::max(0.0, valueOf("contentHeight") - valueOf("height"));
 }
 
 void Scroller::scrollTo(qreal position) {
-  target_->setProperty("contentY", std::clamp(position, top(), bottom()));
+  if (target_) {
+    target_->setProperty("contentY", std::clamp(position, top(), bottom()));
+  }
 }
 
 }  // namespace quillmark

@@ -11,11 +11,11 @@
 
 namespace quillmark {
 
-/// Scrolls a Flickable or list, and knows how far it can scroll. A target that has
-/// the focus scrolls by keyboard: arrows by a step, Page Up and Page Down by a page,
-/// Home and End to the ends; a click on it gives it the focus. An item inside the
-/// target that gets the focus is scrolled into view and kept there when the view or
-/// its content changes size. UI thread only.
+/// Scrolls a Flickable or list. A target that has the focus scrolls by keyboard:
+/// arrows by a line, Page Up and Page Down by a page, Home and End to the ends; a
+/// click on it gives it the focus. An item inside the target that gets the focus is
+/// scrolled into view and kept there when the view or its content changes size. UI
+/// thread only.
 class Scroller : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -27,15 +27,15 @@ class Scroller : public QObject {
   [[nodiscard]] QQuickItem* target() const { return target_; }
   void setTarget(QQuickItem* target);
 
-  /// Scroll by steps or pages: down if `count` is positive, never past an end.
+  /// Scroll by lines or pages: down if `count` is positive, never past an end.
   Q_INVOKABLE void scrollLines(int count);
   Q_INVOKABLE void scrollPages(int count);
 
-  /// Scrolls to a part of the way: 0 is the top and 1 is the bottom.
-  Q_INVOKABLE void scrollToShare(qreal share);
+  /// Scrolls to a fraction of the range: 0 is the top and 1 is the bottom.
+  Q_INVOKABLE void scrollToFraction(qreal fraction);
 
-  /// Scrolls until `item`, which must be inside the target, is in view, and keeps it
-  /// there until another item gets the focus.
+  /// Scrolls until `item` is in view, and keeps it there until another item gets the
+  /// focus. Items outside the target are ignored.
   Q_INVOKABLE void reveal(QQuickItem* item);
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,8 +46,9 @@ class Scroller : public QObject {
  private:
   void watch(QQuickWindow* window);
   void followFocus();
-  [[nodiscard]] bool scroll(int key);
+  [[nodiscard]] bool handleKey(int key);
   void scrollToEnd();
+  [[nodiscard]] qreal valueOf(const char* name) const;
   [[nodiscard]] qreal position() const;
   [[nodiscard]] qreal top() const;
   [[nodiscard]] qreal bottom() const;

@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A titled card of the Settings tab.
+/// A titled card with an icon.
 Box {
     id: card
 

@@ -7,5 +7,5 @@ import Quillmark.Controls
 /// The shadow of a box with the same geometry and corner radius.
 Box {
     color: Qt.alpha(Theme.shadow, Theme.shadowOpacity)
-    softness: Theme.shadowRadius
+    shadowBlur: Theme.shadowRadius
 }

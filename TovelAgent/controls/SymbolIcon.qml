@@ -13,12 +13,12 @@ Image {
     property int size: Theme.bodySize
     property color color: Theme.text
 
-    // Even numbers keep the drawing's straight strokes on whole pixels.
+    // At a scale of 1, even numbers keep the drawing's straight strokes on whole pixels.
     readonly property int side: 2 * Math.round(0.6 * size)
 
     width: side
     height: side
     sourceSize.width: side
     sourceSize.height: side
-    source: IconAddress.of(name, color)
+    source: IconUrl.of(name, color)
 }

@@ -28,7 +28,7 @@ QtObject {
     readonly property color separator: "#E3E5EA"
     readonly property color windowBorder: "#B9BDC6"
     readonly property color windowGlyph: gray
-    readonly property color windowGlyphHover: "#E9EBEF"
+    readonly property color windowButtonHover: "#E9EBEF"
     readonly property color scrollBar: "#858A94"
     readonly property color shadow: "#000000"
     readonly property real shadowOpacity: 0.33

@@ -13,8 +13,8 @@ namespace quillmark {
 /// 1.5 many values are halfway between two pixels, plus or minus a floating-point
 /// error. All of these round up, so that edges at the same place stay together.
 [[nodiscard]] inline int wholePixels(qreal pixels) {
-  constexpr qreal middle = 0.5 + 1.0 / 64;
-  return static_cast<int>(std::floor(pixels + middle));
+  constexpr qreal roundingOffset = 0.5 + 1.0 / 64;
+  return static_cast<int>(std::floor(pixels + roundingOffset));
 }
 
 }  // namespace quillmark

@@ -14,7 +14,7 @@ namespace quillmark {
 
 void prepareForViews(QQmlEngine& engine) {
   fixControlsStyle();
-  silenceMaskedText();
+  hideMaskedText();
   static NetworkRefusal refusal;
   engine.setNetworkAccessManagerFactory(&refusal);
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -18,7 +18,7 @@ Pressable {
         anchors.fill: parent
         anchors.margins: 1
         radius: Theme.focusRadius
-        color: Theme.windowGlyphHover
+        color: Theme.windowButtonHover
         visible: button.hovered
     }
 

@@ -161,7 +161,7 @@ TEST_P(BoxTest, FollowsItsProperties) {
                                                               {"radius", 9},
                                                               {"borderWidth", 3},
                                                               {"borderColor", QColor("blue")},
-                                                              {"softness", 2}};
+                                                              {"shadowBlur", 2}};
   for (const auto& [name, value] : changes) {
     const auto before = drawn();
     box()->setProperty(name, value);

@@ -28,11 +28,11 @@ class MaskedTextTest : public testing::Test {
 
   void expectTextIsMasked(bool isMaskedText) const {
     const auto text = QStringLiteral("a");
-    EXPECT_EQ(tellsMaskedText(QAccessibleTextInsertEvent(field_.get(), 0, text)), isMaskedText);
-    EXPECT_EQ(tellsMaskedText(QAccessibleTextRemoveEvent(field_.get(), 0, text)), isMaskedText);
-    EXPECT_EQ(tellsMaskedText(QAccessibleTextUpdateEvent(field_.get(), 0, text, text)),
+    EXPECT_EQ(containsMaskedText(QAccessibleTextInsertEvent(field_.get(), 0, text)), isMaskedText);
+    EXPECT_EQ(containsMaskedText(QAccessibleTextRemoveEvent(field_.get(), 0, text)), isMaskedText);
+    EXPECT_EQ(containsMaskedText(QAccessibleTextUpdateEvent(field_.get(), 0, text, text)),
               isMaskedText);
-    EXPECT_FALSE(tellsMaskedText(QAccessibleTextCursorEvent(field_.get(), 1)));
+    EXPECT_FALSE(containsMaskedText(QAccessibleTextCursorEvent(field_.get(), 1)));
   }
 
  private:
@@ -52,7 +52,7 @@ TEST_F(MaskedTextTest, IsNotTextOfAnotherField) {
 
 TEST_F(MaskedTextTest, IsNotTextOfOtherObjects) {
   QObject object;
-  EXPECT_FALSE(tellsMaskedText(QAccessibleTextInsertEvent(&object, 0, QStringLiteral("a"))));
+  EXPECT_FALSE(containsMaskedText(QAccessibleTextInsertEvent(&object, 0, QStringLiteral("a"))));
 }
 
 }  // namespace

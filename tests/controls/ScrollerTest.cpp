@@ -9,6 +9,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickWindow>
 
 #include <gtest/gtest.h>
 
@@ -114,7 +115,7 @@ TEST_F(ScrollerTest, DoesNothingWhereAllFits) {
 TEST_F(ScrollerTest, ScrollsToAShareOfTheWay) {
   for (const auto& [share, expected] :
        {std::pair{0.0, 0.0}, {0.5, 350.0}, {1.0, 700.0}, {-0.5, 0.0}, {1.5, 700.0}}) {
-    scroller_.scrollToShare(share);
+    scroller_.scrollToFraction(share);
     EXPECT_EQ(position(), expected) << share;
   }
 }
@@ -157,6 +158,28 @@ TEST_F(ScrollerTest, ListensToItsTargetOnly) {
   scroller_.setTarget(page_.get());
   QCoreApplication::sendEvent(page_.get(), &down);
   EXPECT_EQ(position(), 40);
+}
+
+TEST_F(ScrollerTest, LeavesTheWindowWithItsTarget) {
+  QQuickWindow window;
+  window.contentItem()->forceActiveFocus();
+  page_->setParentItem(window.contentItem());
+  QQuickItem other(window.contentItem());
+  QQuickItem item(page_->property("contentItem").value<QQuickItem*>());
+  item.setSize({100, 20});
+  item.setY(500);
+  item.forceActiveFocus();
+  ASSERT_EQ(window.activeFocusItem(), &item);
+  EXPECT_EQ(position(), 500 + 20 + 32 - 300);
+
+  other.forceActiveFocus();
+  scrollTo(0);
+  scroller_.setTarget(nullptr);
+  item.forceActiveFocus();
+  scroller_.scrollLines(1);
+  scroller_.scrollPages(1);
+  scroller_.scrollToFraction(1);
+  EXPECT_EQ(position(), 0);
 }
 
 TEST_F(ScrollerTest, OutlivesItsTarget) {

@@ -48,6 +48,15 @@ ViewTest {
         verify(!make(component, { width: 400, height: 300, boxHeight: 100 }).activeFocusOnTab);
     }
 
+    function test_accessible() {
+        const view = page(1000);
+        compare(view.Accessible.role, Accessible.Pane);
+        compare(view.Accessible.name, "Page");
+        verify(view.Accessible.focusable);
+        verify(view.Accessible.focused);
+        verify(!make(component, { width: 400, height: 300, boxHeight: 100 }).Accessible.focusable);
+    }
+
     function test_focusIsVisible() {
         const view = page(1000);
         compare(itemsOfType(view, "FocusRing").length, 1);

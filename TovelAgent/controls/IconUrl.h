@@ -13,7 +13,7 @@ namespace quillmark {
 /// Builds the URL under which `IconProvider` serves an icon. In C++, because Qt
 /// 6.4 crashes when a QML binding converts a colour to text during garbage
 /// collection.
-class IconAddress : public QObject {
+class IconUrl : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON

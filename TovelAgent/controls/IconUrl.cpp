@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "controls/IconAddress.h"
+#include "controls/IconUrl.h"
 
 namespace quillmark {
 
-QString IconAddress::of(const QString& name, const QColor& color) {
+QString IconUrl::of(const QString& name, const QColor& color) {
   return name.isEmpty() ? QString() : QStringLiteral("image://icon/") + name + color.name();
 }
 
