@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Shows whether the agent runs, and starts or stops it.
+/// Shows whether the agent ran at the last probe, and starts or stops it.
 SectionCard {
     id: card
 

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first alerts that the agent last reported.
+/// The first alerts of the latest poll.
 ListPage {
     required property DashboardViewModel viewModel
 

@@ -15,11 +15,11 @@ Item {
     readonly property alias headerHeight: headerBand.height
 
     readonly property var tabs: [
-        { identifier: "dashboard", title: "Dashboard", icon: "square.grid.2x2", view: "DashboardTabView.qml", showsAgent: true },
-        { identifier: "network", title: "Network", icon: "network", view: "NetworkTabView.qml", showsAgent: true },
-        { identifier: "inventory", title: "Inventory", icon: "rectangle.stack", view: "InventoryTabView.qml", showsAgent: true },
-        { identifier: "alerts", title: "Alerts", icon: "bell.badge", view: "AlertsTabView.qml", showsAgent: true },
-        { identifier: "settings", title: "Settings", icon: "gear", view: "SettingsTabView.qml", showsAgent: false }
+        { identifier: "dashboard", title: "Dashboard", icon: "square.grid.2x2", view: "DashboardTabView.qml", needsViewModel: true },
+        { identifier: "network", title: "Network", icon: "network", view: "NetworkTabView.qml", needsViewModel: true },
+        { identifier: "inventory", title: "Inventory", icon: "rectangle.stack", view: "InventoryTabView.qml", needsViewModel: true },
+        { identifier: "alerts", title: "Alerts", icon: "bell.badge", view: "AlertsTabView.qml", needsViewModel: true },
+        { identifier: "settings", title: "Settings", icon: "gear", view: "SettingsTabView.qml", needsViewModel: false }
     ]
 
     readonly property bool onScreen: Window.visibility !== Window.Hidden
@@ -64,7 +64,7 @@ Item {
         width: parent.width
         tabs: root.tabs
         selectedTab: root.selectedTab
-        onTabTapped: identifier => root.selectedTab = identifier
+        onTabChosen: identifier => root.selectedTab = identifier
     }
 
     Item {
@@ -78,7 +78,7 @@ Item {
             readonly property var tab: root.tabs.find(tab => tab.identifier === root.selectedTab)
 
             anchors.fill: parent
-            onTabChanged: setSource(tab?.view ?? "", tab?.showsAgent ? { viewModel: root.viewModel } : {})
+            onTabChanged: setSource(tab?.view ?? "", tab?.needsViewModel ? { viewModel: root.viewModel } : {})
         }
     }
 }

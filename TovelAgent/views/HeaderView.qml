@@ -11,7 +11,7 @@ Item {
 
     required property statusPresentation status
 
-    readonly property real room: width - 2 * Theme.spacing
+    readonly property real widthWithoutGap: width - 2 * Theme.spacing
 
     implicitHeight: Math.max(left.height, right.height)
 
@@ -22,7 +22,7 @@ Item {
 
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        width: header.room - (header.status.hasLastScan ? Math.max(lastScanTitle.width, lastScan.width) : 0)
+        width: header.widthWithoutGap - (header.status.hasLastScan ? Math.max(lastScanTitle.width, lastScan.width) : 0)
         spacing: 8
 
         Row {
@@ -102,8 +102,8 @@ Item {
             id: lastScan
 
             anchors.right: parent.right
-            // When both blocks do not fit, each may use at least half of the room.
-            width: Math.min(naturalWidth, Math.max(header.room / 2, header.room - left.naturalWidth))
+            // When both blocks do not fit, each may use at least half of the width.
+            width: Math.min(naturalWidth, Math.max(header.widthWithoutGap / 2, header.widthWithoutGap - left.naturalWidth))
             text: header.status.lastScan
             size: 13
             horizontalAlignment: Text.AlignRight

@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first applications that the agent found. Blank while there is no
-/// inventory.
+/// The first applications of the latest poll. Blank while there is no inventory;
+/// the text appears for an empty one.
 ListPage {
     id: tab
 

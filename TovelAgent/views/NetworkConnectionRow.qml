@@ -11,7 +11,7 @@ Item {
 
     required property connectionPresentation connection
 
-    readonly property real room: width - 2 * Theme.spacing
+    readonly property real widthWithoutGap: width - 2 * Theme.spacing
 
     implicitHeight: Math.max(endpoints.height, state.height) + 2 * 8
 
@@ -19,7 +19,7 @@ Item {
         id: endpoints
 
         anchors.verticalCenter: parent.verticalCenter
-        width: row.room - state.width
+        width: row.widthWithoutGap - state.width
         spacing: 4
 
         Label {
@@ -42,7 +42,7 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(naturalWidth, row.room / 2)
+        width: Math.min(naturalWidth, row.widthWithoutGap / 2)
         text: row.connection.state
         size: 11
         horizontalAlignment: Text.AlignRight

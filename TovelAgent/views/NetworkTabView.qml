@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The connections that the agent last reported.
+/// The connections of the latest poll.
 ListPage {
     required property DashboardViewModel viewModel
 

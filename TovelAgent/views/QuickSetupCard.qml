@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Enrols the machine with a management server.
+/// Writes the configuration for a management server.
 SectionCard {
     id: card
 

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// Starts and stops the agent, enrols the machine, and imports a configuration.
+/// Starts and stops the agent, and writes or imports its configuration.
 /// Its state is kept only while the tab is shown.
 Rectangle {
     id: tab

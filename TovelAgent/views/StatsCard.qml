@@ -31,8 +31,8 @@ Item {
         y: 16
         spacing: 8
 
-        // Not on the root: Qt treats the property `value` of an accessible item
-        // as a number that can be set.
+        // The root is not accessible: Qt treats the property `value` of an accessible
+        // item as a number that can be set.
         Accessible.role: Accessible.Grouping
         Accessible.name: card.title
 

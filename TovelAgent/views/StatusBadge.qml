@@ -19,8 +19,8 @@ Item {
     implicitWidth: Math.max(titleLabel.width, line.spacing + dot.width + valueLabel.naturalWidth)
     implicitHeight: column.height
 
-    // Not on the root: Qt treats the property `value` of an accessible item as a
-    // number that can be set.
+    // The root is not accessible: Qt treats the property `value` of an accessible
+    // item as a number that can be set.
     Item {
         id: accessibleItem
 

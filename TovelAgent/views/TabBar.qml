@@ -6,26 +6,26 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmark.Controls
 
-/// The row of tabs. `tabs` holds identifier, title and icon of each.
+/// The row of tabs. `tabs` have `identifier`, `title` and `icon`.
 Rectangle {
     id: bar
 
     required property var tabs
     required property string selectedTab
 
-    signal tabTapped(string identifier)
+    signal tabChosen(string identifier)
 
     readonly property int selectedIndex: tabs.findIndex(tab => tab.identifier === selectedTab)
 
     function choose(index: int) {
         const tab = tabs[index];
         if (tab)
-            tabTapped(tab.identifier);
+            tabChosen(tab.identifier);
     }
 
     /// Moves the keyboard focus to the tab at `index` and selects it. An index out
     /// of range has no effect.
-    function moveFocus(index: int) {
+    function focusAndChoose(index: int) {
         const button = buttons.itemAt(index);
         if (button) {
             button.forceActiveFocus(Qt.TabFocusReason);
@@ -40,12 +40,12 @@ Rectangle {
     implicitHeight: row.height + 2 * 12
     color: Theme.panelTint
 
-    Keys.onLeftPressed: moveFocus(focusedIndex() - 1)
-    Keys.onRightPressed: moveFocus(focusedIndex() + 1)
+    Keys.onLeftPressed: focusAndChoose(focusedIndex() - 1)
+    Keys.onRightPressed: focusAndChoose(focusedIndex() + 1)
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted)
-            moveFocus(event.key === Qt.Key_Home ? 0 : tabs.length - 1);
+            focusAndChoose(event.key === Qt.Key_Home ? 0 : tabs.length - 1);
     }
 
     Accessible.role: Accessible.PageTabList
@@ -82,7 +82,7 @@ Rectangle {
                 icon: modelData.icon
                 isActive: bar.selectedTab === modelData.identifier
                 anchors.verticalCenter: parent?.verticalCenter
-                onPressed: bar.tabTapped(modelData.identifier)
+                onPressed: bar.tabChosen(modelData.identifier)
 
                 Shortcut {
                     sequence: "Ctrl+" + (button.index + 1)

@@ -133,6 +133,6 @@ ViewTest {
     SignalSpy {
         id: tapped
 
-        signalName: "tabTapped"
+        signalName: "tabChosen"
     }
 }
