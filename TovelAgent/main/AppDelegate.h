@@ -5,12 +5,11 @@
 
 namespace quillmark {
 
-/// Acts only once, when launching has finished; the toolkit's defaults apply to
-/// everything after that. UI thread only.
+/// Sets up the first window before it is shown. UI thread only.
 class AppDelegate final {
  public:
-  /// Gives the application's first window its light, non-opaque background. The
-  /// window must not have been shown yet. Does nothing if there is no window.
+  /// Gives the application's first window a light background and a surface with an
+  /// alpha channel. Does nothing if there is no window.
   void applicationDidFinishLaunching() const;
 };
 

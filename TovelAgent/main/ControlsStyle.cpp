@@ -8,8 +8,8 @@
 namespace quillmark {
 
 void fixControlsStyle() {
-  // QQuickStyle would load one more library at each start, for a dialog that few
-  // users open.
+  // Not QQuickStyle: it would load one more library at each start, for a dialog that
+  // few users open.
   qputenv("QT_QUICK_CONTROLS_STYLE", "Fusion");
   qunsetenv("QT_QUICK_CONTROLS_CONF");
 }

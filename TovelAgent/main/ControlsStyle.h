@@ -6,8 +6,8 @@
 namespace quillmark {
 
 /// Fixes the style of Qt's own file dialog, whatever style the environment asks
-/// for: other styles mix badly with the panel, as dark on dark. Call before any
-/// view is created; UI thread.
+/// for: other styles mix badly with the panel, as dark on dark. Call before
+/// threads start, because it changes the environment.
 void fixControlsStyle();
 
 }  // namespace quillmark

@@ -15,7 +15,7 @@ class RefusingManager final : public QNetworkAccessManager {
 
  protected:
   QNetworkReply* createRequest(Operation, const QNetworkRequest&, QIODevice*) override {
-    // A request without a URL fails like any other, and does not use the network.
+    // A request without a URL fails without using the network.
     return QNetworkAccessManager::createRequest(GetOperation, QNetworkRequest());
   }
 };

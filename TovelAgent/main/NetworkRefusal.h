@@ -7,8 +7,8 @@
 
 namespace quillmark {
 
-/// Makes the QML engine's network refuse every request, so that no text or file
-/// can make a view fetch anything. The engine calls it from its own threads.
+/// Makes every request of the QML engine fail, so that no text or file can make a
+/// view fetch anything. The engine calls it from its own threads.
 class NetworkRefusal final : public QQmlNetworkAccessManagerFactory {
  public:
   [[nodiscard]] QNetworkAccessManager* create(QObject* parent) override;

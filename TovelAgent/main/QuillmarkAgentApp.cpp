@@ -18,13 +18,13 @@ namespace quillmark {
 
 int QuillmarkAgentApp::run() {
   SingleInstance instance;
-  if (instance.handOver()) {
+  if (instance.handOverOrListen()) {
     return 0;
   }
 
-  // Listing the fonts takes a fifth of the start time, and formatting the first date
-  // is slow too. Both run in parallel with loading the views, which need the fonts at
-  // their first text and a date after the first poll.
+  // Listing the fonts and formatting the first date are slow. Both run in parallel with
+  // loading the views, which need the fonts at their first text and a date after the
+  // first poll.
   const std::jthread warmUp([] {
     static_cast<void>(QFontDatabase::families());
     static_cast<void>(formatDate(QStringLiteral("2000-01-01T00:00:00Z")));
@@ -41,7 +41,7 @@ int QuillmarkAgentApp::run() {
   WindowGroup windows(engine);
   QObject::connect(&instance, &SingleInstance::activated, &windows, &WindowGroup::present);
   // Queued, so that the caller gets its reply first.
-  QObject::connect(&instance, &SingleInstance::quitAsked, qGuiApp, &QCoreApplication::quit,
+  QObject::connect(&instance, &SingleInstance::quitRequested, qGuiApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
 
   windows.open();

@@ -7,8 +7,8 @@
 
 namespace quillmark {
 
-/// The panel as an application: one group of windows, and a delegate that is
-/// called when launching has finished. UI thread only.
+/// The panel as an application: one group of windows, and a delegate that sets up the
+/// first one. UI thread only.
 class QuillmarkAgentApp final {
  public:
   /// Opens the first window and runs the event loop; returns its exit code. If

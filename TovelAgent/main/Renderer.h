@@ -12,7 +12,7 @@ void chooseRenderer();
 
 /// Restarts this program with software rendering, for when the renderer that the
 /// user asked for does not work. Does not return; ends the program if the restart
-/// fails.
+/// fails. UI thread.
 [[noreturn]] void restartInSoftware();
 
 }  // namespace quillmark

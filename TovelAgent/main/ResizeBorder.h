@@ -13,7 +13,7 @@ namespace quillmark {
 class ResizeBorder : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
-  /// How far an edge extends inwards.
+  /// How far an edge extends inwards, in scene units.
   Q_PROPERTY(qreal thickness MEMBER thickness_ REQUIRED)
   /// The side of the square at each corner.
   Q_PROPERTY(qreal corner MEMBER corner_ REQUIRED)

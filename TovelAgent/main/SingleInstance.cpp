@@ -68,7 +68,7 @@ bool isTaken(const QDBusConnection& bus) {
 
 }  // namespace
 
-bool SingleInstance::handOver() {
+bool SingleInstance::handOverOrListen() {
   if (!hasSessionBus()) {
     return false;
   }
@@ -111,7 +111,7 @@ void SingleInstance::Open(const QStringList& /*uris*/, const QVariantMap& platfo
 void SingleInstance::ActivateAction(const QString& action, const QVariantList& /*parameter*/,
                                     const QVariantMap& platformData) {
   if (action == quitAction) {
-    Q_EMIT quitAsked();
+    Q_EMIT quitRequested();
     return;
   }
   Activate(platformData);

@@ -12,7 +12,7 @@ namespace quillmark {
 
 /// One panel per session: the first owns the application's name on the session
 /// bus, and later launches hand over to it there. Without a bus every launch is
-/// a first one, and no error is reported. UI thread only.
+/// a first one. UI thread only.
 class SingleInstance final : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -20,9 +20,9 @@ class SingleInstance final : public QObject {
  public:
   inline static const QString applicationId = QStringLiteral("org.quillmark.Agent");
 
-  /// Whether another panel took over this launch; if not, this one listens for
-  /// later launches from now on.
-  [[nodiscard]] bool handOver();
+  /// True if another panel took over this launch. Otherwise this one listens for later
+  /// launches, if it got the name.
+  [[nodiscard]] bool handOverOrListen();
 
   /// Asks the session's panel to end. False if there is none, or if it does not
   /// answer. Does not start one.
@@ -40,7 +40,7 @@ class SingleInstance final : public QObject {
   void activated();
 
   /// Another process asks the panel to end.
-  void quitAsked();
+  void quitRequested();
 };
 
 }  // namespace quillmark

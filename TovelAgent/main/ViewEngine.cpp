@@ -7,13 +7,11 @@
 
 #include "controls/IconProvider.h"
 #include "controls/MaskedText.h"
-#include "main/ControlsStyle.h"
 #include "main/NetworkRefusal.h"
 
 namespace quillmark {
 
 void prepareForViews(QQmlEngine& engine) {
-  fixControlsStyle();
   hideMaskedText();
   static NetworkRefusal refusal;
   engine.setNetworkAccessManagerFactory(&refusal);

@@ -13,9 +13,16 @@ Item {
     required property Window window
     required property real dragHeight
 
-    readonly property bool isMaximized: window.visibility === Window.Maximized
+    readonly property bool fillsScreen: window.visibility === Window.Maximized
                                         || window.visibility === Window.FullScreen
     readonly property int corner: 12
+
+    function toggleMaximized() {
+        if (fillsScreen)
+            window.showNormal();
+        else
+            window.showMaximized();
+    }
 
     // A MouseArea, because a pointer handler waits forever for the release, which
     // only the window manager gets. The drag starts with the movement, because a
@@ -41,11 +48,8 @@ Item {
         onDoubleClicked: frame.toggleMaximized()
     }
 
-    signal toggleMaximized
-    onToggleMaximized: isMaximized ? window.showNormal() : window.showMaximized()
-
     Box {
-        visible: !frame.isMaximized
+        visible: !frame.fillsScreen
         anchors.fill: parent
         color: "transparent"
         borderWidth: 1
@@ -53,7 +57,7 @@ Item {
     }
 
     ResizeBorder {
-        visible: !frame.isMaximized
+        visible: !frame.fillsScreen
         anchors.fill: parent
         thickness: 5
         corner: frame.corner
@@ -63,7 +67,7 @@ Item {
         anchors.top: parent.top
         anchors.right: parent.right
         anchors.rightMargin: frame.corner
-        isMaximized: frame.isMaximized
+        isMaximized: frame.fillsScreen
         onMinimizePressed: frame.window.showMinimized()
         onMaximizePressed: frame.toggleMaximized()
         onClosePressed: frame.window.close()

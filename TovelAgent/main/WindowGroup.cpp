@@ -14,9 +14,9 @@
 namespace quillmark {
 namespace {
 
-/// Qt's own file dialog is a child of the window, not of the view that opened
-/// it. Destroying one crashes Qt 6.4 while assistive technology is connected, so
-/// it is leaked: it is closed and takes at most a few hundred kilobytes.
+/// Destroys `window`, but leaks Qt's own file dialog, a child of it: destroying that
+/// crashes Qt 6.4 while assistive technology is connected. It is closed and takes at
+/// most a few hundred kilobytes.
 void destroy(QQuickWindow* window) {
   const auto children = window->children();
   for (auto* const child : children) {
@@ -33,7 +33,7 @@ WindowGroup::WindowGroup(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
 
 WindowGroup::~WindowGroup() {
-  finish();
+  layOutLatest();
   for (auto* const window : std::as_const(windows_)) {
     window->disconnect(this);
   }
@@ -48,7 +48,7 @@ void WindowGroup::destroyClosed() {
 }
 
 void WindowGroup::open() {
-  finish();
+  layOutLatest();
   auto* const window =
       qobject_cast<QQuickWindow*>(component_.beginCreate(component_.engine()->rootContext()));
   if (window == nullptr) {
@@ -83,13 +83,12 @@ void WindowGroup::present() {
   window->raise();
   window->requestActivate();
   // Last, so that the layout runs while the desktop maps the window.
-  finish();
+  layOutLatest();
 }
 
-/// Lays out the latest window's content, if this has not been done yet.
-void WindowGroup::finish() {
+void WindowGroup::layOutLatest() {
   if (std::exchange(isUnfinished_, false)) {
-    // QML's own `visible` does not follow ours, and would hide the window otherwise.
+    // QML's pending value of `visible` is still false and would hide the window.
     auto* const window = windows_.last();
     window->setProperty("visible", window->isVisible());
     component_.completeCreate();

@@ -29,7 +29,8 @@ class WindowGroup final : public QObject {
 
  private:
   void destroyClosed();
-  void finish();
+  /// Lays out the latest window's content, if this has not been done yet.
+  void layOutLatest();
 
   QQmlComponent component_;
   QList<QQuickWindow*> windows_;

@@ -8,6 +8,7 @@
 #include <sys/resource.h>
 
 #include "client/TaskExecutor.h"
+#include "main/ControlsStyle.h"
 #include "main/QuillmarkAgentApp.h"
 #include "main/Renderer.h"
 #include "main/SingleInstance.h"
@@ -16,6 +17,7 @@
 
 namespace {
 
+// The panel; the agent is a separate program, tovel-agent.
 constexpr auto programName = "quillmark-agent";
 constexpr auto quitFlag = "quit";
 
@@ -35,13 +37,13 @@ quillmark::CommandLineRules commandLineRules() {
           .valueOptions = {"session"}};
 }
 
-/// Returns the exit code: 1 when no panel is open.
+/// Returns the exit code: 1 when no panel answers.
 int quitOpenPanel(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
   if (quillmark::SingleInstance::quitRunning()) {
     return 0;
   }
-  std::cerr << programName << ": no panel is open\n";
+  std::cerr << programName << ": no panel answers\n";
   return 1;
 }
 
@@ -69,6 +71,7 @@ int main(int argc, char* argv[]) {
   }
 
   quillmark::returnLargeBlocksOnFree();
+  quillmark::fixControlsStyle();
   quillmark::chooseRenderer();
   const QGuiApplication application(argc, argv);
   QCoreApplication::setApplicationName(QString::fromLatin1(programName));

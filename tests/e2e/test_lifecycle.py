@@ -116,7 +116,7 @@ def test_quit_by_command_ends_the_open_panel(launch):
 def test_quit_by_command_without_a_panel(display):
     asked = quit_by_command()
     assert (asked.returncode, asked.stdout) == (1, "")
-    assert asked.stderr == "quillmark-agent: no panel is open\n"
+    assert asked.stderr == "quillmark-agent: no panel answers\n"
 
 
 def bus_call(method, path, interface, arguments, destination=BUS_NAME):
