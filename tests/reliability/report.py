@@ -73,8 +73,8 @@ def attacks(report, results):
     for key, label, limit, unit in ATTACK:
         held = sum(figures[key] <= limit for figures in found.values())
         report.goal(f"attacks: {label}", (f"held by {held} of {len(found)}",
-                                         f"≤ {number(limit)}{unit}",
-                                         "met" if held == len(found) else "**not met**"))
+                                          f"≤ {number(limit)}{unit}",
+                                          "met" if held == len(found) else "**not met**"))
     report.section("Attacks", "The whole panel on its Alerts tab, twelve seconds of each. Memory "
                    "is sampled every 5 ms; its peak has no limit of its own, that of a body is "
                    "64 MiB. When good values come depends on where between two polls an attack "
