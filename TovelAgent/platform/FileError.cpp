@@ -5,8 +5,6 @@
 
 #include <string>
 
-#include <boost/system/errc.hpp>
-
 namespace quillmark {
 namespace {
 
@@ -28,22 +26,6 @@ class Category final : public boost::system::error_category {
         return "The application's path contains an apostrophe";
     }
     return "Unknown error";
-  }
-
-  [[nodiscard]] boost::system::error_condition default_error_condition(
-      int value) const noexcept override {
-    namespace errc = boost::system::errc;
-    switch (static_cast<FileError>(value)) {
-      case FileError::notRegular:
-        return errc::make_error_condition(errc::not_supported);
-      case FileError::tooLarge:
-        return errc::make_error_condition(errc::file_too_large);
-      case FileError::notUtf8:
-        return errc::make_error_condition(errc::illegal_byte_sequence);
-      case FileError::unquotablePath:
-        return errc::make_error_condition(errc::invalid_argument);
-    }
-    return {value, *this};
   }
 };
 

@@ -7,13 +7,12 @@
 
 namespace quillmark {
 
-/// Errors of files and paths that the operating system does not report, with their
-/// portable conditions.
+/// Errors of files and paths that the operating system does not report.
 enum class FileError {
-  notRegular = 1,  ///< a folder, FIFO, device or socket; `not_supported`
-  tooLarge,        ///< more bytes than the reader accepts; `file_too_large`
-  notUtf8,         ///< `illegal_byte_sequence`
-  unquotablePath,  ///< cannot be put in a shell's single quotes; `invalid_argument`
+  notRegular = 1,  ///< a folder, FIFO, device or socket
+  tooLarge,        ///< more bytes than the reader accepts
+  notUtf8,
+  unquotablePath,  ///< cannot be put in a shell's single quotes
 };
 
 /// The error as a code with a message for the user.

@@ -16,6 +16,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "platform/FileError.h"
 #include "platform/TemporaryFolder.h"
 #include "support/TokenFiles.h"
 
@@ -58,7 +59,7 @@ TEST_F(TextFile, ReadsExactlyToTheLimit) {
   for (const std::size_t size : {1U, 100U, 4095U, 4096U, 4097U, 10000U}) {
     writeFile(path, std::string(size, 'x'));
     EXPECT_EQ(readTextFile(path, size).value(), std::string(size, 'x'));
-    EXPECT_EQ(readTextFile(path, size - 1).error(), errc::file_too_large) << size;
+    EXPECT_EQ(readTextFile(path, size - 1).error(), FileError::tooLarge) << size;
   }
 }
 
@@ -82,24 +83,24 @@ TEST_F(TextFile, RefusesALinkToNothingOrToItself) {
 }
 
 TEST_F(TextFile, RefusesAFolder) {
-  EXPECT_EQ(readTextFile(folder.path(), limit).error(), errc::not_supported);
+  EXPECT_EQ(readTextFile(folder.path(), limit).error(), FileError::notRegular);
 }
 
 // Both would make a plain open or read wait for ever.
 TEST_F(TextFile, RefusesAFifoAtOnce) {
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-  EXPECT_EQ(readTextFile(path, limit).error(), errc::not_supported);
+  EXPECT_EQ(readTextFile(path, limit).error(), FileError::notRegular);
 
   const int writer = open(path.c_str(), O_RDWR);
   ASSERT_GE(writer, 0);
   EXPECT_EQ(write(writer, "text", 4), 4);
-  EXPECT_EQ(readTextFile(path, limit).error(), errc::not_supported);
+  EXPECT_EQ(readTextFile(path, limit).error(), FileError::notRegular);
   close(writer);
 }
 
 TEST_F(TextFile, RefusesDevices) {
-  EXPECT_EQ(readTextFile("/dev/zero", limit).error(), errc::not_supported);
-  EXPECT_EQ(readTextFile("/dev/null", limit).error(), errc::not_supported);
+  EXPECT_EQ(readTextFile("/dev/zero", limit).error(), FileError::notRegular);
+  EXPECT_EQ(readTextFile("/dev/null", limit).error(), FileError::notRegular);
 }
 
 TEST_F(TextFile, RefusesASocket) {
@@ -116,7 +117,7 @@ TEST_F(TextFile, RefusesASocket) {
 TEST_F(TextFile, RefusesWhatIsNotUtf8) {
   for (const std::string text : {"\xFF", "good\xE9", "\xED\xA0\x80", "\xE2\x82"}) {
     writeFile(path, text);
-    EXPECT_EQ(readTextFile(path, limit).error(), errc::illegal_byte_sequence) << text;
+    EXPECT_EQ(readTextFile(path, limit).error(), FileError::notUtf8) << text;
   }
 }
 
