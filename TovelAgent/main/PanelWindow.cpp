@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "main/WindowGroup.h"
+#include "main/PanelWindow.h"
 
 #include <utility>
 
@@ -29,68 +29,56 @@ void destroy(QQuickWindow* window) {
 
 }  // namespace
 
-WindowGroup::WindowGroup(QQmlEngine& engine)
+PanelWindow::PanelWindow(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
 
-WindowGroup::~WindowGroup() {
-  layOutLatest();
-  for (auto* const window : std::as_const(windows_)) {
-    window->disconnect(this);
-  }
-  closed_.append(windows_);
-  destroyClosed();
-}
-
-void WindowGroup::destroyClosed() {
-  for (auto* const window : std::exchange(closed_, {})) {
-    destroy(window);
+PanelWindow::~PanelWindow() {
+  layOut();
+  if (window_ != nullptr) {
+    window_->disconnect(this);
+    destroy(window_);
   }
 }
 
-void WindowGroup::open() {
-  layOutLatest();
-  auto* const window =
-      qobject_cast<QQuickWindow*>(component_.beginCreate(component_.engine()->rootContext()));
-  if (window == nullptr) {
+void PanelWindow::open() {
+  window_ = qobject_cast<QQuickWindow*>(component_.beginCreate(component_.engine()->rootContext()));
+  if (window_ == nullptr) {
     qFatal("The main window cannot be built: %s", qUtf8Printable(component_.errorString()));
   }
+  isLaidOut_ = false;
   // Not in QML, whose engine would first have to load all of Qt's enumerations.
-  window->setFlags(Qt::Window | Qt::FramelessWindowHint);
+  window_->setFlags(Qt::Window | Qt::FramelessWindowHint);
   // Qt's X11 platform reads the window's role from here; other platforms have none.
-  window->setProperty("_q_xcb_wm_window_role", window->objectName());
-  windows_.append(window);
-  isUnfinished_ = true;
-  connect(window, &QQuickWindow::sceneGraphError, this, &restartInSoftware);
-  // A window is hidden only when it is closed.
-  connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
+  window_->setProperty("_q_xcb_wm_window_role", window_->objectName());
+  connect(window_, &QQuickWindow::sceneGraphError, this, &restartInSoftware);
+  // The window is hidden only when it is closed.
+  connect(window_, &QWindow::visibleChanged, this, [this](bool visible) {
     if (!visible) {
-      windows_.removeOne(window);
-      closed_.append(window);
       // Queued, because the window is still being closed.
-      QMetaObject::invokeMethod(this, &WindowGroup::destroyClosed, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [closed = std::exchange(window_, nullptr)] { destroy(closed); },
+          Qt::QueuedConnection);
     }
   });
 }
 
-void WindowGroup::present() {
-  if (windows_.isEmpty()) {
+void PanelWindow::present() {
+  if (window_ == nullptr) {
     open();
   }
-  auto* const window = windows_.last();
-  window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+  window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
   // Not show(): that would also undo maximising.
-  window->setVisible(true);
-  window->raise();
-  window->requestActivate();
+  window_->setVisible(true);
+  window_->raise();
+  window_->requestActivate();
   // Last, so that the layout runs while the desktop maps the window.
-  layOutLatest();
+  layOut();
 }
 
-void WindowGroup::layOutLatest() {
-  if (std::exchange(isUnfinished_, false)) {
+void PanelWindow::layOut() {
+  if (!std::exchange(isLaidOut_, true)) {
     // QML's pending value of `visible` is still false and would hide the window.
-    auto* const window = windows_.last();
-    window->setProperty("visible", window->isVisible());
+    window_->setProperty("visible", window_->isVisible());
     component_.completeCreate();
   }
 }

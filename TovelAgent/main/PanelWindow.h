@@ -11,31 +11,29 @@ class QQuickWindow;
 
 namespace quillmark {
 
-/// The panel's windows, each with a content view and view model of its own.
-/// A closed window is destroyed. UI thread only.
-class WindowGroup final : public QObject {
+/// The panel's window, which is destroyed when it is closed and may be created again.
+/// Each one has a content view and view model of its own. UI thread only.
+class PanelWindow final : public QObject {
   Q_OBJECT
 
  public:
-  explicit WindowGroup(QQmlEngine& engine);
-  ~WindowGroup() override;
+  explicit PanelWindow(QQmlEngine& engine);
+  ~PanelWindow() override;
 
-  /// Creates a window, not yet shown. Its content is laid out when it is presented.
-  /// Ends the program if the window cannot be built.
+  /// Creates the window, not yet shown; there must be none. Its content is laid out
+  /// when it is presented. Ends the program if the window cannot be built.
   void open();
 
-  /// Brings the latest window forward; creates one first if there is none.
+  /// Brings the window forward; creates it first if there is none.
   void present();
 
  private:
-  void destroyClosed();
-  /// Lays out the latest window's content, if this has not been done yet.
-  void layOutLatest();
+  /// Lays out the content, if this has not been done yet.
+  void layOut();
 
   QQmlComponent component_;
-  QList<QQuickWindow*> windows_;
-  bool isUnfinished_ = false;    ///< the latest window's content is created, but not laid out
-  QList<QQuickWindow*> closed_;  ///< hidden, to be destroyed
+  QQuickWindow* window_ = nullptr;  ///< null while the window is closed
+  bool isLaidOut_ = true;
 };
 
 }  // namespace quillmark

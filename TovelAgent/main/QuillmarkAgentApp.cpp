@@ -9,9 +9,9 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 
+#include "main/PanelWindow.h"
 #include "main/SingleInstance.h"
 #include "main/ViewEngine.h"
-#include "main/WindowGroup.h"
 #include "viewmodel/FormatDate.h"
 
 namespace quillmark {
@@ -38,15 +38,15 @@ int QuillmarkAgentApp::run() {
   prepareForViews(engine);
   QObject::connect(&engine, &QQmlEngine::quit, qGuiApp, &QCoreApplication::quit);
 
-  WindowGroup windows(engine);
-  QObject::connect(&instance, &SingleInstance::activated, &windows, &WindowGroup::present);
+  PanelWindow window(engine);
+  QObject::connect(&instance, &SingleInstance::activated, &window, &PanelWindow::present);
   // Queued, so that the caller gets its reply first.
   QObject::connect(&instance, &SingleInstance::quitRequested, qGuiApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
 
-  windows.open();
+  window.open();
   appDelegate.applicationDidFinishLaunching();
-  windows.present();
+  window.present();
   return QCoreApplication::exec();
 }
 

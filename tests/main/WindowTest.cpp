@@ -42,11 +42,11 @@ class RendererChoice final : public testing::Environment {
 
 WindowTest::WindowTest() {
   prepareForViews(engine_);
-  group_ = std::make_unique<WindowGroup>(engine_);
+  panel_ = std::make_unique<PanelWindow>(engine_);
 }
 
 WindowTest::~WindowTest() {
-  group_.reset();
+  panel_.reset();
   // Polling continues until the process ends and would affect the next test.
   qDeleteAll(QCoreApplication::instance()->findChildren<QTimer*>());
   EXPECT_TRUE(waitUntil([] { return windows().isEmpty(); }));
@@ -63,7 +63,7 @@ QList<QQuickWindow*> WindowTest::windows() {
 }
 
 QQuickWindow* WindowTest::presented() {
-  group_->present();
+  panel_->present();
   auto* const window = windows().last();
   EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   return window;

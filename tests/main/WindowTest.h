@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "client/TaskExecutor.h"
-#include "main/WindowGroup.h"
+#include "main/PanelWindow.h"
 #include "viewmodel/GuiTest.h"
 
 namespace quillmark::test {
@@ -39,11 +39,11 @@ class WindowTest : public testing::Test {
   static void click(QQuickItem* item);
 
   QQmlEngine engine_;
-  WindowGroup& group() { return *group_; }
+  PanelWindow& panel() { return *panel_; }
 
  private:
   TaskExecutor executor_;
-  std::unique_ptr<WindowGroup> group_;
+  std::unique_ptr<PanelWindow> panel_;
 };
 
 }  // namespace quillmark::test

@@ -20,7 +20,7 @@
 #include "client/TaskExecutor.h"
 #include "main/Renderer.h"
 #include "main/ViewEngine.h"
-#include "main/WindowGroup.h"
+#include "main/PanelWindow.h"
 #include "soak/Footprint.h"
 #include "soak/SteadyAgent.h"
 #include "support/TokenFiles.h"
@@ -81,8 +81,8 @@ int main(int argc, char* argv[]) {
   const TaskExecutor executor;
   QQmlEngine engine;
   prepareForViews(engine);
-  WindowGroup windows(engine);
-  windows.present();
+  PanelWindow panel(engine);
+  panel.present();
 
   auto* const window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().first());
   auto* const content = window == nullptr ? nullptr : contentOf(*window);
