@@ -12,7 +12,8 @@ from . import process, stage
 from .figures import goal, number, table
 from .observed import Observed
 
-SIZES = (1_000, 10_000, 100_000, 200_000, 1_000_000)
+# The last one almost fills a body of 64 MiB, the longest that the panel reads.
+SIZES = (1_000, 10_000, 35_000, 200_000, 350_000)
 POLLS = 4
 SCREENS = ((1000, 700), (2560, 1440))
 
