@@ -23,9 +23,9 @@ Item {
         id: list
 
         PlainList {
-            label: page.label
-            model: page.model
-            delegate: page.delegate
+            label: page.label // qmllint disable unqualified
+            model: page.model // qmllint disable unqualified
+            delegate: page.delegate // qmllint disable unqualified
         }
     }
 }

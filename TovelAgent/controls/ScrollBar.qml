@@ -43,8 +43,8 @@ MouseArea {
         id: thumb
 
         readonly property real travel: bar.height - 2 * bar.margin - height
-        readonly property real fraction: bar.target.visibleArea.yPosition
-                                         / Math.max(Number.EPSILON, 1 - bar.target.visibleArea.heightRatio)
+        readonly property real hidden: 1 - bar.target.visibleArea.heightRatio
+        readonly property real fraction: hidden > 0 ? bar.target.visibleArea.yPosition / hidden : 0
 
         function moveTo(top: real) {
             if (travel > 0)

@@ -16,7 +16,7 @@ ListPage {
     model: viewModel.apps
     placeholder: Item {
         Label {
-            visible: tab.viewModel.hasInventory
+            visible: tab.viewModel.hasInventory // qmllint disable unqualified
             anchors.centerIn: parent
             text: "Loading applications..."
             color: Theme.gray

@@ -18,9 +18,9 @@
 #include <QTimer>
 
 #include "client/TaskExecutor.h"
+#include "main/PanelWindow.h"
 #include "main/Renderer.h"
 #include "main/ViewEngine.h"
-#include "main/PanelWindow.h"
 #include "soak/Footprint.h"
 #include "soak/SteadyAgent.h"
 #include "support/TokenFiles.h"
