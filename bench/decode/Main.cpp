@@ -70,7 +70,7 @@ void competeAll(const std::string& name, const R& records, const R& few,
 
 int main(int argc, char** argv) {
   // As the panel does.
-  quillmark::returnLargeBlocks();
+  quillmark::returnLargeBlocksOnFree();
   benchmark::Initialize(&argc, argv);
   // From small to large: what a large body leaves in the heap would count for a small one.
   competeAll<InventoryData>("apps/5000", bench::sampleInventory(5'000), bench::sampleInventory(40),

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""report RESULTS OUTPUT: writes the results of soak, attacks and tests as a page."""
+"""report RESULTS OUTPUT: writes the results of soak, attacks, drip and tests as a page."""
 
 import json
 import sys
@@ -82,6 +82,20 @@ def attacks(report, results):
                                         *(label for _, label, _, _ in ATTACK)), rows))
 
 
+def drip(report, results):
+    figures = json.loads((results / "drip.json").read_text())
+    report.goal("drip: good values after", goal(figures["seconds_to_good"], 6, " s"))
+    report.section("Drip", f"For {number(figures['minutes'])} minutes the agent sends one byte "
+                   "every two seconds, while the panel may open only as many descriptors as at "
+                   "the start and 24 more. It is used all the time: resized, all tabs visited, a "
+                   "configuration saved.\n\n" + table(
+                       ("descriptors", "limit", "turns", "slowest turn", "messages of Save"),
+                       [(figures["most_descriptors"], figures["limit"], figures["turns"],
+                         number(figures["slowest_turn_s"]) + " s",
+                         ", ".join(f"{count} × {text}"
+                                   for text, count in figures["messages"].items()))]))
+
+
 def trouble(report, results):
     rows = []
     for name, label in TROUBLE.items():
@@ -96,7 +110,7 @@ def trouble(report, results):
 
 def main(results, output):
     report = Report()
-    for part in (soak, attacks, trouble):
+    for part in (soak, attacks, drip, trouble):
         part(report, Path(results))
     report.write(output, PREFACE)
 
