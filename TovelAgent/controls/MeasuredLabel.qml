@@ -19,7 +19,8 @@ Label {
 
         visible: false
         textFormat: label.textFormat
-        text: label.text
+        // Longer lines are wider than any window, and measuring them takes too long.
+        text: label.text.slice(0, 2000)
         font: label.font
         // Without an alignment, an empty text asks the input method for one. Qt 6.4
         // crashes in that call on a Wayland desktop without a keyboard.

@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """attack OUTPUT [WORD...]: measures the panel under every attack, or those whose
-names contain one of the words, and writes the figures as JSON."""
+names contain one of the words, and writes the figures as JSON. The other figures in
+OUTPUT are kept."""
 
 import json
 import sys
@@ -54,7 +55,7 @@ def under(attack, server, panel):
 
 
 def main(output, *words):
-    figures = {}
+    figures = json.loads(Path(output).read_text()) if words else {}
     display = Display()
     tokens.write(tokens.HOME, "token")
     for name, attack in every().items():
