@@ -10,7 +10,7 @@
 
 namespace quillmark {
 
-/// The two values of a configuration that the user types.
+/// A configuration's two values that users type.
 struct ConfigEntries {
   std::optional<std::string> apiKey;     ///< also absent when empty or a placeholder
   std::optional<std::string> serverUrl;  ///< also absent when empty

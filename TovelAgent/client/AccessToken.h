@@ -27,7 +27,7 @@ namespace quillmark {
 [[nodiscard]] std::optional<std::string> readAccessToken();
 
 /// Whether `token` can be sent unchanged in an HTTP header field: it contains no
-/// control character except tab. Others could end the header or forge a field.
+/// control character except tab. They could end the header or forge a field.
 [[nodiscard]] bool fitsHeaderField(std::string_view token);
 
 }  // namespace quillmark

@@ -36,7 +36,7 @@ std::string requestText(const HttpRequest& request) {
 
 asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   error_code error;
-  // Named, because GCC 12 may destroy a temporary inside a co_await twice.
+  // Named, because GCC 12 may destroy a temporary argument inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   const auto executor = co_await asio::this_coro::executor;
   beast::tcp_stream stream(executor);

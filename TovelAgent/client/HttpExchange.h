@@ -53,8 +53,8 @@ using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
 /// status, or with the reason why there is no complete answer. Does not follow
 /// redirects, ask for compression, cache or keep cookies. Runs on the awaiting
 /// coroutine's executor and does not block it; that executor must run one handler
-/// at a time, because a connection closes itself at the time limit, at any point of
-/// the coroutine. Throws only `std::bad_alloc`.
+/// at a time, because the time limit may close the connection at any moment. Throws
+/// only `std::bad_alloc`.
 [[nodiscard]] boost::asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits);
 
 }  // namespace quillmark

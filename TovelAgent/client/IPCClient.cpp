@@ -27,7 +27,7 @@ asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  // Named for the reason given in HttpExchange.cpp.
+  // Named: see `completion` in HttpExchange.cpp.
   auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {

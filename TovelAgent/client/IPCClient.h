@@ -18,7 +18,7 @@
 
 namespace quillmark {
 
-/// The only access to the agent: four read operations over the loopback interface.
+/// The client of the agent's HTTP interface: four read operations on loopback.
 ///
 /// Every operation completes exactly once, with a value or with no value. The
 /// reason for no value (no token, no agent, no answer, a body that cannot be
@@ -42,7 +42,7 @@ class IPCClient final {
  private:
   void loadAuthToken();
 
-  /// Both arguments must outlive the request.
+  /// Both texts must outlive the request.
   template <class R>
   [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,
                                                                      std::string_view method) const;

@@ -11,9 +11,9 @@ namespace quillmark {
 /// The process's general-purpose executor, on which all network work runs. One thread
 /// is enough: waiting tasks do not occupy it, and no code blocks on a task.
 ///
-/// Only one instance exists at a time: the entry point creates it before anything
-/// that starts tasks, and destroys it after all of that. The destructor waits for the
-/// handlers that are running and drops every waiting task.
+/// Only one instance exists at a time: the entry point creates it before the panel, and
+/// destroys it when the event loop has ended. The destructor waits for the handlers
+/// that are running and drops every waiting task.
 class TaskExecutor final {
  public:
   TaskExecutor();

@@ -11,8 +11,8 @@ namespace quillmark {
 
 /// A box with round corners, drawn in device pixels: at every scale its corners
 /// are equal, and its border has the same thickness on all sides. Qt's software
-/// renderer aligns to whole units of the scene only and draws them unequal. Lengths
-/// are in scene units. UI thread only.
+/// renderer aligns a Rectangle to whole units of the scene only, which makes its
+/// corners unequal. Lengths are in scene units. UI thread only.
 class Box : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT

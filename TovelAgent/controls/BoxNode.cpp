@@ -23,7 +23,7 @@ QPointF origin(const QSGNode& node) {
 
 BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNinePatchNode()) {
   setFlag(UsePreprocess);
-  // Not set by default with OpenGL.
+  // OpenGL's node has no default.
   patch_->setDevicePixelRatio(1);
   appendChildNode(patch_);
 }

@@ -9,8 +9,9 @@ import QtQuick
 Label {
     id: label
 
-    /// The width of its longest line, with room for the ellipsis after the last one.
-    /// At least 1: an elided text without a width has no height either.
+    /// The width of the longest line near the beginning, with room for the ellipsis
+    /// after the last one. At least 1: an elided text without a width has no height
+    /// either.
     readonly property real naturalWidth: Math.max(1, ruler.implicitWidth + ellipsisWidth)
     readonly property real ellipsisWidth: ruler.lineCount > maximumLineCount ? size : 0
 
@@ -19,7 +20,7 @@ Label {
 
         visible: false
         textFormat: label.textFormat
-        // Longer lines are wider than any window, and measuring them takes too long.
+        // Measuring a very long text takes too long.
         text: label.text.slice(0, 2000)
         font: label.font
         // Without an alignment, an empty text asks the input method for one. Qt 6.4

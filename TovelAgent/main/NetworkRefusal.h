@@ -8,7 +8,7 @@
 namespace quillmark {
 
 /// Makes every request of the QML engine fail, so that no text or file can make a
-/// view fetch anything. The engine calls it from its own threads.
+/// view fetch anything. The engine calls it from any thread.
 class NetworkRefusal final : public QQmlNetworkAccessManagerFactory {
  public:
   [[nodiscard]] QNetworkAccessManager* create(QObject* parent) override;

@@ -15,8 +15,8 @@ namespace quillmark {
 namespace {
 
 /// Destroys `window`, but leaks Qt's own file dialog, a child of it: destroying that
-/// crashes Qt 6.4 while assistive technology is connected. It is closed and takes at
-/// most a few hundred kilobytes.
+/// crashes Qt 6.4 while assistive technology is connected. The dialog is closed and
+/// takes a few hundred kilobytes.
 void destroy(QQuickWindow* window) {
   const auto children = window->children();
   for (auto* const child : children) {

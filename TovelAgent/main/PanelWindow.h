@@ -20,8 +20,8 @@ class PanelWindow final : public QObject {
   explicit PanelWindow(QQmlEngine& engine);
   ~PanelWindow() override;
 
-  /// Creates the window, not yet shown; there must be none. Its content is laid out
-  /// when it is presented. Ends the program if the window cannot be built.
+  /// Creates the window, hidden; none may exist before. Its content is laid out when it
+  /// is presented. Ends the program if the window cannot be built.
   void open();
 
   /// Brings the window forward; creates it first if there is none.

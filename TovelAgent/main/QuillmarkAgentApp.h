@@ -7,12 +7,12 @@
 
 namespace quillmark {
 
-/// The panel as an application: one group of windows, and a delegate that sets up the
+/// The panel as an application: one window at a time, and a delegate that sets up the
 /// first one. UI thread only.
 class QuillmarkAgentApp final {
  public:
-  /// Opens the first window and runs the event loop; returns its exit code. If
-  /// a panel already runs in the session, brings that one forward and returns 0.
+  /// Opens the first window and runs the event loop; returns its exit code. If a panel
+  /// of the session answers, brings that one forward and returns 0.
   [[nodiscard]] int run();
 
  private:

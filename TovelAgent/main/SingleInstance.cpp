@@ -18,7 +18,7 @@ constexpr unsigned long pauseUs = 100;
 
 const auto objectPath = QStringLiteral("/org/quillmark/Agent");
 const auto interfaceName = QStringLiteral("org.freedesktop.Application");
-/// The name in the desktop entry.
+/// As in the desktop entry.
 const auto quitAction = QStringLiteral("quit");
 const auto activationToken = QStringLiteral("activation-token");
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";

@@ -11,8 +11,8 @@
 namespace quillmark {
 
 /// One panel per session: the first owns the application's name on the session
-/// bus, and later launches hand over to it there. Without a bus every launch is
-/// a first one. UI thread only.
+/// bus, and later launches hand over to it there. Without a bus each launch opens a
+/// panel. UI thread only.
 class SingleInstance final : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")

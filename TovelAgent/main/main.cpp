@@ -61,7 +61,7 @@ void disableCoreDumps() {
 
 int main(int argc, char* argv[]) {
   disableCoreDumps();
-  // Before the rest, because it needs no display and should be fast.
+  // First: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {
     return *commandLine.exitCode;

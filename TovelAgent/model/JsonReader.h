@@ -32,7 +32,7 @@ class JsonReader final {
   [[nodiscard]] bool read(Element json, R& record) {
     simdjson::dom::object object;
     if (json.get(object) != simdjson::SUCCESS) {
-      // For null, too: only scalars and arrays report it as `valueNotFound`.
+      // Null is a mismatch, too: only scalars and arrays report `valueNotFound`.
       return fail(DecodeFailure::typeMismatch, expected("object", json));
     }
     const auto values = valuesOf<R>(object);

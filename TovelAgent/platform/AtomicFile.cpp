@@ -75,7 +75,7 @@ class TemporaryFile final {
   /// Call after the file was renamed: there is nothing left to remove.
   void markMoved() { mustRemove_ = false; }
 
-  /// Writes `text`, flushes it to the disk and closes the file.
+  /// Writes `text`, sets the mode, flushes and closes the file.
   [[nodiscard]] error_code fill(std::string_view text, mode_t mode) {
     while (!text.empty()) {
       const ssize_t count = write(descriptor_, text.data(), text.size());

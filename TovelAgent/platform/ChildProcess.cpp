@@ -67,8 +67,8 @@ class SpawnSetup final {
   short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
-/// Resets SIGCHLD if this program was started with it ignored: the system would
-/// keep no exit statuses.
+/// Stops ignoring SIGCHLD, which this program may inherit: while it is ignored, the
+/// system keeps no exit statuses.
 void keepExitStatuses() {
   struct sigaction current {};
   if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {

@@ -55,7 +55,7 @@ class DashboardViewModel final : public QObject,
   /// alive. Each call adds a timer and stops no earlier one.
   Q_INVOKABLE void startPolling();
 
-  /// No value before the first poll, and after a poll whose request failed.
+  /// No value until a poll has finished, and after one whose status request failed.
   [[nodiscard]] const std::optional<AgentStatus>& status() const { return latest_.status; }
   /// Empty when there is no value.
   [[nodiscard]] const std::vector<ThreatAlert>& alerts() const { return *latest_.alerts; }
@@ -81,7 +81,7 @@ class DashboardViewModel final : public QObject,
   void inventoryChanged();
 
  private:
-  /// The values of one poll; none by default.
+  /// One poll's values; all absent by default.
   struct PollResult {
     std::optional<AgentStatus> status;
     Snapshot<std::vector<ThreatAlert>> alerts = emptyList<ThreatAlert>();

@@ -13,7 +13,7 @@
 namespace quillmark {
 
 /// The Settings tab's state and the actions of its buttons. It exists as long as
-/// the tab's view. UI thread only; every operation blocks that thread.
+/// the tab's view. UI thread only; access to files and commands block it.
 class SettingsState : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first applications of the latest poll. Blank while there is no inventory;
-/// the text appears for an empty one.
+/// The first applications of the latest poll. Blank without an inventory; the
+/// placeholder is for an empty one.
 ListPage {
     id: tab
 

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmark.Controls
 
-/// The row of tabs. `tabs` have `identifier`, `title` and `icon`.
+/// The row of tabs. Each of `tabs` has `identifier`, `title` and `icon`.
 Rectangle {
     id: bar
 
