@@ -14,6 +14,9 @@ namespace quillmark {
 namespace {
 
 constexpr int answerTimeoutMs = 3000;
+// A panel that is still starting answers only when its window is there, which takes
+// long on a slow machine.
+constexpr int startTimeoutMs = 20000;
 constexpr unsigned long pauseUs = 100;
 
 const auto objectPath = QStringLiteral("/org/quillmark/Agent");
@@ -40,17 +43,17 @@ QDBusMessage callTo(const QString& method) {
 /// The reply, of any type; invalid if none arrives in time. Qt's own blocking
 /// call waits forever when the bus is lost meanwhile, and an event loop would
 /// deliver incoming calls before their signals are connected.
-QDBusMessage answerTo(const QDBusMessage& call, const QDBusConnection& bus) {
-  const auto pending = bus.asyncCall(call, answerTimeoutMs);
-  const QDeadlineTimer deadline(answerTimeoutMs);
+QDBusMessage answerTo(const QDBusMessage& call, const QDBusConnection& bus, int timeoutMs) {
+  const auto pending = bus.asyncCall(call, timeoutMs);
+  const QDeadlineTimer deadline(timeoutMs);
   while (!pending.isFinished() && bus.isConnected() && !deadline.hasExpired()) {
     QThread::usleep(pauseUs);
   }
   return pending.reply();
 }
 
-bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus) {
-  return answerTo(call, bus).type() == QDBusMessage::ReplyMessage;
+bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus, int timeoutMs) {
+  return answerTo(call, bus, timeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
 /// Whether another panel owns the name; if none does, this one owns it from now
@@ -63,7 +66,7 @@ bool isTaken(const QDBusConnection& bus) {
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   request << SingleInstance::applicationId << doNotQueue;
-  return answerTo(request, bus).arguments().value(0).toUInt() == exists;
+  return answerTo(request, bus, answerTimeoutMs).arguments().value(0).toUInt() == exists;
 }
 
 }  // namespace
@@ -82,7 +85,7 @@ bool SingleInstance::handOverOrListen() {
   }
   auto activate = callTo(QStringLiteral("Activate"));
   activate << QVariantMap{{activationToken, qEnvironmentVariable(activationVariable)}};
-  return isAnswered(activate, bus);
+  return isAnswered(activate, bus, startTimeoutMs);
 }
 
 bool SingleInstance::quitRunning() {
@@ -92,7 +95,7 @@ bool SingleInstance::quitRunning() {
   const auto bus = QDBusConnection::sessionBus();
   auto quit = callTo(QStringLiteral("ActivateAction"));
   quit << quitAction << QVariantList{} << QVariantMap{};
-  return bus.isConnected() && isAnswered(quit, bus);
+  return bus.isConnected() && isAnswered(quit, bus, answerTimeoutMs);
 }
 
 void SingleInstance::Activate(const QVariantMap& platformData) {
