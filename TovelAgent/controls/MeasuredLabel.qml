@@ -9,10 +9,11 @@ import QtQuick
 Label {
     id: label
 
-    /// The width of the longest line near the beginning, with room for the ellipsis
-    /// after the last one. At least 1: an elided text without a width has no height
-    /// either.
-    readonly property real naturalWidth: Math.max(1, ruler.implicitWidth + ellipsisWidth)
+    /// The width of its longest line, with room for the ellipsis after the last one.
+    /// At least 1: an elided text without a width has no height either. For a long
+    /// text, wider than any window: measuring it takes too long.
+    readonly property real naturalWidth: isLong ? 100000 : Math.max(1, ruler.implicitWidth + ellipsisWidth)
+    readonly property bool isLong: text.length > 2000
     readonly property real ellipsisWidth: ruler.lineCount > maximumLineCount ? size : 0
 
     Text {
@@ -20,8 +21,7 @@ Label {
 
         visible: false
         textFormat: label.textFormat
-        // Measuring a very long text takes too long.
-        text: label.text.slice(0, 2000)
+        text: label.isLong ? "" : label.text
         font: label.font
         // Without an alignment, an empty text asks the input method for one. Qt 6.4
         // crashes in that call on a Wayland desktop without a keyboard.

@@ -65,6 +65,12 @@ ViewTest {
         compare(state.right, view.width);
     }
 
+    // Not as narrow as its first lines.
+    function test_longStateWithShortLinesFirstTakesHalfTheRow() {
+        const view = row("10.0.0.1", "443", "\n".repeat(2000) + "word ".repeat(2000));
+        compare(boxIn(labelsIn(view)[2], view).left, (view.width + 2 * Theme.spacing) / 2);
+    }
+
     // The taller side determines the row's height, the other one is in the middle.
     function test_sidesOfUnequalHeight_data() {
         return [{ tag: "state", address: "a", state: "1\n2\n3\n4\n5" }, { tag: "endpoints", address: "1\n2", state: "a" }];
