@@ -4,21 +4,22 @@
 
 import time
 
+from harness.panel import TABS
+
 from . import stage
 from .figures import goal, spread, table, with_spread
 from .observed import Observed
 
 ROUNDS = 10
-NAMES = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 
 
 def run(report):
-    first, later = {n: [] for n in NAMES}, {n: [] for n in NAMES}
+    first, later = {n: [] for n in TABS}, {n: [] for n in TABS}
     with stage.backend(stage.full(10_000)):
         for _ in range(3):
             with Observed(stage.PANEL) as panel:
                 for turn in range(ROUNDS):
-                    for number, name in enumerate(NAMES, 1):
+                    for number, name in enumerate(TABS, 1):
                         pressed = time.monotonic()
                         stage.key(f"ctrl+{number}")
                         time.sleep(0.4)
@@ -30,6 +31,6 @@ def run(report):
                    "connections.\n\n" + table(
                        ("tab", "the first time", "later"),
                        [(n, with_spread(first[n], "ms") if first[n] else "was in front",
-                         with_spread(later[n], "ms")) for n in NAMES]))
+                         with_spread(later[n], "ms")) for n in TABS]))
     report.goal("tab switch, to painted, slowest tab",
                 goal(max(spread(s)[0] for s in [*later.values(), *first.values()] if s), 30, " ms"))

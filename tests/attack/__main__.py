@@ -55,7 +55,8 @@ def under(attack, server, panel):
 
 
 def main(output, *words):
-    figures = json.loads(Path(output).read_text()) if words else {}
+    output = Path(output)
+    figures = json.loads(output.read_text()) if words and output.exists() else {}
     display = Display()
     tokens.write(tokens.HOME, "token")
     for name, attack in every().items():
@@ -67,7 +68,7 @@ def main(output, *words):
             figures[name] = under(attack, server, panel)
         server.stop()
         print(name, {k: round(v, 1) for k, v in figures[name].items()}, flush=True)
-        Path(output).write_text(json.dumps(figures, indent=1) + "\n")
+        output.write_text(json.dumps(figures, indent=1) + "\n")
     display.stop()
 
 

@@ -57,11 +57,14 @@ def million_headers(victim):
     victim.send(OK + b"".join(b"X-%d: y\r\n" % i for i in range(1_000_000)) + b"\r\n{}")
 
 
-def byte_every_half_second(victim):
-    for byte in OK + b"X: " + b"y" * 1000:
-        if not victim.continues(0.5):
-            return
-        victim.send(bytes([byte]))
+def drip(data, pause):
+    """Sends a byte, and after `pause` seconds the next one."""
+    def send(victim):
+        for byte in data:
+            if not victim.continues(pause):
+                return
+            victim.send(bytes([byte]))
+    return send
 
 
 def silence(victim):
@@ -138,7 +141,7 @@ def every():
         "chunks without end": endless_chunks,
         "a header line without end": endless_header_line,
         "a million headers": million_headers,
-        "a byte every half second": byte_every_half_second,
+        "a byte every half second": drip(OK + b"X: " + b"y" * 1000, 0.5),
         "silence": silence,
         "a text of 60 MB": huge_text(),
         "a text of 60 MB in chunks": huge_text_in_chunks(),

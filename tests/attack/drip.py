@@ -13,22 +13,15 @@ from pathlib import Path
 
 from harness import bodies, settings, tokens
 from harness.display import Display
-from harness.panel import Panel
+from harness.panel import TABS, Panel
 from harness.waiting import until
 
 from .attacker import Attacker
-from .attacks import OK
+from .attacks import OK, drip
 
 SPARE_DESCRIPTORS = 24
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 SIZES = ((1000, 700), (1200, 900))
-
-
-def drip(victim):
-    for byte in OK + b"Content-Length: 1000000\r\n\r\n" + b" " * 1000:
-        if not victim.continues(2.0):
-            return
-        victim.send(bytes([byte]))
+ATTACK = drip(OK + b"Content-Length: 1000000\r\n\r\n" + b" " * 1000, pause=2.0)
 
 
 def descriptors(pid):
@@ -70,13 +63,10 @@ def main(output, minutes="10"):
     limit = limit_descriptors(panel.pid)
 
     messages, used, slowest = Counter(), [], 0
-    with server.attacking(drip):
+    with server.attacking(ATTACK):
         end = time.monotonic() + 60 * float(minutes)
-        for turn in range(10_000):
-            begun = time.monotonic()
-            if begun > end:
-                break
-            messages[use(panel, turn)] += 1
+        while (begun := time.monotonic()) < end:
+            messages[use(panel, len(used))] += 1
             slowest = max(slowest, time.monotonic() - begun)
             used.append(len(descriptors(panel.pid)))
             time.sleep(5)

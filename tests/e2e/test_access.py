@@ -6,10 +6,10 @@ import pytest
 
 from harness import bodies, hands, picker, settings
 from harness.lists import listed
+from harness.panel import TABS
 from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
 from harness.waiting import until
 
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 BADGES = [("group", "Status: OK"), ("group", "Threats: 1")]
 BAR = [("tab", name) for name in TABS]
 WINDOW = [("button", name) for name in ("Minimize", "Maximize", "Close")]

@@ -5,11 +5,11 @@
 import pytest
 
 from harness import desktops, hands
+from harness.panel import TABS
 from harness.screen import Picture
 from harness.waiting import until
 from harness.window import Box
 
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 PLACE = Box(200, 150, 1000, 700)
 
 pytestmark = pytest.mark.usefixtures("token", "clean_home")

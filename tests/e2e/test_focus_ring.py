@@ -6,10 +6,10 @@ import pytest
 
 from harness import colours, hands, settings
 from harness.contrast import contrast
+from harness.panel import TABS
 from harness.screen import Picture
 from harness.waiting import until
 
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 WEAKEST = 3.0
 THICKNESS = 2
 # How far from a control's edge its ring may be, either way.

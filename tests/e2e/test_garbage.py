@@ -5,10 +5,9 @@
 import pytest
 
 from harness import picker, settings
+from harness.panel import TABS
 
 pytestmark = pytest.mark.usefixtures("token", "clean_home")
-
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 
 
 def test_tabs_settings_and_windows(launch, backend):

@@ -7,11 +7,11 @@ import pytest
 from harness import bodies, colours, hands
 from harness.backend import ENDPOINTS
 from harness.lists import listed
+from harness.panel import TABS
 from harness.screen import Picture
 from harness.waiting import until
 from harness.window import Box
 
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 
 # One text or list that only this tab shows.
 SIGNS = {

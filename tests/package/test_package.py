@@ -11,10 +11,9 @@ import pytest
 
 import bare
 from harness import cards, hands, lists, picker, processes, settings, tokens
+from harness.panel import TABS
 from harness.screen import BUILD, save
 from harness.waiting import until
-
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 
 
 def take(panel, name):

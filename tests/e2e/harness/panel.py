@@ -18,6 +18,8 @@ EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(
     BUILD / "QuillmarkAgent.app/Contents/MacOS/quillmark-agent"
 )
 
+TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+
 
 def spawn(output, *prefix, **changes):
     """Starts the executable, with the prefix before it. The value None removes an
@@ -71,8 +73,7 @@ class Panel:
 
     def show(self, tab):
         """Chooses a tab by its key and returns its button once it is active."""
-        names = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
-        hands.key(f"ctrl+{names.index(tab) + 1}")
+        hands.key(f"ctrl+{TABS.index(tab) + 1}")
         return self.selected(tab)
 
     def selected(self, tab):
