@@ -13,6 +13,7 @@
 #include <boost/beast/core/tcp_stream.hpp>
 
 #include "client/AnswerReader.h"
+#include "platform/ProcessLimits.h"
 
 namespace quillmark {
 namespace {
@@ -45,6 +46,9 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   co_await stream.async_connect(request.server, completion);
   if (error) {
     co_return failureOf(error, HttpFailure::notConnected);
+  }
+  if (!leavesDescriptors(stream.socket().native_handle())) {
+    co_return HttpFailure::notConnected;
   }
 
   const auto text = requestText(request);

@@ -5,8 +5,6 @@
 
 #include <QGuiApplication>
 
-#include <sys/resource.h>
-
 #include "client/TaskExecutor.h"
 #include "main/ControlsStyle.h"
 #include "main/QuillmarkAgentApp.h"
@@ -14,6 +12,7 @@
 #include "main/SingleInstance.h"
 #include "platform/CommandLine.h"
 #include "platform/OperatingSystem.h"
+#include "platform/ProcessLimits.h"
 
 namespace {
 
@@ -47,20 +46,11 @@ int quitOpenPanel(int argc, char* argv[]) {
   return 1;
 }
 
-/// A core dump would contain the access token and the API key that is being typed.
-/// Sets only the soft limit, so that programs the panel starts may raise it again.
-void disableCoreDumps() {
-  rlimit limit{};
-  if (getrlimit(RLIMIT_CORE, &limit) == 0) {
-    limit.rlim_cur = 0;
-    setrlimit(RLIMIT_CORE, &limit);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  disableCoreDumps();
+  quillmark::disableCoreDumps();
+  quillmark::raiseDescriptorLimit();
   // First: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {

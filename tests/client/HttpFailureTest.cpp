@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 #include <boost/asio/io_context.hpp>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include "client/Completion.h"
 #include "client/Exchanges.h"
 
@@ -26,6 +29,23 @@ TEST_F(Failure, IsNotConnectedWithoutAServer) {
   const auto port = acceptor.local_endpoint().port();
   acceptor.close();
   EXPECT_EQ(completed(exchange(requestTo(port), {})).error(), HttpFailure::notConnected);
+}
+
+// Otherwise requests that a silent agent keeps waiting would use up the descriptors.
+TEST_F(Failure, IsNotConnectedWhenTooFewDescriptorsAreLeft) {
+  const int lowest = dup(STDIN_FILENO);
+  close(lowest);
+  rlimit before{};
+  getrlimit(RLIMIT_NOFILE, &before);
+  const auto withSpare = [&](int descriptors) {
+    const rlimit limit{static_cast<rlim_t>(lowest + descriptors), before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &limit);
+    const auto result = resultFor(okAnswer("{}"));
+    setrlimit(RLIMIT_NOFILE, &before);
+    return result;
+  };
+  EXPECT_EQ(withSpare(16).error(), HttpFailure::notConnected);
+  EXPECT_TRUE(withSpare(40));
 }
 
 TEST_F(Failure, IsBrokenOffForAnIncompleteAnswer) {

@@ -12,9 +12,11 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include "platform/Files.h"
+#include "platform/ProcessLimits.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/Waiting.h"
 
@@ -80,6 +82,22 @@ TEST_F(ChildProcess, InheritsNoIgnoredOrBlockedSignals) {
   std::signal(SIGTERM, handler);
   EXPECT_EQ(status.value(), 128 + SIGTERM);
   EXPECT_EQ(ignored.value(), 128 + SIGTERM);
+}
+
+// A program that uses select() cannot use descriptors above 1,023.
+TEST_F(ChildProcess, DoesNotInheritTheRaisedDescriptorLimit) {
+  rlimit before{};
+  getrlimit(RLIMIT_NOFILE, &before);
+  const rlimit low{before.rlim_max - 1, before.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &low);
+  raiseDescriptorLimit();
+  const auto soft = std::to_string(low.rlim_cur);
+  const auto status = runSilently(bash("[[ $(ulimit -Sn) == " + soft + " ]]"));
+  rlimit raised{};
+  getrlimit(RLIMIT_NOFILE, &raised);
+  setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_EQ(status.value(), 0);
+  EXPECT_EQ(raised.rlim_cur, before.rlim_max);
 }
 
 TEST_F(ChildProcess, PassesArgumentsUnchanged) {
