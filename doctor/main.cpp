@@ -13,6 +13,7 @@
 #include "Examination.h"
 #include "Output.h"
 #include "platform/CommandLine.h"
+#include "platform/StandardStreams.h"
 
 namespace {
 
@@ -88,6 +89,7 @@ int run(const quillmark::CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  quillmark::openClosedStandardStreams();
   try {
     const int code = run(quillmark::readCommandLine(argc, argv, commandLineRules));
     return std::cout.flush() ? code : somethingWrong;

@@ -23,6 +23,7 @@
 #include "Token.h"
 #include "platform/CommandLine.h"
 #include "platform/HomeDirectory.h"
+#include "platform/StandardStreams.h"
 #include "scan/SystemPaths.h"
 
 namespace {
@@ -90,6 +91,7 @@ int run() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  quillmark::openClosedStandardStreams();
   try {
     const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules);
     if (commandLine.exitCode) {

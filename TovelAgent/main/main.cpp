@@ -13,6 +13,7 @@
 #include "platform/CommandLine.h"
 #include "platform/OperatingSystem.h"
 #include "platform/ProcessLimits.h"
+#include "platform/StandardStreams.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ int quitOpenPanel(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  quillmark::openClosedStandardStreams();
   quillmark::disableCoreDumps();
   quillmark::raiseDescriptorLimit();
   // First: `--help` and `--quit` need no display and should be fast.

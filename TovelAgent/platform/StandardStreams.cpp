@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/StandardStreams.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace quillmark {
+
+void openClosedStandardStreams() {
+  // The system always gives the lowest free descriptor.
+  int descriptor = STDIN_FILENO;
+  while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+    descriptor = open("/dev/null", O_RDWR);
+  }
+  if (descriptor >= 0) {
+    close(descriptor);
+  }
+}
+
+}  // namespace quillmark
