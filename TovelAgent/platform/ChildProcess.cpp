@@ -88,6 +88,15 @@ boost::system::result<int> waitFor(pid_t child) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
+/// Leaves no zombie, and does not wait if a thread is available.
+void waitInBackground(pid_t child) {
+  try {
+    std::thread([child] { static_cast<void>(waitFor(child)); }).detach();
+  } catch (const std::system_error&) {
+    static_cast<void>(waitFor(child));
+  }
+}
+
 }  // namespace
 
 error_code startDetached(const Command& command) {
@@ -95,25 +104,24 @@ error_code startDetached(const Command& command) {
   setup.useNewSession();
   pid_t child = 0;
   const auto error = setup.spawn(command, child);
-  if (error) {
-    return error;
+  if (!error) {
+    waitInBackground(child);
   }
-  try {
-    std::thread([child] { static_cast<void>(waitFor(child)); }).detach();
-  } catch (const std::system_error&) {
-    // No thread is available: wait, so that no zombie remains.
-    static_cast<void>(waitFor(child));
-  }
-  return {};
+  return error;
 }
 
-boost::system::result<int> runSilently(const Command& command) {
+boost::system::result<int> runSilently(const Command& command, std::chrono::milliseconds limit) {
   keepExitStatuses();
   SpawnSetup setup;
   setup.discardOutput();
   pid_t child = 0;
   if (const auto error = setup.spawn(command, child)) {
     return error;
+  }
+  if (!endsWithin(child, limit)) {
+    kill(child, SIGKILL);
+    waitInBackground(child);
+    return make_error_code(boost::system::errc::timed_out);
   }
   return waitFor(child);
 }

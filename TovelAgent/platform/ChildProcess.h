@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -25,9 +26,11 @@ struct Command {
 [[nodiscard]] boost::system::error_code startDetached(const Command& command);
 
 /// Runs `command` with its output discarded and waits for it to end. Returns its
-/// exit status, or 128 plus the number of the signal that ended it; an error
-/// when it could not be started or waited for. Sets an ignored SIGCHLD to its
-/// default. Blocks the calling thread; threads: as `homeDirectory`.
-[[nodiscard]] boost::system::result<int> runSilently(const Command& command);
+/// exit status, or 128 plus the number of the signal that ended it; an error when it
+/// could not be started or waited for, or has not ended within `limit` and is
+/// therefore killed. Sets an ignored SIGCHLD to its default. Blocks the calling
+/// thread; threads: as `homeDirectory`.
+[[nodiscard]] boost::system::result<int> runSilently(
+    const Command& command, std::chrono::milliseconds limit = std::chrono::seconds(5));
 
 }  // namespace quillmark

@@ -3,10 +3,15 @@
 
 #include "platform/OperatingSystem.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
 #include <malloc.h>
+#include <poll.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace quillmark {
@@ -18,6 +23,25 @@ std::string programPath() {
 
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions) {
   posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+}
+
+bool endsWithin(pid_t child, std::chrono::milliseconds limit) {
+  // The header of glibc 2.36 that declares `pidfd_open` is not for C++.
+  const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, child, 0));
+  if (descriptor < 0) {
+    // Without descriptors, wait for as long as it takes.
+    return true;
+  }
+  const auto end = std::chrono::steady_clock::now() + limit;
+  pollfd ended{descriptor, POLLIN, 0};
+  int count = -1;
+  do {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    count = poll(&ended, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
+  } while (count < 0 && errno == EINTR);
+  close(descriptor);
+  return count != 0;
 }
 
 void returnLargeBlocksOnFree() {

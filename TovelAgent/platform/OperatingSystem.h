@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include <spawn.h>
+#include <sys/types.h>
 
 namespace quillmark {
 
@@ -19,6 +21,10 @@ namespace quillmark {
 /// Adds to `actions` what makes a child inherit only the standard streams and no
 /// other descriptor of this process.
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
+
+/// Waits until `child` has ended, but not longer than `limit`; then returns false.
+/// Leaves its exit status to be collected.
+[[nodiscard]] bool endsWithin(pid_t child, std::chrono::milliseconds limit);
 
 /// Makes the allocator return blocks of 1 MiB or more to the system as soon as they
 /// are freed. Call before threads start.

@@ -3,6 +3,8 @@
 
 #include "platform/ChildProcess.h"
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +15,7 @@
 
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/Files.h"
@@ -39,6 +42,13 @@ TEST_F(ChildProcess, ReturnsTheExitStatus) {
 TEST_F(ChildProcess, ReturnsTheSignalThatEndedIt) {
   EXPECT_EQ(runSilently(bash("kill -TERM $$")).value(), 128 + SIGTERM);
   EXPECT_EQ(runSilently(bash("kill -KILL $$")).value(), 128 + SIGKILL);
+}
+
+TEST_F(ChildProcess, IsKilledAtItsTimeLimit) {
+  const auto result = runSilently(bash("exec sleep 1000"), std::chrono::milliseconds(100));
+  EXPECT_EQ(result.error(), boost::system::errc::timed_out);
+  EXPECT_TRUE(waitUntil([] { return waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD; }))
+      << "a child process is left";
 }
 
 // This program may have been started with that signal ignored, and then the system keeps
