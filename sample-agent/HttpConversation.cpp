@@ -78,8 +78,8 @@ bool isTooLarge(const ErrorCode& error) {
 
 /// Whether the client sent bytes that are no valid request; else it has disconnected.
 bool isInvalidRequest(const ErrorCode& error) {
-  static const auto& httpErrors = http::make_error_code(http::error::bad_version).category();
-  return error.category() == httpErrors && error != http::error::end_of_stream &&
+  const ErrorCode anyInvalid = http::error::bad_version;
+  return error.category() == anyInvalid.category() && error != http::error::end_of_stream &&
          error != http::error::partial_message;
 }
 

@@ -34,7 +34,7 @@ icu::Locale userLocale() {
 /// time zone and notices when the machine's zone changes; ICU does not.
 UDate localTimeAsUtc(const QDateTime& instant) {
   const auto local = instant.toLocalTime();
-  return static_cast<UDate>(QDateTime(local.date(), local.time(), Qt::UTC).toMSecsSinceEpoch());
+  return static_cast<UDate>(local.toMSecsSinceEpoch() + 1000LL * local.offsetFromUtc());
 }
 
 QString inShortStyle(const QDateTime& instant) {

@@ -111,6 +111,10 @@ class HostileAgent : public WithTokenFiles {
     const std::lock_guard lock(mutex_);
     handler_ = std::move(handler);
   }
+  Backend::Handler handler() {
+    const std::lock_guard lock(mutex_);
+    return handler_;
+  }
 
   const AgentStatus goodStatus{true, 3, "none", "ok", "2024-01-15T10:30:00Z"};
   std::mutex mutex_;
@@ -119,8 +123,7 @@ class HostileAgent : public WithTokenFiles {
   Elsewhere otherPort_{"127.0.0.1"};
   Elsewhere otherHost_{"127.0.0.2"};
   Backend backend_{[this](const ReceivedRequest& request, Connection& connection) {
-    const auto handler = (std::lock_guard(mutex_), handler_);
-    handler(request, connection);
+    handler()(request, connection);
   }};
 };
 
