@@ -74,9 +74,13 @@ function(quillmark_gtest target)
   # CMake uses the first property before 3.29, the second one since then.
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher}"
                                              TEST_LAUNCHER "${launcher}")
+  set(prefix "")
+  if(QUILLMARK_TEST_PREFIX)
+    set(prefix TEST_PREFIX "${QUILLMARK_TEST_PREFIX}")
+  endif()
   gtest_discover_tests(
     ${target}
-    TEST_PREFIX "${QUILLMARK_TEST_PREFIX}"
+    ${prefix}
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 600
     PROPERTIES PROCESSORS ${arg_PLACES} LABELS case)

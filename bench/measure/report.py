@@ -52,5 +52,5 @@ def machine():
                 if line.startswith("model name")), platform.machine())
     system = platform.freedesktop_os_release()["PRETTY_NAME"]
     return (f"Measured on {os.cpu_count()} cores of {cpu}, {system}, "
-            f"Qt {version('libqt6core6')}, Boost {version('libboost-json1.81-dev')}, "
+            f"Qt {version('libqt6core6*')}, Boost {version('libboost-json1.*-dev')}, "
             "without a GPU, under Xvfb.")
