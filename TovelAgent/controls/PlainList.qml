@@ -15,6 +15,9 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     pixelAligned: true
     reuseItems: true
+    // Rows that are prepared out of view would take as long to lay out as those in
+    // view, and Qt 6.8 would leave them ignored by assistive technology.
+    cacheBuffer: 0
     activeFocusOnTab: true
     // Rows cannot be selected, and a highlight would slow down the first frames.
     keyNavigationEnabled: false

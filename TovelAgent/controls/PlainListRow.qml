@@ -17,9 +17,13 @@ Item {
     // Whole device pixels, or the lines below the rows differ in thickness.
     height: Math.ceil((holder.childrenRect.height + 2 * Theme.listRowInset) / pixel) * pixel
 
-    // Hides a pooled row from assistive technology until it is reused.
+    // Hides a pooled row from assistive technology until it is reused. Qt 6.8 also
+    // makes it ignored, and leaves it so.
     ListView.onPooled: visible = false
-    ListView.onReused: visible = true
+    ListView.onReused: {
+        visible = true;
+        Accessible.ignored = false;
+    }
 
     Accessible.role: Accessible.ListItem
     Accessible.name: label

@@ -85,6 +85,8 @@ def attacks(report, results):
 def drip(report, results):
     figures = json.loads((results / "drip.json").read_text())
     report.goal("drip: good values after", goal(figures["seconds_to_good"], 6, " s"))
+    refused = sum(count for text, count in figures["messages"].items() if "Error" in text)
+    report.goal(f"drip: of {figures['turns']} saves, failed", goal(refused, 0))
     report.section("Drip", f"For {number(figures['minutes'])} minutes the agent sends one byte "
                    "every two seconds, while the panel may open only as many descriptors as at "
                    "the start and 24 more. It is used all the time: resized, all tabs visited, a "
