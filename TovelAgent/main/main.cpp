@@ -51,7 +51,7 @@ int quitOpenPanel(int argc, char* argv[]) {
 int main(int argc, char* argv[]) {
   quillmark::disableCoreDumps();
   quillmark::raiseDescriptorLimit();
-  // First: `--help` and `--quit` need no display and should be fast.
+  // Before Qt is set up: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {
     return *commandLine.exitCode;
