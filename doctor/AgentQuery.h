@@ -22,8 +22,9 @@ struct QueryResult {
 /// How long to wait for the agent. The panel waits longer; a person at a terminal does not.
 inline constexpr std::chrono::seconds queryTimeout(5);
 
-/// Requests all `paths` from the agent at once, as the panel would with this token.
-/// Returns the results in the order of `paths`, after `queryTimeout` at the latest.
+/// Sends the panel's request for each of `paths` to the agent, with this token. All run
+/// at the same time; the panel sends one after another. Returns the results in the order
+/// of `paths`, after `queryTimeout` at the latest.
 [[nodiscard]] std::vector<QueryResult> queryAgent(const std::string& token,
                                                   const std::vector<std::string_view>& paths);
 

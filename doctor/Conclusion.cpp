@@ -13,7 +13,8 @@
 namespace quillmark::doctor {
 namespace {
 
-/// The checks whose failure keeps an agent from starting, the first to apply first.
+/// The checks whose failure keeps an agent from starting. The first of these that failed
+/// gives the step.
 constexpr std::string_view startBlockers[] = {"bundle", "program", "tools",
                                               "home",   "logs",    "config-toml"};
 
@@ -56,8 +57,8 @@ Conclusion conclude(const Findings& findings, const Shown& shown, const Port& po
     return conclusion;
   }
   conclusion.text = "ONLINE: the panel shows the agent's status, \"" + *shown.status + '"';
-  if (!shown.empty.empty()) {
-    conclusion.text += ", but no " + boost::algorithm::join(shown.empty, ", no ");
+  if (!shown.failedParts.empty()) {
+    conclusion.text += ", but no " + boost::algorithm::join(shown.failedParts, ", no ");
   }
   conclusion.text += '.';
   return conclusion;

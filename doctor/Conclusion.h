@@ -9,6 +9,9 @@
 
 namespace quillmark::doctor {
 
+/// What the panel shows and why, in one sentence, and the one thing to do first: what
+/// keeps the agent from starting if nothing listens on its port, else the first step of
+/// the worst findings.
 [[nodiscard]] Conclusion conclude(const Findings& findings, const Shown& shown, const Port& port);
 
 }  // namespace quillmark::doctor

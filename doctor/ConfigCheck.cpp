@@ -61,8 +61,8 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
   return finding;
 }
 
-/// Hides the key that the TOML parser finds, and the whole value in every line with "api_key",
-/// because the file may not be valid TOML.
+/// Hides the key as the TOML parser finds it, and, because the file may not be valid TOML, for
+/// every line with "api_key" both the whole value and the part that the Settings tab reads.
 void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sanitize) {
   sanitize.hide(toml.apiKey.value_or(""));
   while (!text.empty()) {
@@ -90,10 +90,12 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   const ConfigCandidate* chosen = nullptr;
   for (std::size_t i = 0; i < places.size(); ++i) {
     findings.push_back(judge(places[i], checks.at(i), chosen != nullptr, sanitize));
-    chosen = chosen == nullptr && places[i].text ? &places[i] : chosen;
+    if (chosen == nullptr && places[i].text) {
+      chosen = &places[i];
+    }
   }
   if (chosen == nullptr) {
-    findings.back().say(Mark::note, "so this machine is not enrolled", enrol);
+    findings.back().say(Mark::note, "so this machine is not enrolled", enrolStep);
     return;
   }
   const auto toml = readToml(*chosen->text);

@@ -18,6 +18,7 @@ void sayReadBack(Finding& finding, const std::optional<std::string>& written,
     finding.facts["length"] = written->size();
   }
   if (!written) {
+    // The file is not valid TOML, or the line is outside the section [agent].
     finding.say(Mark::ok, counted(readBack->size(), "byte") + ", as the Settings tab reads it");
     return;
   }
@@ -58,9 +59,9 @@ Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries) {
   Finding finding;
   finding.check = "config-key";
   if (toml.apiKey && isPlaceholderKey(*toml.apiKey)) {
-    finding.say(Mark::wrong, "a placeholder, not a key", enrol);
+    finding.say(Mark::wrong, "a placeholder, not a key", enrolStep);
   } else if (toml.apiKey ? toml.apiKey->empty() : !entries.apiKey) {
-    finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrol);
+    finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrolStep);
   } else {
     sayReadBack(finding, toml.apiKey, entries.apiKey);
   }
@@ -71,7 +72,7 @@ Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries) {
   Finding finding;
   finding.check = "config-url";
   if (toml.serverUrl ? toml.serverUrl->empty() : !entries.serverUrl) {
-    finding.say(Mark::note, "none, the Settings tab shows its own default", enrol);
+    finding.say(Mark::note, "none, the Settings tab shows its own default", enrolStep);
   } else {
     sayReadBack(finding, toml.serverUrl, entries.serverUrl);
   }

@@ -12,14 +12,15 @@
 namespace quillmark::doctor {
 
 /// The step when the API key or the URL is missing.
-inline constexpr auto enrol =
+inline constexpr auto enrolStep =
     "Enter the API key on the panel's Settings tab, press Save & Connect, and restart the agent.";
 
-/// Whether the configuration is valid TOML with a section [agent]. `path` is already
-/// sanitized.
+/// Reports whether the configuration is valid TOML with a section [agent]. `path` must
+/// be sanitized.
 [[nodiscard]] Finding judgeToml(const ConfigToml& toml, const std::string& path);
 
-// Whether the Settings tab reads the value exactly as the file has it.
+// The next two report whether the file has the value, and whether the Settings tab reads
+// it exactly as it is there: the tab has no TOML parser.
 [[nodiscard]] Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries);
 [[nodiscard]] Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries);
 

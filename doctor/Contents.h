@@ -20,8 +20,8 @@ struct Contents {
   std::optional<DecodeError> error;   ///< set when the panel shows nothing of the body
   std::string summary;                ///< as text, such as "2 alerts"
   std::optional<std::string> status;  ///< the agent's status text, sanitized
-  Mark mark = Mark::ok;
-  boost::json::object entries;  ///< number of entries of each kind
+  Mark mark = Mark::ok;               ///< of the summary; not for an error
+  boost::json::object entries;        ///< number of entries of each kind
 };
 
 // One function for each endpoint of the agent.

@@ -38,7 +38,7 @@ Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& po
       shown.status = verdict.status;
       shown.offlineBecause = verdict.reason;
     } else if (!verdict.reason.empty()) {
-      shown.empty.emplace_back(endpoint.shownAs);
+      shown.failedParts.emplace_back(endpoint.shownAs);
     }
     findings.push_back(std::move(verdict.finding));
   }

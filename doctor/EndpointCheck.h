@@ -16,9 +16,9 @@ namespace quillmark::doctor {
 
 /// What the panel shows of the agent's answers.
 struct Shown {
-  std::optional<std::string> status;  ///< the agent's status text, sanitized; no value: OFFLINE
-  std::string offlineBecause;         ///< the reason, as a clause
-  std::vector<std::string> empty;     ///< the other parts without contents, such as "alerts"
+  std::optional<std::string> status;     ///< the agent's status text, sanitized; no value: OFFLINE
+  std::string offlineBecause;            ///< the reason, as a clause
+  std::vector<std::string> failedParts;  ///< what else it cannot show, such as "alerts"
 };
 
 /// Sends the panel's requests to the agent, with the same token; none without a token.

@@ -21,6 +21,8 @@ struct Port {
 inline constexpr auto startAgentStep =
     "Start the agent: Start Agent on the panel's Settings tab, or its own service.";
 
+/// Checks whether something listens on the agent's port, whether it is an agent, and
+/// whether other machines can reach it. Reads /proc; connects to nothing.
 [[nodiscard]] Port checkPort(Findings& findings, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

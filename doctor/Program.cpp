@@ -15,6 +15,7 @@ namespace quillmark::doctor {
 
 namespace {
 
+/// The command line of the shell that Start Agent runs.
 std::string starterText() {
   auto [text, arguments] = startCommand(bundlePath(), homeDirectory());
   for (const auto& argument : arguments) {

@@ -9,7 +9,8 @@
 
 namespace quillmark::doctor {
 
-/// What a process is that the panel's search for the agent matches.
+/// The kinds of processes that have the agent's file name on their command line, and so
+/// are matched when the panel searches for the agent.
 enum class Kind {
   agent,    ///< runs a program with the agent's file name
   starter,  ///< the shell of Start Agent, which waits for its agent to end
@@ -17,6 +18,8 @@ enum class Kind {
   other,
 };
 
+/// The kind of `process`, which may be any: `other` includes those that the search does
+/// not match.
 [[nodiscard]] Kind kindOf(const ProcessCommand& process);
 
 /// The file name of the program that the process runs; taken from its command line

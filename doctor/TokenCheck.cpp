@@ -20,7 +20,12 @@ struct TokenPlace {
   enum class Owner { system, user } owner;
 };
 
-enum class FileUse { tried, notReached, noneReadable };
+/// What a panel that starts now does with a token file.
+enum class FileUse {
+  tried,         ///< opens it: it is the one in use, or one before it that cannot be read
+  notReached,    ///< does not open it, because an earlier one is in use
+  noneReadable,  ///< opens it, and can read neither this one nor any other
+};
 
 constexpr auto makeTokenStep =
     "Start the agent, which makes its token, then start the panel again.";

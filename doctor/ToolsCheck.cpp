@@ -38,6 +38,7 @@ bool isRunnable(const std::string& name) {
 
 void checkTools(Findings& findings) {
   const auto probe = probeCommand();
+  // The first word of the line that the shell runs is a program, too: `pgrep`.
   const auto& line = probe.arguments.back();
   const std::vector<std::string> tools = {probe.executable, line.substr(0, line.find(' ')),
                                           stopCommand().executable};

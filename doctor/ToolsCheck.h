@@ -8,7 +8,8 @@
 namespace quillmark::doctor {
 
 /// Checks for the programs with which the Settings tab starts, stops and finds an
-/// agent. Without them the tab does nothing or finds no agent, and does not say why.
+/// agent. Without `pgrep` the tab finds no agent and does not say why; without the others
+/// it shows an error.
 void checkTools(Findings& findings);
 
 }  // namespace quillmark::doctor

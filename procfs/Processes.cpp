@@ -17,11 +17,13 @@ namespace {
 // The kernel truncates a program's name to this many bytes.
 constexpr std::size_t maxNameLength = 15;
 
-// PF_KTHREAD. Process 2 is no criterion: in a container, it is an ordinary process.
+// PF_KTHREAD. Kernel threads are also the children of process 2, but in a container
+// process 2 is an ordinary process.
 constexpr unsigned long kernelThreadFlag = 0x00200000;
 
 /// Fills the fields from /proc/PID/stat; false if the process is not to be listed.
-/// The name is in parentheses and may contain any byte, even a parenthesis.
+/// The name is in parentheses and may contain any byte, even a parenthesis. `fields`
+/// begins after it, with the state: `fields[0]` is field 3 of proc(5).
 bool readStat(const std::string& folder, Process& process) {
   const auto text = readSystemFile(folder + "/stat");
   if (!text) {
@@ -58,6 +60,9 @@ std::string wholeName(const std::string& folder, const std::string& kept) {
   return program.starts_with(kept) ? std::string(program) : kept;
 }
 
+/// The innermost service among the process's control groups, or empty: a user's services
+/// are inside "user@1000.service". "0::" marks version 2 of control groups, and
+/// ":name=systemd:" systemd's own groups in version 1.
 std::string readUnit(const std::string& folder) {
   const auto text = readSystemFile(folder + "/cgroup").value_or("");
   for (const auto line : split(text, '\n')) {
@@ -75,7 +80,7 @@ std::string readUnit(const std::string& folder) {
   return {};
 }
 
-std::vector<std::uint64_t> readSockets(const std::string& folder) {
+std::vector<std::uint64_t> socketInodes(const std::string& folder) {
   constexpr std::string_view prefix = "socket:[";
   std::vector<std::uint64_t> inodes;
   const std::string descriptors = folder + "/fd";
@@ -111,7 +116,7 @@ std::vector<Process> readProcesses(const std::string& procRoot) {
     process.name = wholeName(folder, process.name);
     process.unit = readUnit(folder);
     process.executable = readLink(folder + "/exe").value_or("");
-    process.sockets = readSockets(folder);
+    process.sockets = socketInodes(folder);
     processes.push_back(std::move(process));
   }
   std::sort(processes.begin(), processes.end(),

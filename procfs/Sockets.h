@@ -12,8 +12,12 @@ namespace quillmark {
 
 enum class Transport { tcp, udp };
 
-/// Which machines can reach a local address.
-enum class Reach { thisMachine, oneAddress, allInterfaces };
+/// From where a socket can be reached.
+enum class Reach {
+  thisMachine,    ///< from this machine only: it is bound to a loopback address
+  oneAddress,     ///< from the network of the one address that it is bound to
+  allInterfaces,  ///< from every network: it is bound to no address
+};
 
 struct SocketEnd {
   std::string address;
@@ -42,6 +46,7 @@ struct Socket {
 /// is not connected.
 [[nodiscard]] bool isListening(const Socket& socket);
 
+/// From where `socket` can be reached, by its local address.
 [[nodiscard]] Reach reachOf(const Socket& socket);
 
 }  // namespace quillmark

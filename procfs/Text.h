@@ -19,6 +19,7 @@ namespace quillmark {
 
 /// The parts of `text` between separators, empty ones included; views into it.
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, char separator);
+// Views into a temporary string would dangle.
 std::vector<std::string_view> split(std::string&& text, char separator) = delete;
 
 /// The words of `line`, separated by spaces and tabs; views into it.

@@ -102,11 +102,12 @@ asio::awaitable<void> drain(tcp::socket& socket) {
 
 asio::awaitable<void> converse(tcp::socket& socket, std::uint32_t headerBytes, AnswerRule rule) {
   ErrorCode error;
-  // A named token: GCC 12 destroys temporaries inside a co_await twice.
+  // Named, because GCC 12 may destroy a temporary argument inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   beast::flat_buffer buffer;
   Parser parser;
   parser.header_limit(headerBytes);
+  // No body is read. A limit would make the parser reject the header of a longer one.
   parser.body_limit(boost::none);
   co_await http::async_read_header(socket, buffer, parser, completion);
   if (error && !isInvalidRequest(error)) {

@@ -66,7 +66,8 @@ std::string randomHex(std::size_t count) {
   constexpr std::string_view digits = "0123456789abcdef";
   std::array<unsigned char, 256> bytes{};
   count = std::min(count, bytes.size());
-  // So few bytes are returned all at once, or none of them while the machine boots.
+  // The system returns so few bytes all at once. Only while the machine boots, a signal
+  // may interrupt the call before it returns any.
   while (getrandom(bytes.data(), count, 0) != static_cast<ssize_t>(count)) {
   }
   std::string text;

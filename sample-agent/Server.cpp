@@ -60,16 +60,17 @@ struct Server::State {
 };
 
 asio::awaitable<void> Server::State::acceptClients(std::shared_ptr<State> state) {
-  constexpr auto pauseWithoutDescriptors = std::chrono::milliseconds(100);
+  // Accepting usually fails because no descriptor is free. One is when a connection ends.
+  constexpr auto pauseAfterError = std::chrono::milliseconds(100);
   const auto executor = state->acceptor.get_executor();
   asio::steady_timer pause(executor);
   ErrorCode error;
-  // A named token: GCC 12 destroys temporaries inside a co_await twice.
+  // Named, because GCC 12 may destroy a temporary argument inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);
   while (state->acceptor.is_open()) {
     auto socket = co_await state->acceptor.async_accept(completion);
     if (error) {
-      pause.expires_after(pauseWithoutDescriptors);
+      pause.expires_after(pauseAfterError);
       co_await pause.async_wait(completion);
       continue;
     }

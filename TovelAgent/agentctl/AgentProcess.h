@@ -37,7 +37,8 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 
 /// Starts the agent of this program's bundle and does not wait for it. Returns an
 /// error only when the shell cannot be started, or `unquotablePath` when the
-/// bundle's path contains a single quote. Threads: as `homeDirectory`.
+/// bundle's path contains a single quote. Any thread, as long as no thread changes the
+/// environment at the same time.
 [[nodiscard]] boost::system::error_code startAgentProcess();
 
 /// Runs the stop command to its end; finding no agent is not an error. Returns an

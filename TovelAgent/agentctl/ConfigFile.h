@@ -11,12 +11,13 @@
 namespace quillmark {
 
 /// The path where the agent's configuration is written: `config.toml` in the
-/// user's configuration folder. Threads: as `homeDirectory`.
+/// user's configuration folder. Any thread, as long as no thread changes the
+/// environment at the same time.
 [[nodiscard]] std::string configFilePath();
 
 /// Replaces the configuration with a complete new one, with a new agent id each
-/// time. On an error the old configuration is unchanged. Threads: as
-/// `homeDirectory`; waits for the disk.
+/// time. On an error the old configuration is unchanged. Waits for the disk. Any
+/// thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] boost::system::error_code saveConfig(const std::string& serverUrl,
                                                    const std::string& apiKey);
 
@@ -29,8 +30,8 @@ struct ImportResult {
 
 /// Replaces the configuration with an exact copy of the file at `source`, which
 /// must be at most 64 MiB of UTF-8 text with "[agent]" anywhere in it. Otherwise
-/// the old configuration is unchanged. Threads: as `homeDirectory`; waits for the
-/// disk.
+/// the old configuration is unchanged. Waits for the disk. Any thread, as long as no
+/// thread changes the environment at the same time.
 [[nodiscard]] ImportResult importConfigFile(const std::string& source);
 
 /// The maximum size of a configuration that is read.

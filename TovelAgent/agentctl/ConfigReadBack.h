@@ -19,19 +19,20 @@ struct ConfigEntries {
 };
 
 /// Finds the two values in the lines of `text`, in any section; the last usable
-/// one of each is taken. A line has a value if it begins with the value's name; the
-/// value ends at its first "=". Any thread.
+/// one of each is taken. Not a TOML parser: every line that begins with "api_key" or
+/// "server_url" counts, `api_keys = …` too, and a second "=" in the line ends the
+/// value. Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);
 
 /// Whether `key` is a placeholder for a real key; placeholders are not read back.
 [[nodiscard]] bool isPlaceholderKey(std::string_view key);
 
 /// The files that the panel reads the configuration back from, in search order.
-/// Threads: as `homeDirectory`.
+/// Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::vector<std::string> configSearchPaths();
 
-/// The entries of the first of these files that can be read. Threads: as
-/// `homeDirectory`; it reads files.
+/// The entries of the first of these files that can be read. Reads files. Any thread,
+/// as long as no thread changes the environment at the same time.
 [[nodiscard]] ConfigEntries readCurrentConfig();
 
 }  // namespace quillmark

@@ -13,7 +13,7 @@
 namespace quillmark {
 
 /// The files that may contain the agent's access token; the first readable one is
-/// used. Threads: as `homeDirectory`.
+/// used. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::vector<std::string> accessTokenPaths();
 
 /// The token in the file at `path`, without white space at both ends; the errors
@@ -23,11 +23,13 @@ namespace quillmark {
 /// Reads the agent's access token: from the system-wide file if that can be read,
 /// even if it is blank, otherwise from the file in the user's home directory.
 /// White space at both ends is removed. No value when neither file can be read as
-/// UTF-8 text. Threads: as `homeDirectory`; it reads files.
+/// UTF-8 text. Reads files. Any thread, as long as no thread changes the environment
+/// at the same time.
 [[nodiscard]] std::optional<std::string> readAccessToken();
 
 /// Whether `token` can be sent unchanged in an HTTP header field: it contains no
-/// control character except tab. They could end the header or forge a field.
+/// control character except tab. Any other one could end the header or add a forged
+/// field. Any thread.
 [[nodiscard]] bool fitsHeaderField(std::string_view token);
 
 }  // namespace quillmark

@@ -49,7 +49,7 @@ class AnswerReader final {
   std::optional<Parser> parser_;
   std::optional<HttpFailure> failure_;
   bool isDone_ = false;
-  std::size_t headerSize_ = 0;
+  std::size_t headerSize_ = 0;  ///< bytes of the header parsed so far; 0 after it
   int interimAnswers_ = 0;
 };
 

@@ -47,6 +47,7 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   if (error) {
     co_return failureOf(error, HttpFailure::notConnected);
   }
+  // Only now, because connecting opens the socket.
   if (!leavesDescriptors(stream.socket().native_handle())) {
     co_return HttpFailure::notConnected;
   }

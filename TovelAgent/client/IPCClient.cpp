@@ -27,7 +27,7 @@ asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  // Named: see `completion` in HttpExchange.cpp.
+  // Named, because GCC 12 may destroy a temporary inside a co_await twice.
   auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
   auto response = co_await std::move(request);
   if (!response) {

@@ -10,7 +10,7 @@ Pressable {
 
     required property string icon
     required property string text
-    required property color ground
+    required property color background
     property int padding: 10
 
     label: text
@@ -20,7 +20,7 @@ Pressable {
     Box {
         anchors.fill: parent
         radius: Theme.sectionRadius
-        color: button.ground
+        color: button.background
     }
 
     Row {

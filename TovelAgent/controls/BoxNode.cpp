@@ -23,7 +23,7 @@ QPointF origin(const QSGNode& node) {
 
 BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNinePatchNode()) {
   setFlag(UsePreprocess);
-  // OpenGL's node has no default.
+  // Always set it: with OpenGL, Qt leaves this value uninitialised.
   patch_->setDevicePixelRatio(1);
   appendChildNode(patch_);
 }

@@ -49,6 +49,7 @@ BoxPicture::BoxPicture(const BoxLook& look, QSize box)
     : reach(static_cast<int>(std::ceil(spread(look, shadowSteps.size() - 1)))) {
   const int corner =
       reach + static_cast<int>(std::ceil(std::max<qreal>(look.radius, look.borderWidth)));
+  // Two corners and one pixel between them to stretch, or less if the box is smaller.
   const QSize whole = box.grownBy({reach, reach, reach, reach});
   size = whole.boundedTo({2 * corner + 1, 2 * corner + 1});
   corners.setLeft(std::min(corner, size.width() / 2));

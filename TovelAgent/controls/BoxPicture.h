@@ -21,8 +21,9 @@ struct BoxLook {
   bool operator==(const BoxLook&) const = default;
 };
 
-/// The size and corners of the smallest nine-patch picture of a box: stretching the
-/// part between its corners gives any larger size. All lengths are device pixels.
+/// The measures, not the pixels, of the smallest nine-patch picture of a box:
+/// stretching the part between its corners gives any larger size. All lengths are
+/// device pixels.
 struct BoxPicture {
   BoxPicture(const BoxLook& look, QSize box);
 
@@ -31,7 +32,7 @@ struct BoxPicture {
   int reach = 0;     ///< how far the picture extends beyond the box on each side
 };
 
-/// The image of `picture`, drawn as `look` says.
+/// Draws the pixels of `picture`, in the given look. Any thread.
 [[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPicture& picture);
 
 }  // namespace quillmark

@@ -25,10 +25,12 @@ Column {
         color: Theme.gray
     }
 
+    // Qt tells assistive technology the property `text`, even of a masked field. So the
+    // real text is called `content` here, and a second property `text` below, with the
+    // displayed characters, hides it.
     component Entry: TextInput {
         id: entry
 
-        // The real text, which `text` below shadows.
         property alias content: entry.text
     }
 
@@ -43,8 +45,6 @@ Column {
         Entry {
             id: input
 
-            // Qt exposes `text` to assistive technology, even in a masked field.
-            // This property shadows it with the displayed text.
             property string text: displayText
 
             anchors.fill: parent

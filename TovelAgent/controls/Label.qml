@@ -12,6 +12,7 @@ Text {
     wrapMode: Text.Wrap
     color: Theme.text
     font.pixelSize: size
+    // Without an alignment, an empty text may crash Qt 6.4: see MeasuredLabel.qml.
     horizontalAlignment: Text.AlignLeft
 
     Accessible.role: Accessible.StaticText

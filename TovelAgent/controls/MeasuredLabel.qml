@@ -10,8 +10,8 @@ Label {
     id: label
 
     /// The width of its longest line, with room for the ellipsis after the last one.
-    /// At least 1: an elided text without a width has no height either. For a long
-    /// text, wider than any window: measuring it takes too long.
+    /// At least 1: an elided text without a width has no height either. A long text
+    /// is not measured, because that takes too long; it counts as wider than any window.
     readonly property real naturalWidth: isLong ? 100000 : Math.max(1, ruler.implicitWidth + ellipsisWidth)
     readonly property bool isLong: text.length > 2000
     readonly property real ellipsisWidth: ruler.lineCount > maximumLineCount ? size : 0

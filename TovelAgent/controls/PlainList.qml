@@ -36,7 +36,7 @@ ListView {
         parent: list
         anchors.fill: parent
         z: -1
-        color: Theme.listGround
+        color: Theme.listBackground
     }
 
     // When every row in view is removed, ListView would jump to near the top.
@@ -45,6 +45,7 @@ ListView {
 
         target: list.model
 
+        // Rows are removed at the end: if the first one in view goes, all in view go.
         function onRowsAboutToBeRemoved(parent, first) {
             allGone = list.indexAt(0, list.contentY) >= first;
         }

@@ -44,8 +44,9 @@ Item {
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
-        // The difference from 1 is invisible. The renderer assumes that an opaque box
-        // covers every pixel it touches, and leaves partly covered ones unpainted.
+        // Looks like 1, but the line no longer counts as opaque. The software renderer
+        // does not paint what is below an opaque item, not even in pixels that the item
+        // covers only partly.
         opacity: 0.999
     }
 }

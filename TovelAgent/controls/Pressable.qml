@@ -23,7 +23,8 @@ Item {
             pressed();
     }
 
-    // Qt reports an item as focusable by this value, even a disabled one.
+    // Qt tells assistive technology that an item with this value is focusable, even if
+    // the item is disabled.
     activeFocusOnTab: enabled
 
     Keys.onSpacePressed: event => pressBy(event)

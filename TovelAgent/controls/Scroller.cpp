@@ -61,6 +61,7 @@ void Scroller::keepInView() {
   const auto place = item_->mapRectToItem(content, item_->boundingRect());
   const auto maxPosition = place.top() - margin;
   const auto minPosition = place.bottom() + margin - target_->height();
+  // Not std::clamp(): of an item higher than the view, the top is shown.
   scrollTo(std::min(std::max(position(), minPosition), maxPosition));
 }
 

@@ -20,7 +20,7 @@ QtObject {
 
     readonly property color text: black
     readonly property color panelTint: Qt.rgba(0.98, 0.98, 0.99, 1)
-    readonly property color listGround: white
+    readonly property color listBackground: white
     readonly property color sectionBorder: Qt.rgba(0.9, 0.9, 0.9, 1)
     readonly property color fieldBorder: "#8A8F99"
     readonly property color successTint: Qt.rgba(0.9, 1, 0.9, 1)

@@ -8,8 +8,9 @@ namespace quillmark {
 /// Sets up the first window before it is shown. UI thread only.
 class AppDelegate final {
  public:
-  /// Gives the application's first window a light background and a surface with an
-  /// alpha channel. Does nothing if there is no window.
+  /// Makes the application's first window non-opaque (its surface gets an alpha channel)
+  /// and gives it a light background. Later windows keep Qt's defaults. Does nothing if
+  /// there is no window.
   void applicationDidFinishLaunching() const;
 };
 

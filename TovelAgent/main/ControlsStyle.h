@@ -5,9 +5,9 @@
 
 namespace quillmark {
 
-/// Fixes the style of Qt's own file dialog, whatever style the environment asks
-/// for: other styles mix badly with the panel, as dark on dark. Call before
-/// threads start, because it changes the environment.
+/// Makes Qt's own file dialog use one fixed style, whatever style the environment asks
+/// for: other styles combine badly with the panel's colours, for example dark text on
+/// a dark background. Call before threads start, because it changes the environment.
 void fixControlsStyle();
 
 }  // namespace quillmark

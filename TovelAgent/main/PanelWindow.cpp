@@ -33,6 +33,7 @@ PanelWindow::PanelWindow(QQmlEngine& engine)
     : component_(&engine, QStringLiteral("qrc:/qt/qml/Quillmark/Main/MainWindow.qml")) {}
 
 PanelWindow::~PanelWindow() {
+  // Qt warns if a component is destroyed between beginCreate() and completeCreate().
   layOut();
   if (window_ != nullptr) {
     window_->disconnect(this);
@@ -77,7 +78,8 @@ void PanelWindow::present() {
 
 void PanelWindow::layOut() {
   if (!std::exchange(isLaidOut_, true)) {
-    // QML's pending value of `visible` is still false and would hide the window.
+    // On completion Qt applies the `visible` that was last set from QML or here. Until
+    // now that is false, QML's default, which would hide the window again.
     window_->setProperty("visible", window_->isVisible());
     component_.completeCreate();
   }

@@ -56,17 +56,17 @@ bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus, int timeou
   return answerTo(call, bus, timeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
-/// Whether another panel owns the name; if none does, this one owns it from now
-/// on. Also false when the bus does not answer.
-bool isTaken(const QDBusConnection& bus) {
+/// Takes the application's name on the bus. False if another panel owns it; true also
+/// if the bus does not answer.
+bool claimName(const QDBusConnection& bus) {
   // Numbers of the D-Bus protocol.
   constexpr uint doNotQueue = 4;
-  constexpr uint exists = 3;
+  constexpr uint nameExists = 3;
   auto request = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   request << SingleInstance::applicationId << doNotQueue;
-  return answerTo(request, bus, answerTimeoutMs).arguments().value(0).toUInt() == exists;
+  return answerTo(request, bus, answerTimeoutMs).arguments().value(0).toUInt() != nameExists;
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ bool SingleInstance::handOverOrListen() {
     return false;
   }
   bus.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
-  if (!isTaken(bus)) {
+  if (claimName(bus)) {
     return false;
   }
   auto activate = callTo(QStringLiteral("Activate"));

@@ -53,7 +53,7 @@ int main(int argc, char* argv[]) {
   quillmark::openClosedStandardStreams();
   quillmark::disableCoreDumps();
   quillmark::raiseDescriptorLimit();
-  // First: `--help` and `--quit` need no display and should be fast.
+  // Before Qt is set up: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
   if (commandLine.exitCode) {
     return *commandLine.exitCode;

@@ -26,7 +26,7 @@ constexpr std::size_t minCapacity = 64;
 /// Parses `json` into `document`. The text and the parser, the larger part of the
 /// memory, are freed before the records are created.
 simdjson::simdjson_result<dom::element> parse(std::string json, dom::document& document) {
-  // Not JSON, but some versions of simdjson skip a byte order mark.
+  // JSON must not begin with a byte order mark, but some versions of simdjson skip it.
   if (json.starts_with("\xEF\xBB\xBF")) {
     return simdjson::UTF8_ERROR;
   }

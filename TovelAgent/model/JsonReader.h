@@ -100,7 +100,9 @@ class JsonReader final {
     static constexpr auto keys =
         std::apply([](const auto&... field) { return std::array{field.key...}; }, R::fields);
     std::array<std::optional<Element>, keys.size()> values;
-    std::size_t next = 0;  // Fast path: most agents send keys in table order.
+    // The entry after the last match is compared first: most agents send keys in table
+    // order, so that it usually matches.
+    std::size_t next = 0;
     for (const auto [key, value] : object) {
       for (std::size_t i = 0; i < keys.size(); ++i) {
         const std::size_t index = (next + i) % keys.size();

@@ -57,7 +57,7 @@ class SpawnSetup final {
       arguments.push_back(const_cast<char*>(argument.c_str()));
     }
     arguments.push_back(nullptr);
-    const InitialDescriptorLimit descriptors;
+    const InitialDescriptorLimit limitOfChild;
     const int error = posix_spawn(&child, command.executable.c_str(), &actions_, &attributes_,
                                   arguments.data(), environ);
     return {error, boost::system::system_category()};

@@ -20,16 +20,19 @@ struct Command {
   friend bool operator==(const Command&, const Command&) = default;
 };
 
-/// Starts `command` in its own session, with this process's standard streams, and
-/// does not wait if a thread is available. The child leaves no zombie. Returns an
-/// error when the program could not be started. Threads: as `homeDirectory`.
+/// Starts `command` in its own session, with this process's standard streams. Returns
+/// an error when the program could not be started.
+///
+/// A background thread waits for the child to end, so that it leaves no zombie. If no
+/// thread can be created, this call itself waits. Any thread, as long as no thread
+/// changes the environment at the same time.
 [[nodiscard]] boost::system::error_code startDetached(const Command& command);
 
 /// Runs `command` with its output discarded and waits for it to end. Returns its
 /// exit status, or 128 plus the number of the signal that ended it; an error when it
 /// could not be started or waited for, or has not ended within `limit` and is
 /// therefore killed. Sets an ignored SIGCHLD to its default. Blocks the calling
-/// thread; threads: as `homeDirectory`.
+/// thread. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] boost::system::result<int> runSilently(
     const Command& command, std::chrono::milliseconds limit = std::chrono::seconds(5));
 

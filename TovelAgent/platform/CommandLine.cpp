@@ -43,14 +43,17 @@ bool CommandLine::has(const std::string& flag) const {
 
 CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rules) {
   const auto table = optionTable(rules);
-  const auto next = rules.valueOptions.empty() ? getopt_long : getopt_long_only;
+  const auto nextOption = rules.valueOptions.empty() ? getopt_long : getopt_long_only;
+  // "+": stop at the first word that is not an option. ":": return ':' for an option
+  // whose value is missing.
+  constexpr auto shortOptions = "+:hV";
   CommandLine line;
   opterr = 0;
   while (true) {
     // The word that getopt reads next: getopt does not report which word it rejects.
     const std::string_view word = optind < argc ? argv[optind] : "";
     int index = 0;
-    switch (next(argc, argv, "+:hV", table.data(), &index)) {
+    switch (nextOption(argc, argv, shortOptions, table.data(), &index)) {
       case -1:
         if (optind < argc) {
           return reportMisuse(rules, std::string("unexpected argument '") + argv[optind] + "'");

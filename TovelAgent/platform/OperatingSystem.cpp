@@ -46,8 +46,8 @@ bool endsWithin(pid_t child, std::chrono::milliseconds limit) {
 
 void returnLargeBlocksOnFree() {
 #ifdef __GLIBC__
-  // By default, after one large block is freed, later blocks up to its size are not
-  // returned to the system.
+  // glibc raises this threshold to the size of each larger block that is freed, and
+  // does not return later blocks below it to the system. Setting it stops that.
   constexpr int minLargeBlockBytes = 1 << 20;
   mallopt(M_MMAP_THRESHOLD, minLargeBlockBytes);
 #endif

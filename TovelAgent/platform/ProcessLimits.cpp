@@ -10,7 +10,9 @@ namespace quillmark {
 namespace {
 
 std::optional<rlim_t> initialDescriptors;
-std::mutex descriptorLimit;  // locked while a child is started
+// Locked while the limit is lowered: of two threads that start a child at once, the
+// second would take the lowered limit for the one to restore.
+std::mutex loweredLimit;
 
 rlimit limitOf(int resource) {
   rlimit limit{};
@@ -34,21 +36,21 @@ void raiseDescriptorLimit() {
 }
 
 bool leavesDescriptors(int descriptor) {
-  // Saving a file needs three at most, a larger window one.
-  constexpr rlim_t kept = 16;
-  // The system always gives the lowest free descriptor.
-  return static_cast<rlim_t>(descriptor) + kept < limitOf(RLIMIT_NOFILE).rlim_cur;
+  // More than enough: saving a file takes three at most, enlarging a window one.
+  constexpr rlim_t reserved = 16;
+  // The system gives out the lowest free number, so the highest ones are used last.
+  return static_cast<rlim_t>(descriptor) + reserved < limitOf(RLIMIT_NOFILE).rlim_cur;
 }
 
 InitialDescriptorLimit::InitialDescriptorLimit() {
-  descriptorLimit.lock();
+  loweredLimit.lock();
   current_ = limitOf(RLIMIT_NOFILE);
   setSoftLimit(RLIMIT_NOFILE, current_, initialDescriptors.value_or(current_.rlim_cur));
 }
 
 InitialDescriptorLimit::~InitialDescriptorLimit() {
   setSoftLimit(RLIMIT_NOFILE, current_, current_.rlim_cur);
-  descriptorLimit.unlock();
+  loweredLimit.unlock();
 }
 
 }  // namespace quillmark

@@ -7,22 +7,24 @@
 
 namespace quillmark {
 
-/// Lets a crash leave no core dump, which would contain the access token and the API
-/// key that is being typed. Sets only the soft limit, so that programs the panel
+/// Disables core dumps, because a dump would contain the access token and the API key
+/// that is being typed. Sets only the soft limit, so that programs that the panel
 /// starts may raise it again. Any thread.
 void disableCoreDumps();
 
-/// Lets this process open as many files and sockets as the system allows it. Call
-/// before threads start.
+/// Raises the number of files and sockets that this process may have open to the
+/// maximum that the system allows. Call before threads start.
 void raiseDescriptorLimit();
 
-/// Whether, besides `descriptor`, which was just opened, enough of them are left for
-/// files and windows. An agent that keeps requests waiting must not use them up. Any
-/// thread.
+/// Whether the socket `descriptor`, which was just opened, may stay open. False if it
+/// is one of the last descriptors that the limit allows: these are reserved for files
+/// and windows, however many requests an agent keeps waiting. Any thread.
 [[nodiscard]] bool leavesDescriptors(int descriptor);
 
-/// While it exists, the limit of descriptors is as before `raiseDescriptorLimit`: a
-/// program that is started meanwhile may not expect more. Any thread.
+/// While it exists, the limit of descriptors is what it was before
+/// `raiseDescriptorLimit`, for a child to inherit: programs that use `select()` may
+/// fail with a higher one. The limit holds for the whole process, so other threads may
+/// fail to open files meanwhile, and a second instance waits for the first. Any thread.
 class InitialDescriptorLimit final {
  public:
   InitialDescriptorLimit();

@@ -20,14 +20,17 @@ bool isWhiteSpace(utf::code_point c) {
   return isLineSpace(c) || (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
 }
 
+/// The part of `text` from its first to its last character that is not a space.
 template <class IsSpace>
 std::string_view trimEnds(IsSpace isSpace, std::string_view text) {
-  const auto* begin = text.end();
+  const auto* begin = text.end();  // the end of the text until a character is found
   const auto* end = text.end();
   for (const auto* at = text.begin(); at != text.end();) {
     const auto* const start = at;
     if (!isSpace(Utf8::decode(at, text.end()))) {
-      begin = begin == text.end() ? start : begin;
+      if (begin == text.end()) {
+        begin = start;
+      }
       end = at;
     }
   }

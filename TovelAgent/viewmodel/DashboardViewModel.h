@@ -52,7 +52,8 @@ class DashboardViewModel final : public QObject,
   [[nodiscard]] static std::shared_ptr<DashboardViewModel> create();
 
   /// Polls at once, then every 5 seconds until the process ends; this keeps the model
-  /// alive. Each call adds a timer and stops no earlier one.
+  /// alive. Call each time the view is shown. Earlier calls stay in effect: after two
+  /// calls, the model polls twice every 5 seconds.
   Q_INVOKABLE void startPolling();
 
   /// No value until a poll has finished, and after one whose status request failed.

@@ -85,8 +85,8 @@ void SettingsState::checkAgentStatus() {
 }
 
 void SettingsState::checkAgentStatusLater(int milliseconds) {
-  // The tab may be destroyed by then; the probe still runs. A precise timer, because
-  // a coarse one may fire 5 % early.
+  // The tab may be destroyed by then: the probe runs anyway, and its result is dropped.
+  // A precise timer, because a coarse one may fire 5 % early.
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(),
                      [state = QPointer<SettingsState>(this)] {
                        if (state) {
@@ -143,7 +143,7 @@ void SettingsState::importConfig(const QString& path) {
 void SettingsState::report(const QString& message, bool isSuccess) {
   statusMessage_ = message;
   showSuccess_ = isSuccess;
-  Q_EMIT statusChanged();
+  Q_EMIT statusMessageChanged();
 }
 
 void SettingsState::reportError(const boost::system::error_code& error) {

@@ -19,10 +19,10 @@ class SettingsState : public QObject {
   QML_ELEMENT
   Q_PROPERTY(QString configPath READ configPath NOTIFY configPathChanged)
   Q_PROPERTY(QString selectedFileLine READ selectedFileLine NOTIFY configPathChanged)
-  Q_PROPERTY(QString statusMessage READ statusMessage NOTIFY statusChanged)
+  Q_PROPERTY(QString statusMessage READ statusMessage NOTIFY statusMessageChanged)
   Q_PROPERTY(bool isImporting READ isImporting CONSTANT)
-  Q_PROPERTY(bool showSuccess READ showSuccess NOTIFY statusChanged)
-  Q_PROPERTY(bool showError READ showError NOTIFY statusChanged)
+  Q_PROPERTY(bool showSuccess READ showSuccess NOTIFY statusMessageChanged)
+  Q_PROPERTY(bool showError READ showError NOTIFY statusMessageChanged)
   Q_PROPERTY(QString apiKeyInput READ apiKeyInput WRITE setApiKeyInput NOTIFY apiKeyInputChanged)
   Q_PROPERTY(bool canSave READ canSave NOTIFY apiKeyInputChanged)
   Q_PROPERTY(QString serverUrl READ serverUrl WRITE setServerUrl NOTIFY serverUrlChanged)
@@ -39,7 +39,8 @@ class SettingsState : public QObject {
   /// "Selected: " and the name of the chosen file.
   [[nodiscard]] QString selectedFileLine() const;
   [[nodiscard]] QString statusMessage() const { return statusMessage_; }
-  /// Constant, like `agentStatusText`; no view shows them.
+  /// Always false: an import is over when the call returns. Part of the tab's state, but
+  /// no view shows it.
   [[nodiscard]] bool isImporting() const { return isImporting_; }
   [[nodiscard]] bool showSuccess() const { return showSuccess_; }
   [[nodiscard]] bool showError() const { return !statusMessage_.isEmpty() && !showSuccess_; }
@@ -52,6 +53,8 @@ class SettingsState : public QObject {
   [[nodiscard]] static QString defaultServerUrl();
   /// Where to get a key; depends on the server field.
   [[nodiscard]] QString keyHelp() const;
+  /// Always "Checking...". Part of the tab's state, but no view shows it; a view shows
+  /// `agentStatusLine`.
   [[nodiscard]] QString agentStatusText() const { return agentStatusText_; }
   [[nodiscard]] bool isAgentRunning() const { return isAgentRunning_; }
   [[nodiscard]] QString agentStatusLine() const;
@@ -71,7 +74,7 @@ class SettingsState : public QObject {
 
  Q_SIGNALS:
   void configPathChanged();
-  void statusChanged();
+  void statusMessageChanged();
   void apiKeyInputChanged();
   void serverUrlChanged();
   void isAgentRunningChanged();

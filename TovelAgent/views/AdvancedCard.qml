@@ -40,7 +40,7 @@ SectionCard {
         width: parent.width
         icon: "doc.badge.plus"
         text: "Browse and Import Config"
-        ground: Theme.blue
+        background: Theme.blue
         onPressed: card.settings.openConfigFilePicker()
     }
 

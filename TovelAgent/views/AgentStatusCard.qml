@@ -48,7 +48,7 @@ SectionCard {
             icon: "play.fill"
             text: "Start Agent"
             padding: 8
-            ground: Theme.green
+            background: Theme.green
             onPressed: card.settings.startAgent()
         }
 
@@ -57,7 +57,7 @@ SectionCard {
             icon: "stop.fill"
             text: "Stop Agent"
             padding: 8
-            ground: Theme.red
+            background: Theme.red
             onPressed: card.settings.stopAgent()
         }
     }

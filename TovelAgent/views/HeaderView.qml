@@ -18,6 +18,7 @@ Item {
     Column {
         id: left
 
+        // The width that this block takes if nothing in it wraps.
         readonly property real naturalWidth: Math.max(titles.width, badges.naturalWidth)
 
         anchors.left: parent.left

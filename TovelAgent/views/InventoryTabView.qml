@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first applications of the latest poll. Blank without an inventory; the
-/// placeholder is for an empty one.
+/// The first applications of the latest poll. Without an inventory the tab is blank;
+/// "Loading applications..." stands for an inventory without applications.
 ListPage {
     id: tab
 

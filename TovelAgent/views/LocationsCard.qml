@@ -4,7 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// Where the agent looks for its configuration.
+/// Lists places where a configuration of the agent may be, on any system. The panel
+/// itself writes only the first one.
 SectionCard {
     icon: "folder"
     title: "Config File Locations"

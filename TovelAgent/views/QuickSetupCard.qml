@@ -41,7 +41,7 @@ SectionCard {
         enabled: card.settings.canSave
         icon: "checkmark.circle.fill"
         text: "Save & Connect"
-        ground: enabled ? Theme.blue : Theme.gray
+        background: enabled ? Theme.blue : Theme.gray
         onPressed: card.settings.saveApiKey()
     }
 

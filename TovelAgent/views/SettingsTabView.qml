@@ -20,7 +20,7 @@ Rectangle {
             settings: settings,
             opener: advanced.browse
         })
-        onStatusChanged: page.reveal(advanced.notice)
+        onStatusMessageChanged: page.reveal(advanced.notice)
     }
 
     ScrollPage {

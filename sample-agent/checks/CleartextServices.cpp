@@ -45,7 +45,9 @@ std::vector<ThreatAlert> exposedCleartextServices(const std::vector<Socket>& soc
     if (isExposedCleartextService(socket)) {
       const auto owner = owners.find(socket.inode);
       const Process*& known = ports[socket.local.port];
-      known = known == nullptr && owner != owners.end() ? owner->second : known;
+      if (known == nullptr && owner != owners.end()) {
+        known = owner->second;
+      }
     }
   }
 

@@ -73,6 +73,7 @@ std::vector<InstalledApp> ApplicationReader::read() {
   for (const auto& folder : otherApplications_) {
     addUnpackaged(folder, found);
   }
+  // The entries in this folder that no package lists.
   addUnpackaged(packagedApplications_, found);
   sortByName(found.menu);
   sortByName(found.commands);

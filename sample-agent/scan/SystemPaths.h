@@ -12,7 +12,9 @@ namespace quillmark::sample {
 struct SystemPaths {
   std::string proc = "/proc";
   std::string dpkg = "/var/lib/dpkg";
-  std::string packagedApplications = "/usr/share/applications";  ///< as dpkg's file lists name it
+  /// The folder of the packages' desktop entries; dpkg's file lists always call it by
+  /// this default.
+  std::string packagedApplications = "/usr/share/applications";
   std::vector<std::string> otherApplications;  ///< folders of desktop entries, the first one wins
   std::vector<std::string> setUidRoots = {"/tmp", "/var/tmp", "/home"};
   std::string searchPath;  ///< folders of commands, joined by colons

@@ -9,7 +9,7 @@ ViewTest {
     name: "ActionButton"
 
     function button(properties) {
-        return make(component, Object.assign({ width: 300, icon: "gear", text: "Do it", ground: Theme.blue }, properties));
+        return make(component, Object.assign({ width: 300, icon: "gear", text: "Do it", background: Theme.blue }, properties));
     }
 
     function test_content() {
@@ -40,8 +40,8 @@ ViewTest {
         compare(boxIn(content, view).y, data.padding);
     }
 
-    function test_ground() {
-        const view = button({ ground: Theme.green });
+    function test_background() {
+        const view = button({ background: Theme.green });
         const ground = itemOfType(view, "Box");
         compareColor(ground.color, Theme.green);
         compare(ground.radius, 6);

@@ -35,7 +35,7 @@ ViewTest {
         const content = itemsOfType(row, "Rectangle").filter(item => item.height === rowHeight)[0];
         compare(boxIn(content, row), Qt.rect(Theme.listInset, inset, 400 - 2 * Theme.listInset, rowHeight));
         const ground = grabImage(view);
-        compareColor(ground.pixel(200, 290), Theme.listGround);
+        compareColor(ground.pixel(200, 290), Theme.listBackground);
     }
 
     function test_rowsHaveNoGaps() {

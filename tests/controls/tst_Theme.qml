@@ -11,7 +11,7 @@ ViewTest {
     readonly property var grounds: ({
         white: Theme.white,
         panelTint: Theme.panelTint,
-        listGround: Theme.listGround,
+        listBackground: Theme.listBackground,
         successTint: Qt.rgba(0.9, 1, 0.9, 1),
         errorTint: Qt.rgba(1, 0.9, 0.9, 1)
     })
@@ -64,7 +64,7 @@ ViewTest {
     }
 
     function test_icons(data) {
-        for (const ground of ["white", "panelTint", "listGround"])
+        for (const ground of ["white", "panelTint", "listBackground"])
             compareContrast(data.tag, ground, 3);
     }
 

@@ -44,7 +44,7 @@ class SettingsStateTest : public WithHome {
   void putAFileInPlaceOfTheFolder() const { writeFile(home() + "/.config", ""); }
 
   SettingsState state;
-  const QSignalSpy statusChanges{&state, &SettingsState::statusChanged};
+  const QSignalSpy statusChanges{&state, &SettingsState::statusMessageChanged};
 };
 
 TEST_F(SettingsStateTest, HasDefaultsAtFirst) {

@@ -33,10 +33,10 @@ ViewTest {
     }
 
     /// Checks what differs between buttons.
-    function compareButton(button, icon, padding, ground) {
+    function compareButton(button, icon, padding, background) {
         compare(button.icon, icon);
         compare(button.padding, padding, "padding of " + button.text);
-        compareColor(button.ground, ground, "ground of " + button.text);
+        compareColor(button.background, background, "background of " + button.text);
     }
 
     /// Checks what differs between cards.

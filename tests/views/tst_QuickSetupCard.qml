@@ -62,7 +62,7 @@ SettingsCardTest {
         compareButton(save, "checkmark.circle.fill", 10, Theme.blue);
         verify(save.enabled);
         settings.apiKeyInput = "";
-        compareColor(save.ground, Theme.gray);
+        compareColor(save.background, Theme.gray);
         verify(!save.enabled);
     }
 
