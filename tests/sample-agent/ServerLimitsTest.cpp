@@ -83,20 +83,5 @@ TEST(ServerLimits, CloseTheOldestConnectionForTheNewest) {
   }
 }
 
-TEST(ServerLimits, ServeAtOnceDespiteManySlowConnections) {
-  ServerLimits limits;
-  limits.deadline = std::chrono::hours(1);
-  const RunningServer server(limits);
-  constexpr std::size_t slowCount = 400;
-  std::vector<std::unique_ptr<RawClient>> slow;
-  slow.reserve(slowCount);
-  for (std::size_t i = 0; i < slowCount; ++i) {
-    slow.push_back(std::make_unique<RawClient>(server.port()));
-    ASSERT_TRUE(slow.back()->isConnected());
-    slow.back()->send("GET /api/status HTTP/1.1\r\nHost:");
-  }
-  EXPECT_EQ(statusOf(ask(server.port(), goodRequest())), 200);
-}
-
 }  // namespace
 }  // namespace quillmark::sample
