@@ -82,7 +82,7 @@ TABLE = [
     ("*/*App* */*Inventory*", panel("inventory")),
     ("*/*Connection* */*Network*", panel("network", "hostile_text")),
     ("*/*Dashboard* */*Stats* */*Agent*Card*", panel("dashboard")),
-    ("*/viewmodel/Dashboard*", panel("polling", "clock", "answers")),
+    ("*/viewmodel/Dashboard*", panel("clock", "answers", "silence")),
     ("*/*Status* */*Header* */FormatDate*", panel("header", "time_zone")),
     ("*/[cv]*/*List* */[cv]*/*Scroll* */[cv]*/*Text* */[cv]*/*Label*",
      panel("long_list", "row_lines", "hostile_text", "settings_scroll")),
