@@ -7,13 +7,13 @@ import pytest
 from harness import bodies, hands, large, settings
 from harness.contrast import inked
 from harness.large import drawn
+from harness.panel import TABS
 from harness.waiting import until
 from harness.window import Box
 
 TEXT = 4.5
 ICON = 3.0
 SCREEN = large.SCREEN
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 GLYPHS = ("Minimize", "Maximize", "Close")
 
 pytestmark = pytest.mark.usefixtures("clean_home", "token")

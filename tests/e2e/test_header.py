@@ -16,10 +16,7 @@ BIGGEST = 2**63 - 1
 EXAMPLES = [
     # status, shown, healthy, threats, healthy
     ("ok", "OK", True, 0, True),
-    ("OK", "OK", False, 3, False),
-    ("Ok", "OK", False, -2, False),
-    ("running", "RUNNING", False, BIGGEST, False),
-    ("stra\u00dfe \ufb01 i\u0131", "STRASSE FI II", False, 1234, False),
+    ("stra\u00dfe \ufb01 i\u0131", "STRASSE FI II", False, BIGGEST, False),
 ]
 
 
@@ -67,13 +64,6 @@ def scan_shown(panel):
                 and t.box.right > label.x - 100]
     assert abs(below.box.right - label.right) <= 1, "the block is not right-aligned"
     return below.name
-
-
-@pytest.mark.parametrize("scan", ["2024-01-15T10:30:00.5Z", "yesterday",
-                                  "2024-01-15T10:30:00", " 2024-01-15T10:30:00Z"])
-def test_other_texts_are_shown_as_received(launch, scan):
-    panel = launch({"status": bodies.status(last_scan=scan)})
-    assert scan_shown(panel) == scan
 
 
 @pytest.mark.parametrize("scan, zone, locale, expected", [

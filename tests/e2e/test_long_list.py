@@ -43,32 +43,6 @@ def test_end_and_home(panel):
     assert listed(panel, LIST)[1][0].box.y == view.box.y
 
 
-def test_page_down_and_up(panel):
-    first = names(panel, LIST)
-    assert first[0] == row(0)
-    second = [r.name for r in scroll(panel, LIST, "Next")]
-    # One page further, without skipping a row.
-    assert second[0] != row(0) and set(first) & set(second) or second[0] == row(len(first))
-    scroll(panel, LIST, "Prior")
-    assert names(panel, LIST) == first
-
-
-def test_arrow_keys(panel):
-    first = names(panel, LIST)
-    scroll(panel, LIST, "Down", times=20)
-    assert names(panel, LIST)[0] != first[0]
-    scroll(panel, LIST, "Home")
-    assert names(panel, LIST) == first
-
-
-def test_wheel(panel):
-    view, before = listed(panel, LIST)
-    hands.wheel_down(view.box, 5)
-    until(lambda: names(panel, LIST)[0] != before[0].name, "the list to follow the wheel")
-    hands.park()
-    scroll(panel, LIST, "Home")
-
-
 def test_place_is_kept_over_ten_polls(panel, backend):
     scroll(panel, LIST, "Next", times=400)
     before = listed(panel, LIST)

@@ -5,6 +5,7 @@
 import pytest
 
 from harness import colours, hands
+from harness.panel import TABS
 from harness.screen import Picture
 from harness.window import Box
 
@@ -50,7 +51,7 @@ def test_shield_left_of_the_title(tree, picture):
 def test_tab_bar_ground_and_order(tree, picture):
     bar = tree.every("tab list")[0]
     tabs = bar.every("tab")
-    assert [t.name for t in tabs] == ["Dashboard", "Network", "Inventory", "Alerts", "Settings"]
+    assert [t.name for t in tabs] == list(TABS)
     for left, right in zip(tabs, tabs[1:]):
         assert abs(left.box.right - right.box.x) <= 1
     free = Box(tabs[-1].box.right + 20, tabs[-1].box.y, 200, tabs[-1].box.height)

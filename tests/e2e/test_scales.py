@@ -6,11 +6,11 @@ import pytest
 
 from harness import colours, hands
 from harness.layout import assert_uncut
+from harness.panel import TABS
 from harness.screen import BUILD, Picture, save
 from harness.waiting import until
 from harness.window import Box, tool
 
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
 SCREEN = (3100, 2200)
 
 pytestmark = pytest.mark.usefixtures("token")

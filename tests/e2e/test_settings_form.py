@@ -88,14 +88,6 @@ def test_emptied_server_field_shows_the_default_as_a_hint(tab):
     assert help_line(tab) == "Get your API key from: /agent/start"
 
 
-def test_empty_server_is_saved_unchanged(tab):
-    settings.fill(tab, SERVER, "")
-    settings.fill(tab, KEY, "k")
-    settings.press(tab, SAVE)
-    settings.wait_for_message(tab, settings.SAVED)
-    assert 'server_url = ""\n' in settings.CONFIG.read_text()
-
-
 def test_typed_text_is_lost_when_the_tab_is_left(tab):
     settings.fill(tab, KEY, "never saved")
     settings.fill(tab, SERVER, "https://never.example")

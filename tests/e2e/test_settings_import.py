@@ -114,13 +114,6 @@ def test_failed_import_then_save(tab, tmp_path):
     assert Picture().pixel(row.right - 2, row.y - 6) == colours.SUCCESS_TINT
 
 
-def test_the_configuration_itself(tab):
-    settings.write_config(CONTENT)
-    picker.choose(tab, CONFIG)
-    settings.wait_for_message(tab, settings.IMPORTED)
-    assert CONFIG.read_bytes() == CONTENT.encode()
-
-
 def test_name_is_shown_as_it_is(tab, tmp_path):
     path = tmp_path / "<b>a & b<b>.toml"
     path.write_text("[agent]\n")

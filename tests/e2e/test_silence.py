@@ -2,36 +2,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A backend that accepts requests and does not answer them."""
 
-import threading
-
 import pytest
 
-from harness import bodies, hands
+from harness import hands
 from harness.backend import Backend, pollers
-from harness.exchange import answer
+from harness.exchange import silence
 from harness.waiting import until
 
 
-class Held:
-    """Answers the nth status request with threat count 100 + n, when its gate is set."""
-
-    def __init__(self):
-        self.gates = []
-
-    def __call__(self, request):
-        self.gates.append(threading.Event())
-        count = len(self.gates)
-        return answer(bodies.status(threat_count=100 + count), gate=self.gates[-1])
-
-
 @pytest.fixture(scope="module")
-def held():
-    return Held()
-
-
-@pytest.fixture(scope="module")
-def backend(held):
-    backend = Backend(status=held).start()
+def backend():
+    backend = Backend(status=silence()).start()
     yield backend
     backend.stop()
 
@@ -54,15 +35,3 @@ def test_window_still_works(panel, backend):
     hands.click(panel.tree.find("tab", "Dashboard").box)
     panel.selected("Dashboard")
     assert not any(r.answered for r in backend.seen())
-
-
-def test_poll_finishing_last_wins(panel, backend, held):
-    held.gates[1].set()
-    panel.tree.wait_for("text", "102")
-    held.gates[0].set()
-    panel.tree.wait_for("text", "101")
-    assert not panel.tree.find("text", "102")
-    held.gates[2].set()
-    panel.tree.wait_for("text", "103")
-    # The panel is now quit with later polls still unanswered.
-    until(lambda: len(held.gates) >= 4, "a poll that stays unanswered")

@@ -75,12 +75,6 @@ def test_key_chooses_the_focused_tab(panel, tab, press):
     shows_only(panel, tab)
 
 
-def test_arrows_move_between_tabs(panel):
-    panel.focus_on("tab", "Dashboard")
-    panel.press_until_focused("tab", "Inventory", key="Right", most=2)
-    panel.press_until_focused("tab", "Network", key="Left", most=1)
-
-
 @pytest.mark.parametrize("press, tab", [
     ("Right", "Inventory"), ("Left", "Dashboard"), ("End", "Settings"), ("Home", "Dashboard"),
 ])

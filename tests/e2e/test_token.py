@@ -9,10 +9,8 @@ from harness.waiting import never, until
 
 EXAMPLES = {
     "system-wide first": ("system", "home", "system"),
-    "line break trimmed": ("abc123\n", None, "abc123"),
     "all white space trimmed": (" \t\u2003abc 123\u00a0\r\n\n", None, "abc 123"),
     "blank file is a token": ("\n", "home", ""),
-    "empty file is a token": ("", "home", ""),
     "not UTF-8": (b"abc\xff\xfe", "home", "home"),
     "system-wide missing": (None, " home\n", "home"),
 }
@@ -38,26 +36,6 @@ def test_token(launch, backend, example):
     tokens.write(tokens.SYSTEM, system)
     tokens.write(tokens.HOME, home)
     assert sent(launch, backend) == [expected]
-
-
-def test_fifo_does_not_block_the_start(launch, backend):
-    tokens.make_fifo(tokens.SYSTEM)
-    tokens.write(tokens.HOME, "home")
-    assert sent(launch, backend) == ["home"]
-
-
-def test_folder_in_the_place_of_the_file(launch, backend):
-    tokens.SYSTEM.mkdir(parents=True)
-    tokens.write(tokens.HOME, "home")
-    assert sent(launch, backend) == ["home"]
-
-
-def test_token_is_read_only_once(launch, backend):
-    tokens.write(tokens.SYSTEM, "early")
-    assert sent(launch, backend) == ["early"]
-    tokens.write(tokens.SYSTEM, "late")
-    backend.wait_for_poll()
-    assert backend.seen("status")[-1].header("X-Agent-Token") == ["early"]
 
 
 @pytest.mark.parametrize("content", [None, "abc\r\nX-Other: 1", "a\x01b"])

@@ -82,7 +82,7 @@ TABLE = [
     ("*/*App* */*Inventory*", panel("inventory")),
     ("*/*Connection* */*Network*", panel("network", "hostile_text")),
     ("*/*Dashboard* */*Stats* */*Agent*Card*", panel("dashboard")),
-    ("*/viewmodel/Dashboard*", panel("polling", "clock", "answers")),
+    ("*/viewmodel/Dashboard*", panel("clock", "answers", "silence")),
     ("*/*Status* */*Header* */FormatDate*", panel("header", "time_zone")),
     ("*/[cv]*/*List* */[cv]*/*Scroll* */[cv]*/*Text* */[cv]*/*Label*",
      panel("long_list", "row_lines", "hostile_text", "settings_scroll")),
@@ -106,9 +106,10 @@ TABLE = [
 def of(file):
     """The tests of a source, each once; a view's own comes first."""
     tests = []
-    for folder in ("controls", "views"):
-        if (Path(__file__).parents[1] / folder / f"tst_{Path(file).name}").exists():
-            tests.append(qml(folder, f"tst_{Path(file).name}"))
+    if file.endswith(".qml"):
+        for folder in ("controls", "views"):
+            own = (Path(__file__).parents[1] / folder).glob(f"tst_{Path(file).stem}*.qml")
+            tests += [qml(folder, test.name) for test in sorted(own)]
     for patterns, listed in TABLE:
         if any(fnmatch.fnmatchcase(file, pattern) for pattern in patterns.split()):
             tests += listed

@@ -4,65 +4,24 @@
 #include "Scanner.h"
 
 #include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "ScanLoop.h"
 #include "model/Codec.h"
-#include "platform/Utf8.h"
-#include "sample-agent/FixtureTree.h"
-#include "support/Patience.h"
+#include "sample-agent/WithScannedMachine.h"
 
 namespace quillmark::sample {
 namespace {
 
-using test::addProcess;
-using test::FakeProcess;
-using test::FixtureTree;
-using Time = std::chrono::system_clock::time_point;
+using namespace test;
 
-const Time noon{std::chrono::seconds(1'800'000'000)};
 constexpr auto noonText = "2027-01-15T08:00:00Z";
-const Time minuteLater = noon + std::chrono::minutes(1);
+const auto minuteLater = noon + std::chrono::minutes(1);
 constexpr auto minuteLaterText = "2027-01-15T08:01:00Z";
 
-/// A machine on which a deleted program serves Telnet.
-class ScannerTest : public testing::Test {
- protected:
-  ScannerTest() {
-    FakeProcess fake;
-    fake.pid = 50;
-    fake.name = "telnetd\xFF";
-    fake.executable = "/opt/telnetd (deleted)";
-    addProcess(tree_, fake);
-    tree_.link("proc/50/fd/3", "socket:[900]");
-    tree_.write("proc/net/tcp",
-                "  sl  local_address rem_address\n"
-                "   0: 00000000:0017 00000000:0000 0A 0:0 00:0 0 0 0 900 1 0 100 0 0 10 0\n");
-    tree_.write("proc/net/dev", "heading\n lo: 1 2\n eth0: 3 4\n");
-    tree_.write("proc/self/status", "CapEff:\t0000000000000400\n");
-    tree_.write("dpkg/status", "Package: nano\nStatus: install ok installed\nVersion: 7\n");
-    tree_.write("dpkg/info/nano.list", "/usr/bin/nano\n");
-
-    paths_.proc = tree_.path("proc");
-    paths_.dpkg = tree_.path("dpkg");
-    paths_.packagedApplications = tree_.path("applications");
-    paths_.setUidRoots = {tree_.folder("home")};
-  }
-
-  [[nodiscard]] ScanResult scan(const AgentConfig& config = {}) const {
-    Scanner scanner(paths_, config);
-    return scanner.scan(noon, {});
-  }
-
-  FixtureTree tree_;
-  SystemPaths paths_;
-};
+using ScannerTest = WithScannedMachine;
 
 TEST_F(ScannerTest, EncodesTheFourBodies) {
   const auto snapshot = scan().snapshot;
@@ -187,78 +146,6 @@ TEST(ScannerOnThisMachine, MakesFourBodies) {
   const auto inventory = decode<InventoryData>(snapshot->inventory);
   ASSERT_TRUE(inventory);
   EXPECT_FALSE(inventory->network_interfaces.empty());
-}
-
-/// Waits for a number of snapshots.
-class Counter {
- public:
-  [[nodiscard]] ScanLoop::Publish publish() {
-    return [this](std::shared_ptr<const Snapshot> snapshot) {
-      const std::lock_guard lock(mutex_);
-      last_ = std::move(snapshot);
-      ++count_;
-      changed_.notify_all();
-    };
-  }
-  [[nodiscard]] bool reached(int count) {
-    std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, quillmark::test::patience(), [&] { return count_ >= count; });
-  }
-  [[nodiscard]] std::shared_ptr<const Snapshot> last() {
-    const std::lock_guard lock(mutex_);
-    return last_;
-  }
-
- private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  std::shared_ptr<const Snapshot> last_;
-  int count_ = 0;
-};
-
-TEST_F(ScannerTest, LoopScansImmediatelyAndCanEndDuringItsPause) {
-  Scanner scanner(paths_, {});
-  Counter counter;
-  std::ostringstream log;
-  const ScanLoop loop(scanner, std::chrono::hours(1), counter.publish(), log);
-  ASSERT_TRUE(counter.reached(1));
-  EXPECT_TRUE(decode<AgentStatus>(counter.last()->status));
-}
-
-TEST_F(ScannerTest, LoopScansRepeatedlyAndLogsANoteOnce) {
-  tree_.folder("home/ann");
-  WalkLimits limits;
-  limits.depth = 0;
-  Scanner scanner(paths_, {}, limits);
-  Counter counter;
-  std::ostringstream log;
-  {
-    const ScanLoop loop(scanner, std::chrono::milliseconds(1), counter.publish(), log);
-    ASSERT_TRUE(counter.reached(3));
-  }
-  EXPECT_EQ(log.str(), "the search for set-user-ID files in " + tree_.path("home") +
-                           " reached its limit; not all files were looked at\n");
-}
-
-TEST_F(ScannerTest, LoopContinuesAfterAFailedScan) {
-  Scanner scanner(paths_, {});
-  Counter counter;
-  std::ostringstream log;
-  int calls = 0;
-  {
-    const auto publish = counter.publish();
-    const ScanLoop loop(
-        scanner, std::chrono::milliseconds(1),
-        [&](std::shared_ptr<const Snapshot> snapshot) {
-          if (++calls == 1) {
-            throw std::runtime_error("out of something");
-          }
-          publish(std::move(snapshot));
-        },
-        log);
-    ASSERT_TRUE(counter.reached(1));
-  }
-  EXPECT_EQ(log.str(), "scan failed: out of something\n");
 }
 
 }  // namespace

@@ -46,24 +46,6 @@ PolledViewTest {
         compare(rowsOf(view).map(row => textsIn(row)), [["type 1"]]);
     }
 
-    function test_firstHundredOnly() {
-        answerAlerts(listOf(150, alert));
-        poll();
-        const list = itemOfType(tab(), "PlainList");
-        compare(list.count, 100);
-        const listed = listOf(100, index => {
-            list.positionViewAtIndex(index, ListView.Contain);
-            return textsIn(list.itemAtIndex(index));
-        });
-        compare(listed, listOf(100, number => ["type " + number]));
-    }
-
-    function test_keepsTheAgentsOrder() {
-        answerAlerts([alert(5), alert(1), alert(9), alert(1)]);
-        poll();
-        compare(rowsOf(tab()).map(row => textsIn(row)[0]), ["type 5", "type 1", "type 9", "type 1"]);
-    }
-
     function test_followsThePolls() {
         const view = tab();
         poll();

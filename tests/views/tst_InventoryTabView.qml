@@ -12,21 +12,8 @@ PolledViewTest {
         return make(component, { width: 800, height: 600, viewModel: viewModel });
     }
 
-    function app(number) {
-        return { name: "app " + number, version: "1." + number, publisher: "publisher", path: "/usr/bin/app" };
-    }
-
     function rowsOf(view) {
         return itemsOfType(view, "InstalledAppRow").sort((a, b) => boxIn(a, view).y - boxIn(b, view).y);
-    }
-
-    /// The texts of all rows, visible or not.
-    function listedIn(view) {
-        const list = itemOfType(view, "PlainList");
-        return listOf(list.count, index => {
-            list.positionViewAtIndex(index, ListView.Contain);
-            return textsIn(list.itemAtIndex(index)).join(" ");
-        });
     }
 
     function test_blankWithoutAnInventory() {
@@ -51,14 +38,6 @@ PolledViewTest {
         const view = tab();
         compare(boxIn(itemOfType(view, "PlainList"), view), Qt.rect(0, 0, 800, 600));
         compare(rowsOf(view).map(row => textsIn(row)), [["with", "v2.4.1"], ["without"], ["empty", "v"]]);
-    }
-
-    function test_firstFiftyOnly() {
-        answerInventory(listOf(80, app));
-        poll();
-        const view = tab();
-        compare(listedIn(view), listOf(50, number => "app " + number + " v1." + number));
-        compare(textsIn(view).filter(text => text.includes("publisher") || text.includes("/usr")), []);
     }
 
     function test_followsThePolls() {

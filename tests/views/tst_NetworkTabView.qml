@@ -52,28 +52,11 @@ PolledViewTest {
         ]);
     }
 
-    function test_keepsTheAgentsOrder() {
-        answerConnections([5, 1, 9, 1, 3].map(number => connection(number)));
-        poll();
-        compare(rowsOf(tab()).map(row => textsIn(row)[0]),
-                ["127.0.0.1:5", "127.0.0.1:1", "127.0.0.1:9", "127.0.0.1:1", "127.0.0.1:3"]);
-    }
-
     function test_riskDoesNotChangeTheLook() {
         answerConnections([connection(1), connection(1, "high")]);
         poll();
         const rows = rowsOf(tab());
         verify(grabImage(rows[0]).equals(grabImage(rows[1])));
-    }
-
-    function test_everyConnectionIsListed() {
-        backend.answer("/api/network", backend.connectionsBody(10000, "LISTEN"));
-        poll();
-        const view = tab();
-        const list = itemOfType(view, "PlainList");
-        compare(list.count, 10000);
-        list.positionViewAtEnd();
-        compare(textsIn(rowsOf(view).pop())[0], "127.0.0.1:9999");
     }
 
     function test_followsThePolls() {

@@ -57,25 +57,6 @@ TEST_F(Interface, AnswersTheFourRequests) {
       << "the agent is one of the services";
 }
 
-TEST_F(Interface, AnswersEachErrorWithItsStatus) {
-  EXPECT_EQ(statusOfRequest(good_), 200);
-  auto request = good_;
-  request.token.back() = request.token.back() == '0' ? '1' : '0';
-  EXPECT_EQ(statusOfRequest(request), 401);
-  request = good_;
-  request.target = "/api/nothing";
-  EXPECT_EQ(statusOfRequest(request), 404);
-  request = good_;
-  request.method = "POST";
-  EXPECT_EQ(statusOfRequest(request), 405);
-  request = good_;
-  request.host = "attacker.example:7823";
-  EXPECT_EQ(statusOfRequest(request), 421);
-  request = good_;
-  request.moreFields = "X-Filler: " + std::string(100'000, 'x') + "\r\n";
-  EXPECT_EQ(statusOfRequest(request), 431);
-}
-
 TEST_F(Interface, ListensOnLoopbackAddressOneOnly) {
   const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   sockaddr_in address{};
