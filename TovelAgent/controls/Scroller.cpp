@@ -45,7 +45,15 @@ void Scroller::watch(QQuickWindow* window) {
   }
 }
 
-void Scroller::followFocus() { reveal(window_->activeFocusItem()); }
+void Scroller::followFocus() {
+  auto* const focus = window_->activeFocusItem();
+  // Not when the focus only returns, as from the window of a dialog: something else
+  // may have been revealed meanwhile.
+  if (focus != nullptr && focus != focus_) {
+    focus_ = focus;
+    reveal(focus);
+  }
+}
 
 void Scroller::reveal(QQuickItem* item) {
   item_ = item;

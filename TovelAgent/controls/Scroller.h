@@ -56,7 +56,8 @@ class Scroller : public QObject {
 
   QPointer<QQuickItem> target_;
   QPointer<QQuickWindow> window_;
-  QPointer<QQuickItem> item_;  ///< to be kept in view
+  QPointer<QQuickItem> focus_;  ///< the last item that had the focus
+  QPointer<QQuickItem> item_;   ///< to be kept in view
 };
 
 }  // namespace quillmark

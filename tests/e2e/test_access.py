@@ -117,7 +117,7 @@ def test_settings_by_action(settings_tab):
     press(panel, BROWSE)
     until(lambda: picker.shown(panel), "the dialog")
     hands.key("Escape")
-    panel.tree.wait_without("dialog", picker.TITLE)
+    picker.wait_until_closed(panel)
 
 
 def test_disabled_button_is_described_as_unavailable(settings_tab):
@@ -144,14 +144,14 @@ def test_window_by_action(panel):
 
 def test_a_change_of_the_status_is_announced(panel, backend):
     badge = panel.tree.wait_for(*BADGES[0])
-    event = ("PropertyChange", "accessible-name", badge.address)
+    event = (badge.address, "PropertyChange", "accessible-name")
     assert panel.tree.description(badge) == "Healthy"
     heard = panel.tree.listen()
     backend.reply(status=bodies.status(status="warning"))
 
     def announced():
         panel.tree.read()
-        return event in [(member, body[0], body[3]) for member, body in heard]
+        return event in [(*what, values[0]) for *what, values in heard]
 
     until(announced, "the new status")
     status = panel.tree.wait_for("group", "Status: WARNING")

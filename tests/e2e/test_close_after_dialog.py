@@ -56,6 +56,10 @@ def test_closed_by_the_desktop_while_the_dialog_is_open(panel, backend):
     heard = panel.tree.listen()
     picker.bring_up(panel)
     assert heard, "no event was announced"
+    if panel.tree.find("window", picker.TITLE):
+        # With Qt 6.8 the dialog is a window of its own, which closes first.
+        hands.key("alt+F4")
+        picker.wait_until_closed(panel)
     hands.key("alt+F4")
     until(lambda: not panel.windows(), "the window to close")
     backend.wait_for_poll()

@@ -17,6 +17,7 @@ pytestmark = pytest.mark.usefixtures("token", "clean_home")
 
 def opened(launch, environment):
     panel = launch(**environment)
+    panel.expected_output = desktops.EXPECTED_OUTPUT
     panel.window.move(*PLACE[:2])
     until(lambda: panel.window.box == PLACE, "the usual place")
     panel.tree.wait_for("text", "OK")

@@ -8,7 +8,7 @@ from harness import desktops, hands, large, picker
 from harness.contrast import inked
 
 SCREEN = large.SCREEN
-SHOWN = ("more", "config.toml", "Filter", "Import", "Cancel", picker.TITLE)
+SHOWN = {"more", "config.toml", "Filter", "Import", "Cancel", picker.TITLE}
 
 pytestmark = pytest.mark.usefixtures("fresh_home")
 
@@ -19,6 +19,7 @@ def test_every_text(launch_large, tmp_path, name):
     (tmp_path / "more").mkdir()
     (tmp_path / "config.toml").write_text("")
     panel = launch_large("env", f"--chdir={tmp_path}", **desktops.DARK[name]())
+    panel.expected_output = desktops.EXPECTED_OUTPUT
     panel.show("Settings")
     with picker.opened(panel):
         hands.park()
@@ -26,7 +27,9 @@ def test_every_text(launch_large, tmp_path, name):
         ratios = {item.name: inked(picture.pixels(large.drawn(item.box)))
                   for item in picker.shown(panel).walk()
                   if item.name in SHOWN and item.role in ("text", "button")}
-    assert set(ratios) == set(SHOWN)
+        # With Qt 6.8 the dialog is a window of its own; the desktop draws its title.
+        framed = {picker.TITLE} if panel.tree.find("window", picker.TITLE) else set()
+    assert set(ratios) == SHOWN - framed
     # Nothing is chosen yet, so Import is disabled, and has less contrast on purpose.
     least = {"Import": 3.0}
     assert {name: ratio for name, ratio in ratios.items() if ratio < least.get(name, 4.5)} == {}

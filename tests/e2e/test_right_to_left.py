@@ -6,8 +6,7 @@ import pytest
 
 from harness import bodies
 from harness.layout import assert_uncut
-
-TABS = ("Dashboard", "Network", "Inventory", "Alerts", "Settings")
+from harness.panel import TABS
 
 pytestmark = pytest.mark.usefixtures("token")
 
@@ -24,7 +23,7 @@ def layout(launch, **environment):
     panel = launch(CONTENTS, **environment)
     panel.window.move(0, 0)
     # So high that all is shown, whatever the font.
-    panel.window.resize(1000, 1150)
+    panel.window.resize(1000, 1200)
     panel.window.settled()
     panel.tree.wait_for("text", "OK")
     found = {}

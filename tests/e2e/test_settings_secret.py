@@ -24,7 +24,7 @@ def assert_not_readable(panel, heard=()):
     texts = [*panel.tree.words(), *map(repr, heard)]
     assert not [words for words in texts if any(s in words for s in pairs(SECRET))]
     # It is not announced character by character, either.
-    announced = [event[3] for name, event in heard if name == "TextChanged"]
+    announced = [values[3] for _, name, values in heard if name == "TextChanged"]
     assert not [text for text in announced if set(str(text)) & set(SECRET)]
 
 

@@ -110,13 +110,15 @@ class Bus:
         return repr(self._ask([(node, question) for question in asked]))
 
     def listen(self):
-        """A list that grows with every event of any program."""
+        """A list that grows with every event of any program: the address of the object,
+        the event and its values."""
         heard = []
         registry = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
         self._ask([(registry, (registry[0], "RegisterEvent", GLib.Variant("(s)", ("object:",))))])
         self._connection.signal_subscribe(
             None, "org.a11y.atspi.Event.Object", None, None, None, Gio.DBusSignalFlags.NONE,
-            lambda *event: heard.append((event[4], event[5].unpack())),
+            lambda _, sender, path, __, name, values:
+                heard.append(((sender, path), name, values.unpack())),
         )
         return heard
 

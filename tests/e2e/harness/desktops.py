@@ -5,6 +5,8 @@
 from .settings import HOME
 
 GROUND, RAISED, INK, CHOSEN = "27,30,32", "49,54,59", "252,252,252", "61,174,233"
+# Newer versions of qt6ct announce what they read.
+EXPECTED_OUTPUT = r"(virtual .* Qt6CTPlatformTheme::.*\n)*"
 GROUPS = ("View", "Window", "Button", "Tooltip")
 
 
@@ -40,7 +42,8 @@ def _qt6ct():
     _write(".config/qt6ct/qt6ct.conf", [
         "[Appearance]", f"color_scheme_path={scheme}", "custom_palette=true", "style=Fusion",
         # The default font, so that only the colours differ.
-        "[Fonts]", 'general="Sans Serif,9,-1,5,400,0,0,0,0,0,0,0,0,0,0,1"'])
+        "[Fonts]", *(f'{font}="Sans Serif,9,-1,5,400,0,0,0,0,0,0,0,0,0,0,1"'
+                     for font in ("general", "fixed"))])
     return {"QT_QPA_PLATFORMTHEME": "qt6ct"}
 
 

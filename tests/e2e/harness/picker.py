@@ -11,7 +11,14 @@ TITLE = "Select config.toml file"
 
 
 def shown(panel):
-    return panel.tree.find("dialog", TITLE)
+    """The dialog. With Qt 6.8 its title may be that of a window around it."""
+    tree = panel.tree.read()
+    window = tree.find("window", TITLE)
+    return next(iter(window.every("dialog")), None) if window else tree.find("dialog", TITLE)
+
+
+def wait_until_closed(panel):
+    until(lambda: not shown(panel), "the dialog to close")
 
 
 def bring_up(panel, key=None):
@@ -32,7 +39,7 @@ def opened(panel, key=None):
         yield bring_up(panel, key)
     finally:
         hands.key("Escape")
-    panel.tree.wait_without("dialog", TITLE)
+    wait_until_closed(panel)
 
 
 def choose(panel, path):
@@ -44,7 +51,7 @@ def choose(panel, path):
     hands.write(str(path))
     until(lambda: panel.tree.text(panel.focus()) == str(path), "the path to be typed")
     hands.key("Return")
-    panel.tree.wait_without("dialog", TITLE)
+    wait_until_closed(panel)
 
 
 def chosen_row(panel):
@@ -61,4 +68,4 @@ def pick(panel, path):
         hands.key("Down")
         until(lambda: chosen_row(panel) != row, "the next row")
     hands.key("Return")
-    panel.tree.wait_without("dialog", TITLE)
+    wait_until_closed(panel)
