@@ -17,9 +17,7 @@ endif()
 
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
-include(CheckCXXCompilerFlag)
-# Protects jumps and returns, on processors that support it.
-check_cxx_compiler_flag(-fcf-protection=full QUILLMARK_HAS_CF_PROTECTION)
+include(Hardening)
 
 add_library(quillmark_options INTERFACE)
 target_compile_options(
@@ -33,8 +31,7 @@ target_compile_options(
             -Woverloaded-virtual
             -Wcast-align
             -Wformat=2
-            -Wimplicit-fallthrough
-            -Werror)
+            -Wimplicit-fallthrough)
 
 if(QUILLMARK_SANITIZE)
   target_compile_options(
@@ -50,12 +47,8 @@ if(QUILLMARK_SANITIZE)
   endif()
   target_link_options(quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZE})
 else()
-  target_compile_options(
-    quillmark_options INTERFACE -fstack-protector-strong
-                                $<$<BOOL:${QUILLMARK_HAS_CF_PROTECTION}>:-fcf-protection=full>
-                                -D_GLIBCXX_ASSERTIONS
-                                $<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
-  target_link_options(quillmark_options INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
+  quillmark_harden(quillmark_options)
+  target_link_options(quillmark_options INTERFACE -Wl,--as-needed)
 endif()
 
 if(QUILLMARK_COVERAGE)

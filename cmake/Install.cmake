@@ -56,7 +56,7 @@ function(quillmark_install_compressed file folder component)
     DEPENDS "${file}"
     VERBATIM)
   quillmark_installed_file("${compressed}")
-  install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component} ${ARGN})
+  install(FILES "${compressed}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
 # Builds everything that is installed.

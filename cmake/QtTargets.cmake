@@ -19,6 +19,11 @@ function(quillmark_qml_library name)
   string(REPLACE "." "/" path "${arg_URI}")
   qt_add_library(${name} STATIC)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  if(Qt6_VERSION VERSION_LESS 6.8)
+    # Its C++ code declares variables in another order each time, so the same sources
+    # would give other programs. Its byte code is always the same.
+    set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+  endif()
   qt_add_qml_module(
     ${name}
     URI ${arg_URI}

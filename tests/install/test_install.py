@@ -34,10 +34,9 @@ def output(*command, **options):
 def test_programs_run_where_they_were_installed(install, tmp_path, folder):
     prefix = tmp_path / folder
     install(prefix)
-    for name in ("quillmark-agent", processes.AGENT):
-        command = prefix / "bin" / name
-        assert command.resolve() == prefix / PROGRAMS / name
-        assert output(command, "--version").startswith(f"{name} ")
+    for name in ("quillmark-agent", "quillmark-doctor", processes.AGENT):
+        assert (prefix / PROGRAMS / name).exists()
+        assert output(prefix / "bin" / name, "--version").startswith(f"{name} ")
     launch = entry_command(prefix)
     assert output(*launch, "--version").startswith("quillmark-agent ")
     assert entry_command(prefix, "Desktop Action quit") == [*launch, "--quit"]
@@ -57,11 +56,13 @@ def test_folder_may_be_moved_except_for_the_entry(install, tmp_path):
     assert output(tmp_path / "there/bin/quillmark-agent", "--version")
 
 
-def test_launching_prepares_the_home(install, tmp_path):
+@pytest.mark.parametrize("start", [entry_command, lambda prefix: [prefix / "bin/quillmark-agent"]],
+                         ids=["menu", "terminal"])
+def test_launching_prepares_the_home(install, tmp_path, start):
     """Start Agent needs the folder of its log."""
     install(tmp_path / "usr")
     settings.clean_home()
-    launch = entry_command(tmp_path / "usr")
+    launch = start(tmp_path / "usr")
     output(*launch, "--version")
     for folder in (settings.LOGS.parent, settings.LOGS):
         assert stat.S_IMODE(folder.stat().st_mode) == 0o700
