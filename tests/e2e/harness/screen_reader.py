@@ -15,7 +15,7 @@ import threading
 import tty
 
 from . import hands
-from .waiting import never, until
+from .waiting import until
 
 # Qt reports each key that a busy screen reader did not answer in time.
 PANEL_OUTPUT = r"(QSpiApplication::keyEventError .*\n)*"
@@ -83,10 +83,28 @@ class ScreenReader:
         said, self._mark = self._said[self._mark:end], end
         return said
 
-    def hear_nothing(self, seconds):
-        """Checks for that long that nothing is said."""
+    def hear_all(self, *beginnings):
+        """Waits until an utterance has begun with each of these, in any order."""
+        until(lambda: self._alive() and all(
+            any(words.startswith(beginning) for words in self.said) for beginning in beginnings),
+            f"words that begin with {beginnings}")
         self.forget()
-        never(lambda: self.said, f"something was said: {self.said}", seconds)
+
+    def hear_about(self, name):
+        """Waits for words with this name, and returns all that was said until the reader
+        had nothing more to say."""
+        until(lambda: self._alive() and any(name in words for words in self.said),
+              f"words with {name!r}")
+        counts = []
+
+        def quiet():
+            counts.append(len(self._said))
+            return len(counts) > 3 and len(set(counts[-3:])) == 1
+
+        until(quiet, "the end of the words", step=0.2)
+        said = self.said
+        self.forget()
+        return said
 
     def _alive(self):
         assert self._orca.poll() is None, "the screen reader has ended"
