@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmark.Controls
 
@@ -41,14 +39,14 @@ Loader {
     sourceComponent: MouseArea {
         acceptedButtons: Qt.AllButtons
         hoverEnabled: true
-        onPressed: menu.close()
-        onWheel: menu.close()
+        onPressed: menu.close() // qmllint disable unqualified
+        onWheel: menu.close() // qmllint disable unqualified
 
         Accessible.ignored: true
 
         Box {
-            x: Math.max(0, Math.min(menu.place.x, menu.width - width))
-            y: Math.max(0, Math.min(menu.place.y, menu.height - height))
+            x: Math.max(0, Math.min(menu.place.x, menu.width - width)) // qmllint disable unqualified
+            y: Math.max(0, Math.min(menu.place.y, menu.height - height)) // qmllint disable unqualified
             width: copy.width + 2 * 4
             height: copy.height + 2 * 4
             radius: Theme.sectionRadius
@@ -69,19 +67,19 @@ Loader {
                 label: "Copy"
                 focus: true
                 onPressed: {
-                    menu.chosen();
-                    menu.close();
+                    menu.chosen(); // qmllint disable unqualified
+                    menu.close(); // qmllint disable unqualified
                 }
                 // Also when another item or window gets the focus.
                 onActiveFocusChanged: {
                     if (!activeFocus)
-                        menu.close();
+                        menu.close(); // qmllint disable unqualified
                 }
 
                 Keys.onPressed: event => {
                     event.accepted = true;
                     if (event.key === Qt.Key_Escape)
-                        menu.close();
+                        menu.close(); // qmllint disable unqualified
                 }
 
                 Accessible.role: Accessible.MenuItem
