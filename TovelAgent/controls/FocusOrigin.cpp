@@ -26,14 +26,17 @@ void FocusOrigin::setTarget(QQuickItem* target) {
   }
 }
 
+void FocusOrigin::setFromPointer(bool fromPointer) {
+  if (fromPointer != fromPointer_) {
+    fromPointer_ = fromPointer;
+    Q_EMIT fromPointerChanged();
+  }
+}
+
 bool FocusOrigin::eventFilter(QObject* watched, QEvent* event) {
   if (watched == target_ && event->type() == QEvent::FocusIn) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    const bool fromPointer = keepsOrigin(reason) ? fromPointer_ : reason == Qt::MouseFocusReason;
-    if (fromPointer != fromPointer_) {
-      fromPointer_ = fromPointer;
-      Q_EMIT fromPointerChanged();
-    }
+    setFromPointer(keepsOrigin(reason) ? fromPointer_ : reason == Qt::MouseFocusReason);
   }
   return QObject::eventFilter(watched, event);
 }

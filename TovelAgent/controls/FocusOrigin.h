@@ -16,7 +16,7 @@ class FocusOrigin : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QQuickItem* target READ target WRITE setTarget REQUIRED)
-  Q_PROPERTY(bool fromPointer READ fromPointer NOTIFY fromPointerChanged)
+  Q_PROPERTY(bool fromPointer READ fromPointer WRITE setFromPointer NOTIFY fromPointerChanged)
 
  public:
   using QObject::QObject;
@@ -25,6 +25,8 @@ class FocusOrigin : public QObject {
   void setTarget(QQuickItem* target);
 
   [[nodiscard]] bool fromPointer() const { return fromPointer_; }
+  /// For a move inside the target, which is no focus event.
+  void setFromPointer(bool fromPointer);
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -10,13 +10,14 @@ Box {
     id: ring
 
     required property Item target
+    property alias fromPointer: origin.fromPointer
     /// The distance from its parent's edge; positive is inwards.
     property int inset: 1
 
     anchors.fill: parent
     // Whole device pixels, or the margins would differ from side to side.
     anchors.margins: Math.round(inset * Screen.devicePixelRatio) / Screen.devicePixelRatio
-    visible: target.activeFocus && !origin.fromPointer
+    visible: (target?.activeFocus ?? false) && !origin.fromPointer
     color: "transparent"
     radius: Theme.focusRadius
     borderWidth: 2

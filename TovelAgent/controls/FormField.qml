@@ -16,14 +16,6 @@ Column {
     signal edited(string text)
 
     width: parent?.width ?? 0
-    spacing: 4
-
-    Label {
-        text: field.label
-        size: 11
-        font.weight: Font.DemiBold
-        color: Theme.gray
-    }
 
     // Qt tells assistive technology the property `text`, even of a masked field. So the
     // real text is called `content` here, and a second property `text` below, with the
@@ -34,49 +26,76 @@ Column {
         property alias content: entry.text
     }
 
-    Box {
+    Column {
         width: parent.width
-        height: input.implicitHeight
-        radius: Theme.sectionRadius
-        color: Theme.white
-        borderWidth: input.activeFocus ? 2 : 1
-        borderColor: input.activeFocus ? Theme.blue : Theme.fieldBorder
+        spacing: 4
 
-        Entry {
-            id: input
-
-            property string text: displayText
-
-            anchors.fill: parent
-            topPadding: 6
-            bottomPadding: 6
-            leftPadding: 8
-            rightPadding: 8
-            clip: true
-            font.pixelSize: 12
-            color: Theme.text
-            selectionColor: Theme.blue
-            selectedTextColor: Theme.white
-            selectByMouse: true
-            activeFocusOnTab: true
-            content: field.value
-            onTextEdited: field.edited(content)
-
-            Accessible.role: Accessible.EditableText
-            Accessible.name: field.label
-            Accessible.description: field.placeholder
-            Accessible.passwordEdit: echoMode !== TextInput.Normal
-        }
+        // Qt gives a masked field no name, so the label is that of a group around it. Not the
+        // root: Qt treats the property `value` of an accessible item as a number.
+        Accessible.role: Accessible.Grouping
+        Accessible.name: field.label
+        Accessible.ignored: field.echoMode === TextInput.Normal
 
         Label {
-            visible: input.length === 0 && input.preeditText.length === 0
-            x: input.leftPadding
-            y: input.topPadding
-            text: field.placeholder
-            size: 12
+            text: field.label
+            size: 11
+            font.weight: Font.DemiBold
             color: Theme.gray
+        }
 
-            Accessible.ignored: true
+        Box {
+            width: parent.width
+            height: input.implicitHeight
+            radius: Theme.sectionRadius
+            color: Theme.white
+            borderWidth: input.activeFocus ? 2 : 1
+            borderColor: input.activeFocus ? Theme.blue : Theme.fieldBorder
+
+            Entry {
+                id: input
+
+                property string text: displayText
+
+                readonly property bool isMasked: echoMode !== TextInput.Normal
+                // The text as a description: Orca drops the text itself, because Qt gives it no
+                // text attributes. Not while the user types, or every change would be spoken.
+                property string textAtFocus: ""
+
+                onActiveFocusChanged: textAtFocus = displayText
+
+                anchors.fill: parent
+                topPadding: 6
+                bottomPadding: 6
+                leftPadding: 8
+                rightPadding: 8
+                clip: true
+                font.pixelSize: 12
+                color: Theme.text
+                selectionColor: Theme.blue
+                selectedTextColor: Theme.white
+                selectByMouse: true
+                activeFocusOnTab: true
+                content: field.value
+                onTextEdited: field.edited(content)
+
+                Accessible.role: Accessible.EditableText
+                Accessible.name: field.label
+                Accessible.description: hint.visible ? field.placeholder : isMasked ? "Filled in" : textAtFocus
+                Accessible.passwordEdit: isMasked
+            }
+
+            Label {
+                id: hint
+
+                visible: input.length === 0 && input.preeditText.length === 0
+                x: input.leftPadding
+                y: input.topPadding
+                text: field.placeholder
+                size: 12
+                color: Theme.gray
+
+                Accessible.ignored: true
+            }
         }
     }
 }

@@ -4,28 +4,53 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A list that fills the page, or a placeholder while the list has no rows.
-Item {
+/// A list that fills the page, or a placeholder while the list has no rows. The
+/// keyboard focus stays in the page when one takes the other's place.
+FocusScope {
     id: page
 
+    required property string title
     required property string label
     /// An item model that has the property `count`.
     required property var model
     required property Component delegate
     required property Component placeholder
+    /// The placeholder's text.
+    property string emptyText: ""
+    readonly property bool isEmpty: model.count === 0
+
+    /// For a screen reader.
+    signal announced(string text)
 
     Loader {
+        id: content
+
         anchors.fill: parent
-        sourceComponent: page.model.count > 0 ? list : page.placeholder
+        focus: true
+        // Qt warns if this becomes false while the item itself has the focus.
+        activeFocusOnTab: page.isEmpty || (activeFocus && !(item?.activeFocus ?? false))
+        sourceComponent: page.isEmpty ? page.placeholder : list
+
+        Accessible.role: Accessible.Section
+        Accessible.name: page.title
+        Accessible.description: page.isEmpty ? page.emptyText : ""
+        Accessible.focusable: page.isEmpty
+        Accessible.focused: page.isEmpty && activeFocus
+    }
+
+    FocusRing {
+        target: page.isEmpty ? content : null
     }
 
     Component {
         id: list
 
         PlainList {
+            focus: true
             label: page.label // qmllint disable unqualified
             model: page.model // qmllint disable unqualified
             delegate: page.delegate // qmllint disable unqualified
+            onCopied: page.announced("Copied") // qmllint disable unqualified
         }
     }
 }

@@ -5,11 +5,18 @@ import QtQuick
 import Quillmark.Controls
 
 /// A plain list: rows on white with a line between them. It keeps its scroll
-/// position when the model's rows change.
+/// position when the model's rows change. Its current row is a reading position, which
+/// the keyboard moves; no row can be selected.
 ListView {
     id: list
 
     required property string label
+
+    /// The number of rows when the reading position last moved. A screen reader would
+    /// speak every change of it.
+    property int spokenCount: 0
+
+    signal copied
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
@@ -18,15 +25,18 @@ ListView {
     // Rows that are prepared out of view would take as long to lay out as those in
     // view, and Qt 6.8 would leave them ignored by assistive technology.
     cacheBuffer: 0
-    activeFocusOnTab: true
-    // Rows cannot be selected, and a highlight would slow down the first frames.
+    // The current row takes the focus instead.
+    activeFocusOnTab: false
     keyNavigationEnabled: false
-    currentIndex: -1
+    // ListView's own highlight would slow down the first frames.
+    highlightFollowsCurrentItem: false
+
+    onActiveFocusChanged: spokenCount = count
+    Component.onCompleted: spokenCount = count
 
     Accessible.role: Accessible.List
     Accessible.name: label
     Accessible.focusable: true
-    Accessible.focused: activeFocus
     Accessible.onScrollUpAction: scroller.scrollLines(-1)
     Accessible.onScrollDownAction: scroller.scrollLines(1)
     Accessible.onPreviousPageAction: scroller.scrollPages(-1)
@@ -64,10 +74,31 @@ ListView {
         onTriggered: list.positionViewAtEnd()
     }
 
-    Scroller {
+    ListScroller {
         id: scroller
 
         target: list
+        onMovedByKey: {
+            ring.fromPointer = false;
+            list.spokenCount = list.count;
+        }
+        onMovedByPointer: ring.fromPointer = true
+        onCopied: list.copied()
+        onMenuRequested: menu.openBelow(list.currentItem)
+    }
+
+    MouseArea {
+        parent: list
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onPressed: mouse => {
+            ring.fromPointer = true;
+            list.forceActiveFocus(Qt.MouseFocusReason);
+            if (scroller.readAt(mouse.y))
+                menu.openAt(mouse.x, mouse.y);
+        }
+
+        Accessible.ignored: true
     }
 
     ScrollBar {
@@ -76,7 +107,17 @@ ListView {
     }
 
     FocusRing {
+        id: ring
+
+        parent: list.currentItem ?? list
+        target: list.currentItem
+    }
+
+    CopyMenu {
+        id: menu
+
         parent: list
-        target: list
+        opener: list.currentItem ?? list
+        onChosen: scroller.copy()
     }
 }

@@ -10,6 +10,7 @@ Item {
 
     default property alias content: holder.data
     required property string label
+    required property int index
 
     readonly property real pixel: 1 / Screen.devicePixelRatio
 
@@ -25,8 +26,14 @@ Item {
         Accessible.ignored = false;
     }
 
+    // Qt warns if this becomes false while the row still has the focus.
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
+
     Accessible.role: Accessible.ListItem
     Accessible.name: label
+    Accessible.description: (index + 1) + " of " + (ListView.view?.spokenCount ?? 0)
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
 
     Item {
         id: holder

@@ -40,19 +40,23 @@ class Scroller : public QObject {
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
+ protected:
+  /// Scrolls to the item that got the focus.
+  virtual void followFocus();
+  /// False if the key has no meaning.
+  [[nodiscard]] virtual bool handleKey(int key);
+  void scrollToEnd();
+  [[nodiscard]] qreal position() const;
+  [[nodiscard]] qreal top() const;
+  void scrollTo(qreal position);
+
  private Q_SLOTS:
   void keepInView();
 
  private:
   void watch(QQuickWindow* window);
-  void followFocus();
-  [[nodiscard]] bool handleKey(int key);
-  void scrollToEnd();
   [[nodiscard]] qreal valueOf(const char* name) const;
-  [[nodiscard]] qreal position() const;
-  [[nodiscard]] qreal top() const;
   [[nodiscard]] qreal bottom() const;
-  void scrollTo(qreal position);
 
   QPointer<QQuickItem> target_;
   QPointer<QQuickWindow> window_;

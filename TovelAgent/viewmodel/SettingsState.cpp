@@ -91,6 +91,7 @@ void SettingsState::checkAgentStatusLater(int milliseconds) {
                      [state = QPointer<SettingsState>(this)] {
                        if (state) {
                          state->checkAgentStatus();
+                         Q_EMIT state->agentProbed();
                        } else {
                          static_cast<void>(probeAgentProcess());
                        }

@@ -78,6 +78,8 @@ class SettingsState : public QObject {
   void apiKeyInputChanged();
   void serverUrlChanged();
   void isAgentRunningChanged();
+  /// The probe after a start or a stop is complete.
+  void agentProbed();
   void pickerRequested();
 
  private:

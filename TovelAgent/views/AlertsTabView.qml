@@ -7,14 +7,18 @@ import Quillmark.ViewModel
 
 /// The first alerts of the latest poll.
 ListPage {
+    id: page
+
     required property DashboardViewModel viewModel
 
+    title: "Alerts"
     label: "Alerts"
     model: viewModel.alerts
+    emptyText: "No threats detected"
     placeholder: EmptyState {
         icon: "checkmark.circle"
         iconColor: Theme.green
-        text: "No threats detected"
+        text: page.emptyText // qmllint disable unqualified
     }
     delegate: PlainListRow {
         id: row

@@ -16,6 +16,18 @@ Box {
     radius: Theme.noticeRadius
     color: Theme.panelTint
 
+    // So that a screen reader reads it.
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: path + ", " + description
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+
+    FocusRing {
+        target: row
+    }
+
     Column {
         id: column
 

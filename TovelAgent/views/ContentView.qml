@@ -24,6 +24,21 @@ Item {
 
     readonly property bool onScreen: Window.visibility !== Window.Hidden
 
+    /// Selects a tab that the user chose. Its content gets the keyboard focus if that of
+    /// the tab before had it.
+    function showTab(identifier: string) {
+        if (identifier === selectedTab)
+            return;
+        const hadFocus = content.activeFocus;
+        // The tab bar says it itself. Before the focus moves, so that a screen reader says
+        // last what has the focus.
+        if (tabBar.focusedIndex() < 0)
+            announcer.announce(tabs.find(tab => tab.identifier === identifier).title + " tab");
+        selectedTab = identifier;
+        if (hadFocus)
+            content.item.forceActiveFocus();
+    }
+
     onOnScreenChanged: {
         if (onScreen)
             viewModel.startPolling();
@@ -31,6 +46,19 @@ Item {
 
     DashboardViewModelRef {
         id: reference
+    }
+
+    Announcer {
+        id: announcer
+
+        Accessible.role: Accessible.Notification
+        Accessible.name: text
+    }
+
+    StatusNews {
+        viewModel: root.viewModel
+        isListening: root.Window.active
+        onTold: text => announcer.announce(text)
     }
 
     Rectangle {
@@ -64,7 +92,7 @@ Item {
         width: parent.width
         tabs: root.tabs
         selectedTab: root.selectedTab
-        onTabChosen: identifier => root.selectedTab = identifier
+        onTabChosen: identifier => root.showTab(identifier)
     }
 
     Item {
@@ -75,10 +103,22 @@ Item {
 
         // Loaded by file name, so that a tab costs nothing until it is selected.
         Loader {
+            id: content
+
             readonly property var tab: root.tabs.find(tab => tab.identifier === root.selectedTab)
 
             anchors.fill: parent
             onTabChanged: setSource(tab?.view ?? "", tab?.needsViewModel ? { viewModel: root.viewModel } : {})
+
+            Connections {
+                target: content.item
+                // The dashboard announces nothing.
+                ignoreUnknownSignals: true
+
+                function onAnnounced(text) {
+                    announcer.announce(text);
+                }
+            }
         }
     }
 }

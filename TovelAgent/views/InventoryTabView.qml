@@ -12,13 +12,15 @@ ListPage {
 
     required property DashboardViewModel viewModel
 
+    title: "Inventory"
     label: "Installed applications"
     model: viewModel.apps
+    emptyText: viewModel.hasInventory ? "Loading applications..." : ""
     placeholder: Item {
         Label {
-            visible: tab.viewModel.hasInventory // qmllint disable unqualified
+            visible: text.length > 0
             anchors.centerIn: parent
-            text: "Loading applications..."
+            text: tab.emptyText // qmllint disable unqualified
             color: Theme.gray
         }
     }

@@ -7,14 +7,18 @@ import Quillmark.ViewModel
 
 /// The connections of the latest poll.
 ListPage {
+    id: page
+
     required property DashboardViewModel viewModel
 
+    title: "Network"
     label: "Network connections"
     model: viewModel.networkConnections
+    emptyText: "No network connections detected"
     placeholder: EmptyState {
         icon: "network"
         iconColor: Theme.gray
-        text: "No network connections detected"
+        text: page.emptyText // qmllint disable unqualified
     }
     delegate: PlainListRow {
         id: row

@@ -7,10 +7,16 @@ import Quillmark.ViewModel
 
 /// Starts and stops the agent, and writes or imports its configuration.
 /// Its state is kept only while the tab is shown.
-Rectangle {
+FocusScope {
     id: tab
 
-    color: Theme.panelTint
+    /// For a screen reader.
+    signal announced(string text)
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.panelTint
+    }
 
     SettingsState {
         id: settings
@@ -20,13 +26,18 @@ Rectangle {
             settings: settings,
             opener: advanced.browse
         })
-        onStatusMessageChanged: page.reveal(advanced.notice)
+        onStatusMessageChanged: {
+            page.reveal(advanced.notice);
+            tab.announced(statusMessage);
+        }
+        onAgentProbed: tab.announced(agentStatusLine)
     }
 
     ScrollPage {
         id: page
 
         anchors.fill: parent
+        focus: true
         label: "Settings"
         spacing: 20
 

@@ -4,7 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A number with its title; the parent sets its width.
+/// A number with its title; the parent sets its width. It takes the keyboard focus, so
+/// that a screen reader reads it.
 Item {
     id: card
 
@@ -24,29 +25,42 @@ Item {
         color: Theme.white
     }
 
-    Column {
-        id: texts
+    // The root is not accessible: Qt treats the property `value` of an accessible
+    // item as a number that can be set.
+    Item {
+        id: accessibleItem
 
-        x: 16
-        y: 16
-        spacing: 8
+        anchors.fill: parent
+        activeFocusOnTab: true
 
-        // The root is not accessible: Qt treats the property `value` of an accessible
-        // item as a number that can be set.
         Accessible.role: Accessible.Grouping
-        Accessible.name: card.title
+        Accessible.name: card.title + ": " + card.value
+        Accessible.focusable: true
+        Accessible.focused: activeFocus
 
-        Label {
-            text: card.title
-            size: 13
-            color: Theme.gray
+        Column {
+            id: texts
+
+            x: 16
+            y: 16
+            spacing: 8
+
+            Label {
+                text: card.title
+                size: 13
+                color: Theme.gray
+            }
+
+            Label {
+                text: card.value
+                size: 32
+                font.weight: Font.Bold
+                color: Theme.blue
+            }
         }
 
-        Label {
-            text: card.value
-            size: 32
-            font.weight: Font.Bold
-            color: Theme.blue
+        FocusRing {
+            target: accessibleItem
         }
     }
 }

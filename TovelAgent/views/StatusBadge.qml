@@ -6,7 +6,7 @@ import Quillmark.Controls
 
 /// A small titled value with a dot that shows whether it is healthy. The value
 /// wraps when the badge would be wider than `maximumWidth`. It takes the keyboard
-/// focus, so that a screen reader can stay on it and announce every change.
+/// focus, so that a screen reader reads it.
 Item {
     id: badge
 

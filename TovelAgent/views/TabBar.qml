@@ -17,35 +17,32 @@ Rectangle {
 
     readonly property int selectedIndex: tabs.findIndex(tab => tab.identifier === selectedTab)
 
+    /// Selects the tab at `index`; the keyboard focus follows if it is in the bar. An
+    /// index out of range has no effect.
     function choose(index: int) {
         const tab = tabs[index];
-        if (tab)
-            tabChosen(tab.identifier);
+        if (!tab)
+            return;
+        tabChosen(tab.identifier);
+        // After the selection, or a screen reader would say "Selected" twice.
+        if (focusedIndex() >= 0 && focusedIndex() !== index)
+            buttons.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    /// Moves the keyboard focus to the tab at `index` and selects it. An index out
-    /// of range has no effect.
-    function focusAndChoose(index: int) {
-        const button = buttons.itemAt(index);
-        if (button) {
-            button.forceActiveFocus(Qt.TabFocusReason);
-            choose(index);
-        }
-    }
-
+    /// The tab that has the keyboard focus; -1 if none has.
     function focusedIndex(): int {
-        return tabs.findIndex((_, index) => buttons.itemAt(index).activeFocus);
+        return tabs.findIndex((_, index) => buttons.itemAt(index)?.activeFocus);
     }
 
     implicitHeight: row.height + 2 * 12
     color: Theme.panelTint
 
-    Keys.onLeftPressed: focusAndChoose(focusedIndex() - 1)
-    Keys.onRightPressed: focusAndChoose(focusedIndex() + 1)
+    Keys.onLeftPressed: choose(focusedIndex() - 1)
+    Keys.onRightPressed: choose(focusedIndex() + 1)
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted)
-            focusAndChoose(event.key === Qt.Key_Home ? 0 : tabs.length - 1);
+            choose(event.key === Qt.Key_Home ? 0 : tabs.length - 1);
     }
 
     Accessible.role: Accessible.PageTabList
@@ -82,7 +79,7 @@ Rectangle {
                 icon: modelData.icon
                 isActive: bar.selectedTab === modelData.identifier
                 anchors.verticalCenter: parent?.verticalCenter
-                onPressed: bar.tabChosen(modelData.identifier)
+                onPressed: bar.choose(index)
 
                 Shortcut {
                     sequence: "Ctrl+" + (button.index + 1)

@@ -22,6 +22,8 @@ Pressable {
     Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: isActive
+    // Screen readers do not speak the state of a tab.
+    Accessible.description: isActive ? "Selected" : ""
 
     Column {
         id: column

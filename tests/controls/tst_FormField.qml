@@ -77,6 +77,24 @@ ViewTest {
         compare(input.Accessible.description, "Type it");
     }
 
+    function test_textIsDescribedOnceTheFieldHasTheFocus() {
+        const view = field({ value: "abc" });
+        const input = inputOf(view);
+        input.forceActiveFocus(Qt.TabFocusReason);
+        compare(input.Accessible.description, "abc");
+        keyClick("d");
+        compare(input.Accessible.description, "abc");
+    }
+
+    function test_maskedFieldHasItsLabelAsAGroup() {
+        const view = field({ value: "secret", echoMode: TextInput.Password });
+        const group = inputOf(view).parent.parent;
+        compare(group.Accessible.name, "Name");
+        verify(!group.Accessible.ignored);
+        compare(inputOf(view).Accessible.description, "Filled in");
+        verify(inputOf(field()).parent.parent.Accessible.ignored);
+    }
+
     Component {
         id: component
 

@@ -50,7 +50,7 @@ ViewTest {
 
     function test_accessible() {
         const view = page(1000);
-        compare(view.Accessible.role, Accessible.Pane);
+        compare(view.Accessible.role, Accessible.Section);
         compare(view.Accessible.name, "Page");
         verify(view.Accessible.focusable);
         verify(view.Accessible.focused);

@@ -16,6 +16,7 @@ from harness.backend import Backend  # noqa: E402
 from harness.display import Display  # noqa: E402
 from harness.panel import Panel  # noqa: E402
 from harness.screen import BUILD, save  # noqa: E402
+from harness.screen_reader import PANEL_OUTPUT, ScreenReader  # noqa: E402
 from harness.waiting import until  # noqa: E402
 
 TOKEN = "0123456789abcdef"
@@ -91,6 +92,24 @@ def launch(launch_alone, backend):
         return launch_alone(**environment)
 
     return start
+
+
+@pytest.fixture(scope="module")
+def screen_reader(display):
+    """Orca; what it says about the panel of a test."""
+    reader = ScreenReader()
+    yield reader
+    reader.stop()
+
+
+@pytest.fixture(scope="module")
+def spoken_panel(screen_reader, token, backend):
+    """One panel for all tests of a file, with a screen reader that runs since before."""
+    panel = Panel()
+    panel.expected_output = PANEL_OUTPUT
+    panel.opened()
+    yield panel
+    panel.finish()
 
 
 @pytest.fixture

@@ -5,6 +5,7 @@
 import pytest
 
 from harness import bodies, hands, picker, settings
+from harness.cards import TITLES
 from harness.lists import listed
 from harness.panel import TABS
 from harness.settings import BROWSE, KEY, SAVE, SERVER, START, STOP
@@ -13,13 +14,25 @@ from harness.waiting import until
 BADGES = [("group", "Status: OK"), ("group", "Threats: 1")]
 BAR = [("tab", name) for name in TABS]
 WINDOW = [("button", name) for name in ("Minimize", "Maximize", "Close")]
-# The items of each tab that can have the focus when the API key is filled in.
+CARDS = [("group", f"{title}: {value}") for title, value in zip(TITLES, (2, 2, 1, 3, 2))]
+LOCATIONS = [("row", "~/.config/quillmark/config.toml, Recommended - User configuration"),
+             ("row", "/Library/Quillmark/config.toml, macOS system configuration"),
+             ("row", "/etc/quillmark/config.toml, System-wide configuration")]
+# The items of each tab that the Tab key reaches when the API key is filled in.
 CONTENT = {
-    "Dashboard": [("group", "Dashboard")],
-    "Network": [("list", "Network connections")],
-    "Inventory": [("list", "Installed applications")],
-    "Alerts": [("list", "Alerts")],
-    "Settings": [("group", "Settings"), START, STOP, SERVER, KEY, SAVE, BROWSE],
+    "Dashboard": [("group", "Dashboard"), *CARDS],
+    "Network": [("row", "127.0.0.1:7823, → 10.0.0.5:443, ESTABLISHED")],
+    "Inventory": [("row", "Files, v43.2")],
+    "Alerts": [("row", "high: malware, A bad file")],
+    "Settings": [("group", "Settings"), START, STOP, SERVER, KEY, SAVE, BROWSE, *LOCATIONS],
+}
+# Those that assistive technology can give the focus, in addition.
+MORE = {
+    "Network": [("list", "Network connections"),
+                ("row", "127.0.0.1:22, → 10.0.0.5:443, LISTEN"),
+                ("row", "127.0.0.1:80, → 10.0.0.5:443, ESTABLISHED")],
+    "Inventory": [("list", "Installed applications"), ("row", "Terminal")],
+    "Alerts": [("list", "Alerts"), ("row", "low: policy")],
 }
 
 
@@ -73,7 +86,8 @@ def test_items_that_assistive_technology_can_focus(panel, tab):
         settings.fill(panel, KEY, "k")
     # So high that there is nothing to scroll.
     panel.window.resize(1000, 1150)
-    content = [which for which in CONTENT[tab] if which[0] != "group"]
+    pages = [("group", "Dashboard"), ("group", "Settings")]
+    content = [which for which in CONTENT[tab] if which not in pages] + MORE.get(tab, [])
     until(lambda: sorted(focusable(panel.tree.read())) == sorted(BADGES + BAR + content + WINDOW),
           "these and no others to be focusable")
     panel.window.resize(1000, 700)

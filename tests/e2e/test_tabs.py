@@ -119,16 +119,18 @@ def test_click_gives_a_list_the_focus(panel, backend):
     panel.focus_on("tab", "Network")
     found = panel.tree.wait_for("list", "Network connections")
     hands.click(found.box)
-    until(lambda: panel.focus() and panel.focus().role == "list", "the list to have the focus")
+    row = until(lambda: panel.focus() and panel.focus().role == "row" and panel.focus(),
+                "a row to have the focus")
     hands.park()
-    edge = Box(found.box.x + 40, found.box.bottom - 3, 400, 3)
+    edge = Box(row.box.x + 40, row.box.bottom - 4, 400, 4)
     assert colours.BLUE not in Picture().colours(edge), "no ring after a click"
     first = listed(panel, "Network connections")[1][0].name
     hands.key("Next")
     until(lambda: listed(panel, "Network connections")[1][0].name != first, "Page Down to scroll")
     # Reached by Tab, it has one.
     hands.key("shift+Tab")
-    panel.press_until_focused("list", "Network connections")
+    row = panel.press_until_focused("list", "Network connections")
+    edge = Box(row.box.x + 40, row.box.bottom - 4, 400, 4)
     until(lambda: colours.BLUE in Picture().colours(edge), "the ring")
 
 

@@ -51,7 +51,11 @@ ViewTest {
 
     function test_accessible() {
         const view = card();
-        compare(labelOf(view, "Recent Alerts").parent.Accessible.name, "Recent Alerts");
+        const item = labelOf(view, "Recent Alerts").parent.parent;
+        compare(item.Accessible.name, "Recent Alerts: 1234");
+        item.forceActiveFocus(Qt.TabFocusReason);
+        verify(item.Accessible.focused);
+        compare(itemsOfType(view, "FocusRing").length, 1);
     }
 
     Component {

@@ -22,13 +22,17 @@ ROLES = {
     29: "text",
     31: "list",
     32: "row",
+    35: "menu item",
     37: "tab",
     38: "tab list",
     39: "group",
     40: "password",
+    41: "menu",
     43: "button",
     61: "field",
     75: "application",
+    85: "group",
+    101: "notification",
     116: "text",
 }
 STATES = {11: "focusable", 12: "focused", 23: "selected", 25: "showing"}

@@ -22,10 +22,10 @@ def write(text):
     tool("xdotool", "type", "--delay", "8", text)
 
 
-def click(box, times=1):
+def click(box, times=1, button=1):
     x, y = box.centre
     repeat = ["--repeat", str(times), "--delay", "60"] if times > 1 else []
-    tool("xdotool", "mousemove", str(x), str(y), "click", *repeat, "1")
+    tool("xdotool", "mousemove", str(x), str(y), "click", *repeat, str(button))
     time.sleep(REACTION)
 
 

@@ -107,8 +107,10 @@ class Panel:
         assert self._has_focus(focus, role, name), f"{key} does not reach {role} {name!r}"
         return focus
 
-    @staticmethod
-    def _has_focus(focus, role, name):
+    def _has_focus(self, focus, role, name):
+        if role == "list" and focus and focus.role == "row":
+            # A list gives the focus to one of its rows.
+            return self.tree.find(role, name) and focus
         return focus and (focus.role, focus.name) == (role, name) and focus
 
     def _moved_from(self, last):

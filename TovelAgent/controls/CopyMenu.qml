@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// A menu with one entry, "Copy", inside its parent; created only while it is open.
+/// Qt's own menu needs a style, which would be loaded for this entry alone.
+Loader {
+    id: menu
+
+    /// Gets the keyboard focus back when the menu closes.
+    required property Item opener
+    property point place
+
+    signal chosen
+
+    function openAt(x: real, y: real) {
+        place = Qt.point(x, y);
+        active = true;
+        forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    function openBelow(row: Item) {
+        if (row) {
+            const corner = row.mapToItem(parent, Theme.listInset, row.height);
+            openAt(corner.x, corner.y);
+        }
+    }
+
+    function close() {
+        active = false;
+        opener.focus = true;
+    }
+
+    anchors.fill: parent
+    active: false
+    z: 2
+    sourceComponent: MouseArea {
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onPressed: menu.close() // qmllint disable unqualified
+        onWheel: menu.close() // qmllint disable unqualified
+
+        Accessible.ignored: true
+
+        Box {
+            x: Math.max(0, Math.min(menu.place.x, menu.width - width)) // qmllint disable unqualified
+            y: Math.max(0, Math.min(menu.place.y, menu.height - height)) // qmllint disable unqualified
+            width: copy.width + 2 * 4
+            height: copy.height + 2 * 4
+            radius: Theme.sectionRadius
+            color: Theme.white
+            borderWidth: 1
+            borderColor: Theme.fieldBorder
+
+            Accessible.role: Accessible.PopupMenu
+            Accessible.name: "Row"
+
+            Pressable {
+                id: copy
+
+                x: 4
+                y: 4
+                width: 120
+                height: 32
+                label: "Copy"
+                focus: true
+                onPressed: {
+                    menu.chosen(); // qmllint disable unqualified
+                    menu.close(); // qmllint disable unqualified
+                }
+                // Also when another item or window gets the focus.
+                onActiveFocusChanged: {
+                    if (!activeFocus)
+                        menu.close(); // qmllint disable unqualified
+                }
+
+                Keys.onPressed: event => {
+                    event.accepted = true;
+                    if (event.key === Qt.Key_Escape)
+                        menu.close(); // qmllint disable unqualified
+                }
+
+                Accessible.role: Accessible.MenuItem
+
+                Box {
+                    anchors.fill: parent
+                    radius: Theme.noticeRadius
+                    color: Theme.windowButtonHover
+                    visible: copy.hovered
+                }
+
+                Label {
+                    x: 10
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: copy.label
+                    size: 13
+
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/ListScroller.h"
+
+#include <algorithm>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace quillmark {
+namespace {
+
+// ListView.Contain: scrolls no further than necessary.
+constexpr int contain = 4;
+
+bool isMenuKey(const QKeyEvent& press) {
+  return press.key() == Qt::Key_Menu ||
+         (press.key() == Qt::Key_F10 && press.modifiers() == Qt::ShiftModifier);
+}
+
+}  // namespace
+
+bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == target() && event->type() == QEvent::MouseButtonPress) {
+    readAt(static_cast<QMouseEvent*>(event)->position().y());
+    Q_EMIT movedByPointer();
+  }
+  if (watched == target() && event->type() == QEvent::KeyPress) {
+    const auto* const press = static_cast<QKeyEvent*>(event);
+    if (press->matches(QKeySequence::Copy)) {
+      copy();
+      return true;
+    }
+    if (isMenuKey(*press)) {
+      Q_EMIT menuRequested();
+      return true;
+    }
+  }
+  return Scroller::eventFilter(watched, event);
+}
+
+// The view follows the position only when a key moves it: it must not move with polls.
+void ListScroller::followFocus() {}
+
+bool ListScroller::handleKey(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+      moveByLine(-1);
+      break;
+    case Qt::Key_Down:
+      moveByLine(1);
+      break;
+    case Qt::Key_PageUp:
+      moveByPage(-1);
+      break;
+    case Qt::Key_PageDown:
+      moveByPage(1);
+      break;
+    case Qt::Key_Home:
+      moveToEnd(-1);
+      break;
+    case Qt::Key_End:
+      moveToEnd(1);
+      break;
+    default:
+      return false;
+  }
+  Q_EMIT movedByKey();
+  return true;
+}
+
+bool ListScroller::readAt(qreal y) {
+  const int index = rowAt(y);
+  if (index < 0) {
+    return false;
+  }
+  const qreal before = position();
+  target()->setProperty("currentIndex", index);
+  // ListView scrolls a row that is cut off into view.
+  scrollTo(before);
+  return true;
+}
+
+void ListScroller::copy() {
+  if (const auto* const item = row(current())) {
+    QGuiApplication::clipboard()->setText(item->property("label").toString());
+    Q_EMIT copied();
+  }
+}
+
+int ListScroller::current() const { return target()->property("currentIndex").toInt(); }
+
+int ListScroller::last() const { return target()->property("count").toInt() - 1; }
+
+/// Null if it is far from the view and not the current one.
+QQuickItem* ListScroller::row(int index) const {
+  QQuickItem* item = nullptr;
+  QMetaObject::invokeMethod(target(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
+                            Q_ARG(int, index));
+  return item;
+}
+
+/// In coordinates of the list; empty if there is no item.
+QRectF ListScroller::placeOf(int index) const {
+  const auto* const item = row(index);
+  return item != nullptr ? item->mapRectToItem(target(), item->boundingRect()) : QRectF();
+}
+
+bool ListScroller::fillsView(int index) const {
+  return placeOf(index).height() > target()->height();
+}
+
+int ListScroller::rowAt(qreal y) const {
+  int index = -1;
+  QMetaObject::invokeMethod(target(), "indexAt", Q_RETURN_ARG(int, index), Q_ARG(qreal, 1),
+                            Q_ARG(qreal, position() + y));
+  return index;
+}
+
+/// The first row that begins in the view, or the only one in it.
+int ListScroller::firstInView() const {
+  const int index = rowAt(1);
+  const auto place = placeOf(index);
+  return place.top() < -1 && place.bottom() < target()->height() - 1 ? index + 1 : index;
+}
+
+void ListScroller::moveTo(int index) {
+  const int row = std::clamp(index, 0, std::max(0, last()));
+  target()->setProperty("currentIndex", row);
+  QMetaObject::invokeMethod(target(), "positionViewAtIndex", Q_ARG(int, row), Q_ARG(int, contain));
+}
+
+void ListScroller::moveByLine(int direction) {
+  const auto place = placeOf(current());
+  const auto height = target()->height();
+  const bool isInView = place.bottom() > 0 && place.top() < height;
+  if (!isInView) {
+    // Where the pointer has scrolled to.
+    moveTo(direction > 0 ? firstInView() : rowAt(height - 1));
+  } else if (fillsView(current()) &&
+             (direction > 0 ? place.bottom() > height + 1 : place.top() < -1)) {
+    scrollLines(direction);
+  } else {
+    moveTo(current() + direction);
+  }
+}
+
+void ListScroller::moveByPage(int direction) {
+  const qreal before = position();
+  scrollPages(direction);
+  if (position() == before) {
+    moveToEnd(direction);
+    return;
+  }
+  const int reached = firstInView();
+  const bool hasMoved = direction > 0 ? reached > current() : reached < current();
+  if (hasMoved) {
+    moveTo(reached);
+  } else if (!fillsView(current())) {
+    moveTo(current() + direction);
+  }
+}
+
+void ListScroller::moveToEnd(int direction) {
+  moveTo(direction > 0 ? last() : 0);
+  if (direction > 0) {
+    scrollToEnd();
+  } else {
+    scrollTo(top());
+  }
+}
+
+}  // namespace quillmark

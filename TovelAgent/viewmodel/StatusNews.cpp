@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/StatusNews.h"
+
+#include <QStringList>
+
+namespace quillmark {
+
+QString newsBetween(const std::optional<StatusPresentation>& before,
+                    const StatusPresentation& now) {
+  // Only a status that was received has a last scan.
+  const bool wasConnected = before && before->hasLastScan;
+  if (!now.hasLastScan) {
+    if (!before) {
+      return QStringLiteral("Not connected to the agent");
+    }
+    return wasConnected ? QStringLiteral("Connection to the agent lost") : QString();
+  }
+
+  QStringList parts;
+  if (!wasConnected) {
+    parts << QStringLiteral("Connected to the agent");
+  }
+  if (!wasConnected || now.status != before->status) {
+    parts << QStringLiteral("Status: ") + now.status;
+  }
+  if (!wasConnected || now.threats != before->threats) {
+    parts << QStringLiteral("Threats: ") + now.threats;
+  }
+  return parts.join(QStringLiteral(". "));
+}
+
+void StatusNews::setViewModel(DashboardViewModel* viewModel) {
+  if (viewModel_) {
+    viewModel_->disconnect(this);
+  }
+  viewModel_ = viewModel;
+  if (viewModel_) {
+    connect(viewModel_, &DashboardViewModel::statusChanged, this, [this] {
+      hasPolled_ = true;
+      tell();
+    });
+  }
+}
+
+void StatusNews::setListening(bool isListening) {
+  isListening_ = isListening;
+  tell();
+}
+
+void StatusNews::tell() {
+  if (!isListening_ || !hasPolled_ || !viewModel_) {
+    return;
+  }
+  const auto now = viewModel_->statusPresentation();
+  const auto news = newsBetween(told_, now);
+  told_ = now;
+  if (!news.isEmpty()) {
+    Q_EMIT told(news);
+  }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,123 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Orca, the screen reader: everything that it says.
+
+Start it before the panel, as a user's desktop does. It needs no sound and no voice:
+its words are taken from its log.
+"""
+
+import codecs
+import contextlib
+import os
+import re
+import subprocess
+import threading
+import tty
+
+from . import hands
+from .waiting import until
+
+# Qt reports each key that a busy screen reader did not answer in time.
+PANEL_OUTPUT = r"(QSpiApplication::keyEventError .*\n)*"
+
+# The text, then the voice; after the name of a pressed key there is a space between them,
+# and it does not count. In a text of several lines, the log indents all but the first.
+SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)'(?: voice=\w+)?\{", re.DOTALL)
+INDENTED = re.compile(r"\n {18}")
+
+
+class ScreenReader:
+    def __init__(self):
+        self._said = []
+        self._mark = 0
+        # Python writes each line of a log at once only if the log is a terminal.
+        self._log, terminal = os.openpty()
+        tty.setraw(terminal)
+        self._orca = subprocess.Popen(
+            ["orca", "--replace", "--debug-file", os.ttyname(terminal)],
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+        )
+        self._terminal = terminal
+        threading.Thread(target=self._follow, daemon=True).start()
+        self.hear("Screen reader on.")
+
+    def stop(self):
+        self._orca.terminate()
+        try:
+            self._orca.wait(10)
+        except subprocess.TimeoutExpired:
+            self._orca.kill()
+            self._orca.wait()
+        os.close(self._terminal)
+
+    @property
+    def said(self):
+        """What it has said since the last words that a test heard."""
+        return self._said[self._mark:]
+
+    def press(self, *keys):
+        """Presses keys. From here on, only what is said later can be heard."""
+        self._mark = len(self._said)
+        hands.key(*keys)
+
+    def forget(self):
+        """From here on, only what is said later can be heard."""
+        self._mark = len(self._said)
+
+    def hear(self, *words):
+        """Waits until all these have been said, in this order, and returns all that
+        was said up to the last of them. Each is a whole utterance."""
+
+        def heard():
+            place = self._mark
+            for word in words:
+                if word not in self._said[place:]:
+                    return None
+                place = self._said.index(word, place) + 1
+            return place
+
+        try:
+            end = until(lambda: self._alive() and heard(), f"the words {words}")
+        except AssertionError as failed:
+            raise AssertionError(f"{failed}; it said {self.said}") from None
+        said, self._mark = self._said[self._mark:end], end
+        return said
+
+    def hear_all(self, *beginnings):
+        """Waits until an utterance has begun with each of these, in any order."""
+        until(lambda: self._alive() and all(
+            any(words.startswith(beginning) for words in self.said) for beginning in beginnings),
+            f"words that begin with {beginnings}")
+        self.forget()
+
+    def hear_about(self, name):
+        """Waits for words with this name, and returns all that was said until the reader
+        had nothing more to say."""
+        until(lambda: self._alive() and any(name in words for words in self.said),
+              f"words with {name!r}")
+        counts = []
+
+        def quiet():
+            counts.append(len(self._said))
+            return len(counts) > 3 and len(set(counts[-3:])) == 1
+
+        until(quiet, "the end of the words", step=0.2)
+        said = self.said
+        self.forget()
+        return said
+
+    def _alive(self):
+        assert self._orca.poll() is None, "the screen reader has ended"
+        return True
+
+    def _follow(self):
+        decode = codecs.getincrementaldecoder("utf-8")("replace").decode
+        text = ""
+        with contextlib.suppress(OSError):  # closed
+            while piece := os.read(self._log, 65536):
+                text += decode(piece)
+                while found := SPEECH.search(text):
+                    self._said.append(INDENTED.sub("\n", found[1]))
+                    text = text[found.end():]
+                # The rest may contain the beginning of the next words.
+                text = text[max(text.rfind("SPEECH OUTPUT"), text.rfind("\n"), 0):]

@@ -1,0 +1,76 @@
+# SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What a screen reader says of the Settings tab."""
+
+import pytest
+
+from harness import hands, settings
+from harness.settings import DEFAULT_URL, KEY, SAVE, SERVER, STOP
+
+HINT = "Paste your API key here."
+URL = f"{DEFAULT_URL}."
+
+
+@pytest.fixture
+def panel(spoken_panel, screen_reader, clean_home):
+    settings.enter(spoken_panel)
+    spoken_panel.focus_on("tab", "Settings")
+    screen_reader.hear("Settings page tab.", "Selected.")
+    screen_reader.forget()
+    return spoken_panel
+
+
+def test_the_page_is_not_read_whole(panel, screen_reader):
+    screen_reader.press("Tab")
+    screen_reader.hear("Settings section.")
+    screen_reader.press("Tab")
+    said = screen_reader.hear("Start Agent push button.")
+    assert said == ["Agent Status panel.", "Agent is not running", "Start Agent push button."]
+
+
+def test_fields_say_label_kind_and_value_once(panel, screen_reader):
+    panel.focus_on(*STOP)
+    screen_reader.hear("Stop Agent push button.")
+    screen_reader.press("Tab")
+    said = screen_reader.hear("Server URL text.", URL)
+    assert said.count("Server URL text.") == said.count(URL) == 1
+    screen_reader.press("Tab")
+    words = ["API Key panel.", "password text.", HINT]
+    assert screen_reader.hear(*words) == words
+
+
+def test_a_key_that_is_typed_is_not_spoken(panel, screen_reader):
+    panel.focus_on(*KEY)
+    screen_reader.hear("password text.", HINT)
+    screen_reader.forget()
+    hands.write("qzj")
+    screen_reader.press("Tab")
+    screen_reader.hear("Save & Connect push button.")
+    screen_reader.press("shift+Tab")
+    said = screen_reader.hear("API Key panel.", "password text.", "Filled in.")
+    assert not [words for words in said if set("qzj") & set(words)]
+
+
+def test_the_outcome_of_saving_is_spoken_each_time(panel, screen_reader):
+    settings.fill(panel, KEY, "qm-1")
+    panel.focus_on(*SAVE)
+    for _ in range(2):
+        screen_reader.press("space")
+        screen_reader.hear(f"notification {settings.SAVED}")
+    assert panel.focus().name == "Save & Connect"
+
+
+def test_a_failure_is_spoken(panel, screen_reader):
+    # A folder in the place of the file.
+    settings.CONFIG.mkdir(parents=True)
+    settings.fill(panel, SERVER, "https://a.example")
+    settings.fill(panel, KEY, "qm-1")
+    panel.focus_on(*SAVE)
+    screen_reader.press("space")
+    screen_reader.hear_all("notification ❌ Error: ")
+
+
+def test_stopping_without_an_agent_says_that_none_runs(panel, screen_reader):
+    panel.focus_on(*STOP)
+    screen_reader.press("space")
+    screen_reader.hear("notification Agent is not running.")
