@@ -31,6 +31,7 @@ def panel(spoken_panel, screen_reader, backend):
     # The list begins at its first row each time that its tab is selected.
     spoken_panel.show("Dashboard")
     spoken_panel.focus_on("tab", "Dashboard")
+    spoken_panel.tree.wait_for("text", str(COUNT))
     spoken_panel.show("Network")
     until(lambda: spoken_panel.tree.find("row", row(0)), "the rows")
     spoken_panel.focus_on("tab", "Settings")
