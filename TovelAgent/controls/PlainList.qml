@@ -53,7 +53,8 @@ ListView {
     Connections {
         property bool allGone: false
 
-        target: list.model
+        // Null for a model that is only a number.
+        target: list.model instanceof QtObject ? list.model : null
 
         // Rows are removed at the end: if the first one in view goes, all in view go.
         function onRowsAboutToBeRemoved(parent, first) {

@@ -50,9 +50,6 @@ Item {
 
     Announcer {
         id: announcer
-
-        Accessible.role: Accessible.Notification
-        Accessible.name: text
     }
 
     StatusNews {

@@ -116,7 +116,7 @@ TEST_F(MainWindowTest, HasItsGlyphsInTheTopPaddingOfTheHeader) {
 TEST_F(MainWindowTest, IsCompletelyReachedByTheKeyboard) {
   auto* const window = presented();
   QStringList reached;
-  constexpr int stops = 2 + 5 + 3;  // badges, tabs, glyphs
+  constexpr int stops = 2 + 5 + 2 + 3;  // badges, tabs, the dashboard's cards, glyphs
   for (int i = 0; i < stops; ++i) {
     QTest::keyClick(window, Qt::Key_Tab);
     ASSERT_NE(window->activeFocusItem(), nullptr);

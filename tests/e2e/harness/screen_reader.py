@@ -85,9 +85,15 @@ class ScreenReader:
 
     def hear_all(self, *beginnings):
         """Waits until an utterance has begun with each of these, in any order."""
-        until(lambda: self._alive() and all(
-            any(words.startswith(beginning) for words in self.said) for beginning in beginnings),
-            f"words that begin with {beginnings}")
+
+        def heard():
+            return all(any(words.startswith(beginning) for words in self.said)
+                       for beginning in beginnings)
+
+        try:
+            until(lambda: self._alive() and heard(), f"words that begin with {beginnings}")
+        except AssertionError as failed:
+            raise AssertionError(f"{failed}; it said {self.said}") from None
         self.forget()
 
     def hear_about(self, name):

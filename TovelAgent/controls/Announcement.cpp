@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "controls/Announcer.h"
+#include "controls/Announcement.h"
 
 #include <QAccessible>
 
 namespace quillmark {
 
-void Announcer::announce(const QString& text) {
+void Announcement::announce(const QString& text) {
   if (text.isEmpty() || !QAccessible::isActive()) {
     return;
   }

@@ -9,19 +9,19 @@
 
 namespace quillmark {
 
-/// Lets a screen reader say something without moving the keyboard focus. Before Qt 6.8,
+/// A text that a screen reader says without a move of the keyboard focus. Before Qt 6.8,
 /// which has an event for that, the item itself must be in the accessibility tree, as a
 /// notification with `text` as its name: screen readers read a notification when it
 /// appears. UI thread only.
-class Announcer : public QQuickItem {
+class Announcement : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString text READ text NOTIFY textChanged)
 
  public:
-  explicit Announcer(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
+  explicit Announcement(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
 
-  /// The last announcement; always empty from Qt 6.8 on.
+  /// The text that was announced last; always empty from Qt 6.8 on.
   [[nodiscard]] QString text() const { return text_; }
 
   /// Has no effect without assistive technology. An empty text is not announced.
