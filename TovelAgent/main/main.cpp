@@ -52,6 +52,7 @@ int quitOpenPanel(int argc, char* argv[]) {
 int main(int argc, char* argv[]) {
   quillmark::openClosedStandardStreams();
   quillmark::disableCoreDumps();
+  quillmark::reportFileSizeLimit();
   quillmark::raiseDescriptorLimit();
   // Before Qt is set up: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());

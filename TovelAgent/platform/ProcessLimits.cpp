@@ -3,6 +3,7 @@
 
 #include "platform/ProcessLimits.h"
 
+#include <csignal>
 #include <mutex>
 #include <optional>
 
@@ -28,6 +29,8 @@ void setSoftLimit(int resource, rlimit limit, rlim_t soft) {
 }  // namespace
 
 void disableCoreDumps() { setSoftLimit(RLIMIT_CORE, limitOf(RLIMIT_CORE), 0); }
+
+void reportFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 
 void raiseDescriptorLimit() {
   const auto limit = limitOf(RLIMIT_NOFILE);

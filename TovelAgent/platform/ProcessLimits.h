@@ -12,6 +12,10 @@ namespace quillmark {
 /// starts may raise it again. Any thread.
 void disableCoreDumps();
 
+/// Makes a write beyond the user's limit on file sizes fail with an error. By default
+/// it ends the program. Any thread.
+void reportFileSizeLimit();
+
 /// Raises the number of files and sockets that this process may have open to the
 /// maximum that the system allows. Call before threads start.
 void raiseDescriptorLimit();

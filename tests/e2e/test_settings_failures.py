@@ -61,3 +61,13 @@ def test_apostrophe_in_the_applications_path(launch_alone, tmp_path):
     settings.press(panel, START)
     settings.wait_for_message(panel, "❌ Error: The application's path contains an apostrophe")
     assert not processes.named()
+
+
+def test_limit_on_file_sizes(launch_alone):
+    settings.write_config("[agent]\n")
+    panel = launch_alone("/usr/bin/prlimit", "--fsize=100")
+    panel.show("Settings")
+    settings.fill(panel, settings.KEY, "k")
+    settings.press(panel, settings.SAVE)
+    settings.wait_for_message(panel, "❌ Error: File too large")
+    assert settings.CONFIG.read_text() == "[agent]\n"
