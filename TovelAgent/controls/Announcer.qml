@@ -11,7 +11,7 @@ Item {
     property int next: 0
 
     function announce(text: string) {
-        announcements.itemAt(next).announce(text);
+        (announcements.itemAt(next) as Announcement).announce(text);
         next = (next + 1) % announcements.count;
     }
 
