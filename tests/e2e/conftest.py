@@ -16,7 +16,12 @@ from harness.backend import Backend  # noqa: E402
 from harness.display import Display  # noqa: E402
 from harness.panel import Panel  # noqa: E402
 from harness.screen import BUILD, save  # noqa: E402
-from harness.screen_reader import PANEL_OUTPUT, ScreenReader  # noqa: E402
+from harness.screen_reader import (  # noqa: E402
+    EXPECTED_VERSION,
+    PANEL_OUTPUT,
+    ScreenReader,
+    screen_reader_version,
+)
 from harness.waiting import until  # noqa: E402
 
 TOKEN = "0123456789abcdef"
@@ -97,6 +102,8 @@ def launch(launch_alone, backend):
 @pytest.fixture(scope="module")
 def screen_reader(display):
     """Orca; what it says about the panel of a test."""
+    if screen_reader_version() != EXPECTED_VERSION:
+        pytest.skip(f"the words are those of Orca {EXPECTED_VERSION}")
     reader = ScreenReader()
     yield reader
     reader.stop()

@@ -26,6 +26,15 @@ SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)'(?: voice=\w+)?\{", re.DOTALL)
 INDENTED = re.compile(r"\n {18}")
 
 
+# Later versions have other words, and log them in another form.
+EXPECTED_VERSION = "43"
+
+
+def screen_reader_version():
+    shown = subprocess.run(["orca", "--version"], capture_output=True, text=True, check=True)
+    return re.search(r"\d+", shown.stdout)[0]
+
+
 class ScreenReader:
     def __init__(self):
         self._said = []
