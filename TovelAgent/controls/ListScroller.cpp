@@ -46,30 +46,11 @@ bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
 void ListScroller::followFocus() {}
 
 bool ListScroller::handleKey(int key) {
-  switch (key) {
-    case Qt::Key_Up:
-      moveByLine(-1);
-      break;
-    case Qt::Key_Down:
-      moveByLine(1);
-      break;
-    case Qt::Key_PageUp:
-      moveByPage(-1);
-      break;
-    case Qt::Key_PageDown:
-      moveByPage(1);
-      break;
-    case Qt::Key_Home:
-      moveToEnd(-1);
-      break;
-    case Qt::Key_End:
-      moveToEnd(1);
-      break;
-    default:
-      return false;
+  const bool isHandled = Scroller::handleKey(key);
+  if (isHandled) {
+    Q_EMIT movedByKey();
   }
-  Q_EMIT movedByKey();
-  return true;
+  return isHandled;
 }
 
 bool ListScroller::readAt(qreal y) {
@@ -167,7 +148,8 @@ void ListScroller::moveByPage(int direction) {
 void ListScroller::moveToEnd(int direction) {
   moveTo(direction > 0 ? last() : 0);
   if (direction > 0) {
-    scrollToEnd();
+    // ListView only estimates the height of rows that it has not created yet.
+    QMetaObject::invokeMethod(target(), "positionViewAtEnd");
   } else {
     scrollTo(top());
   }

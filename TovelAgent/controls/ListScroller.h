@@ -39,6 +39,9 @@ class ListScroller : public quillmark::Scroller {
  protected:
   void followFocus() override;
   [[nodiscard]] bool handleKey(int key) override;
+  void moveByLine(int direction) override;
+  void moveByPage(int direction) override;
+  void moveToEnd(int direction) override;
 
  private:
   [[nodiscard]] int current() const;
@@ -49,9 +52,6 @@ class ListScroller : public quillmark::Scroller {
   [[nodiscard]] int rowAt(qreal y) const;
   [[nodiscard]] int firstInView() const;
   void moveTo(int index);
-  void moveByLine(int direction);
-  void moveByPage(int direction);
-  void moveToEnd(int direction);
 };
 
 }  // namespace quillmark

@@ -88,22 +88,22 @@ bool Scroller::eventFilter(QObject* watched, QEvent* event) {
 bool Scroller::handleKey(int key) {
   switch (key) {
     case Qt::Key_Up:
-      scrollLines(-1);
+      moveByLine(-1);
       return true;
     case Qt::Key_Down:
-      scrollLines(1);
+      moveByLine(1);
       return true;
     case Qt::Key_PageUp:
-      scrollPages(-1);
+      moveByPage(-1);
       return true;
     case Qt::Key_PageDown:
-      scrollPages(1);
+      moveByPage(1);
       return true;
     case Qt::Key_Home:
-      scrollTo(top());
+      moveToEnd(-1);
       return true;
     case Qt::Key_End:
-      scrollToEnd();
+      moveToEnd(1);
       return true;
     default:
       return false;
@@ -117,15 +117,6 @@ void Scroller::scrollPages(int count) {
 }
 
 void Scroller::scrollToFraction(qreal fraction) { scrollTo(std::lerp(top(), bottom(), fraction)); }
-
-void Scroller::scrollToEnd() {
-  // A list view only estimates the height of rows that it has not created yet.
-  if (target_->inherits("QQuickItemView")) {
-    QMetaObject::invokeMethod(target_, "positionViewAtEnd");
-  } else {
-    scrollTo(bottom());
-  }
-}
 
 qreal Scroller::valueOf(const char* name) const {
   return target_ ? target_->property(name).toReal() : 0;

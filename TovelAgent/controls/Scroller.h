@@ -11,11 +11,11 @@
 
 namespace quillmark {
 
-/// Scrolls a Flickable or list. A target that has the focus scrolls by keyboard:
-/// arrows by a line, Page Up and Page Down by a page, Home and End to the ends; a
-/// click on it gives it the focus. An item inside the target that gets the focus is
-/// scrolled into view and kept there when the view or its content changes size. UI
-/// thread only.
+/// Scrolls a Flickable; for lists there is `ListScroller`. A target that has the focus
+/// scrolls by keyboard: arrows by a line, Page Up and Page Down by a page, Home and End
+/// to the ends; a click on it gives it the focus. An item inside the target that gets
+/// the focus is scrolled into view and kept there when the view or its content changes
+/// size. UI thread only.
 class Scroller : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -45,7 +45,10 @@ class Scroller : public QObject {
   virtual void followFocus();
   /// False if the key has no meaning.
   [[nodiscard]] virtual bool handleKey(int key);
-  void scrollToEnd();
+  /// What the keys do; `direction` is 1 for down and -1 for up.
+  virtual void moveByLine(int direction) { scrollLines(direction); }
+  virtual void moveByPage(int direction) { scrollPages(direction); }
+  virtual void moveToEnd(int direction) { scrollTo(direction > 0 ? bottom() : top()); }
   [[nodiscard]] qreal position() const;
   [[nodiscard]] qreal top() const;
   void scrollTo(qreal position);
