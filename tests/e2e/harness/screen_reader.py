@@ -25,7 +25,6 @@ PANEL_OUTPUT = r"(QSpiApplication::keyEventError .*\n)*"
 SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)'(?: voice=\w+)?\{", re.DOTALL)
 INDENTED = re.compile(r"\n {18}")
 
-
 # Later versions have other words, and log them in another form.
 EXPECTED_VERSION = "43"
 
@@ -66,7 +65,7 @@ class ScreenReader:
 
     def press(self, *keys):
         """Presses keys. From here on, only what is said later can be heard."""
-        self._mark = len(self._said)
+        self.forget()
         hands.key(*keys)
 
     def forget(self):
@@ -85,10 +84,7 @@ class ScreenReader:
                 place = self._said.index(word, place) + 1
             return place
 
-        try:
-            end = until(lambda: self._alive() and heard(), f"the words {words}")
-        except AssertionError as failed:
-            raise AssertionError(f"{failed}; it said {self.said}") from None
+        end = self._until(heard, f"the words {words}")
         said, self._mark = self._said[self._mark:end], end
         return said
 
@@ -99,17 +95,13 @@ class ScreenReader:
             return all(any(words.startswith(beginning) for words in self.said)
                        for beginning in beginnings)
 
-        try:
-            until(lambda: self._alive() and heard(), f"words that begin with {beginnings}")
-        except AssertionError as failed:
-            raise AssertionError(f"{failed}; it said {self.said}") from None
+        self._until(heard, f"words that begin with {beginnings}")
         self.forget()
 
     def hear_about(self, name):
         """Waits for words with this name, and returns all that was said until the reader
         had nothing more to say."""
-        until(lambda: self._alive() and any(name in words for words in self.said),
-              f"words with {name!r}")
+        self._until(lambda: any(name in words for words in self.said), f"words with {name!r}")
         counts = []
 
         def quiet():
@@ -120,6 +112,13 @@ class ScreenReader:
         said = self.said
         self.forget()
         return said
+
+    def _until(self, heard, what):
+        """Returns the first true value of `heard`. On failure, tells what was said instead."""
+        try:
+            return until(lambda: self._alive() and heard(), what)
+        except AssertionError as failed:
+            raise AssertionError(f"{failed}; it said {self.said}") from None
 
     def _alive(self):
         assert self._orca.poll() is None, "the screen reader has ended"
