@@ -22,7 +22,6 @@ from harness.screen_reader import (  # noqa: E402
     ScreenReader,
     screen_reader_version,
 )
-from harness.waiting import until  # noqa: E402
 
 TOKEN = "0123456789abcdef"
 
@@ -155,8 +154,7 @@ def tab(panel):
     """The Settings tab without a configuration."""
     settings.clean_home()
     # High enough to show the whole tab.
-    panel.window.resize(1000, 1150)
-    until(lambda: panel.window.box.height == 1150, "a taller window")
+    panel.resize(1000, 1150)
     settings.enter(panel)
     yield panel
     settings.clean_home()

@@ -45,7 +45,7 @@ LISTS = {
 
 @pytest.fixture(autouse=True)
 def filled(panel):
-    panel.window.resize(1000, 1150)
+    panel.resize(1000, 1150)
     panel.tree.wait_for("text", "OK")
 
 

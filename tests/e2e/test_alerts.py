@@ -21,7 +21,7 @@ SEVERITIES = [
 
 def show(launch, *alerts):
     panel = launch({"alerts": bodies.alerts(*alerts)})
-    panel.window.resize(1000, 1100)
+    panel.resize(1000, 1100)
     panel.show("Alerts")
     hands.park()
     return panel

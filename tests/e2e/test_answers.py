@@ -19,7 +19,7 @@ OFFLINE_DASHBOARD = {
 
 @pytest.fixture(scope="module", autouse=True)
 def every_card_in_view(panel):
-    panel.window.resize(1000, 1000)
+    panel.resize(1000, 1000)
 
 
 @pytest.fixture(autouse=True)

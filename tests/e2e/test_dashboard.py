@@ -22,7 +22,7 @@ def texts_below_the_tabs(panel):
 
 def test_before_any_data(launch):
     panel = launch({"status": silence()})
-    panel.window.resize(1000, 1000)
+    panel.resize(1000, 1000)
     until(lambda: cards(panel), "the cards")
     assert texts_below_the_tabs(panel) == [
         "Active Network Connections", "0", "Recent Alerts", "0",
@@ -38,7 +38,7 @@ def test_counts(launch):
             permissions=["cap_net_admin"] * 99,
         ),
     })
-    panel.window.resize(1000, 1000)
+    panel.resize(1000, 1000)
     panel.tree.wait_for("text", "Installed Applications")
     assert [(t.name, v.name) for t, v in items(panel)] == [
         ("Installed Applications", "1234"),
@@ -59,8 +59,7 @@ def empty(launch):
 
 def test_empty_inventory_has_its_cards_and_they_fill_the_width(empty):
     for width in (1300, 1000):
-        empty.window.resize(width, 1000)
-        until(lambda: empty.tree.read().every("window")[0].box.width == width, "the width")
+        empty.resize(width, 1000)
         until(lambda: len(cards(empty)) == 5, "five cards")
         assert set(cards(empty).values()) == {"0"}
         window = empty.tree.read().every("window")[0].box

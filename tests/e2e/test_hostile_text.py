@@ -64,7 +64,7 @@ def expected(text):
 
 def test_every_row_shows_it_unchanged(launch, backend):
     panel = launch(merged([everywhere(text) for text in HOSTILE]))
-    panel.window.resize(1000, 1150)
+    panel.resize(1000, 1150)
     for tab in ("Network", "Inventory", "Alerts"):
         panel.show(tab)
         name = expected("")[tab][0]

@@ -64,8 +64,7 @@ def test_closed_window_and_a_new_one(launch, backend):
     panel.launch_again()
     panel.selected("Dashboard")
     panel.tree.wait_for("text", "OK")
-    panel.window.resize(1000, 1000)
-    until(lambda: panel.window.box.height == 1000, "a taller window")
+    panel.resize(1000, 1000)
     hands.park()
     window = panel.window.box
     ground = Picture().colours(Box(window.x + 4, window.bottom - 40, window.width - 8, 30))

@@ -23,8 +23,7 @@ def layout(launch, **environment):
     panel = launch(CONTENTS, **environment)
     panel.window.move(0, 0)
     # So high that all is shown, whatever the font.
-    panel.window.resize(1000, 1200)
-    panel.window.settled()
+    panel.resize(1000, 1200)
     panel.tree.wait_for("text", "OK")
     found = {}
     for tab in TABS:

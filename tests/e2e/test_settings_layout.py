@@ -7,7 +7,6 @@ import pytest
 from harness import colours, hands, settings
 from harness.screen import Picture
 from harness.settings import BROWSE, SAVE, START, STOP
-from harness.waiting import until
 from harness.window import Box
 
 CARDS = ("Agent Status", "Quick Setup", "Advanced Configuration", "Config File Locations")
@@ -21,8 +20,7 @@ LOCATIONS = (
 @pytest.fixture(scope="module")
 def shown(panel):
     settings.clean_home()
-    panel.window.resize(1000, 1150)
-    until(lambda: panel.window.box.height == 1150, "a taller window")
+    panel.resize(1000, 1150)
     settings.enter(panel)
     return panel
 

@@ -16,8 +16,7 @@ CARDS = ("Agent Status", "Quick Setup", "Advanced Configuration", "Config File L
 @pytest.fixture(autouse=True)
 def small(panel):
     settings.clean_home()
-    panel.window.resize(1000, 700)
-    until(lambda: panel.window.box.height == 700, "a small window")
+    panel.resize(1000, 700)
     settings.enter(panel)
     assert in_view(panel, FIRST) and not in_view(panel, LAST)
     yield

@@ -27,8 +27,7 @@ class Album:
 
 def opened(launch_alone):
     panel = launch_alone()
-    panel.window.resize(1000, 1150)
-    until(lambda: panel.window.box.height == 1150, "a taller window")
+    panel.resize(1000, 1150)
     return panel
 
 

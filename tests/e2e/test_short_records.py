@@ -27,7 +27,7 @@ def backend():
 
 @pytest.fixture(autouse=True)
 def every_card_in_view(panel):
-    panel.window.resize(1000, 1000)
+    panel.resize(1000, 1000)
 
 
 def wait_for_cards(panel, **wanted):

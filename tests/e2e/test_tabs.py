@@ -25,7 +25,7 @@ SIGNS = {
 
 @pytest.fixture(scope="module", autouse=True)
 def filled(panel):
-    panel.window.resize(1000, 1000)
+    panel.resize(1000, 1000)
     panel.tree.wait_for("text", "Installed Applications")
 
 

@@ -37,6 +37,8 @@ ROLES = {
 }
 STATES = {11: "focusable", 12: "focused", 23: "selected", 25: "showing"}
 
+MOST_READINGS = 20  # of a tree that never rests
+
 
 @dataclass(frozen=True)
 class Item:
@@ -92,6 +94,16 @@ class Tree:
         self._root = None
 
     def read(self):
+        """Once it is the same twice: one reading of a tree that is being laid out mixes
+        old and new."""
+        seen = self._look()
+        for _ in range(MOST_READINGS):
+            last, seen = seen, self._look()
+            if seen == last:
+                break
+        return seen
+
+    def _look(self):
         return _item(self._ask(self._bus.tree))
 
     def focus(self):
@@ -112,7 +124,7 @@ class Tree:
         return answer
 
     def find(self, role, name):
-        return self.read().find(role, name)
+        return self._look().find(role, name)
 
     def wait_for(self, role, name):
         return until(lambda: self.find(role, name), f"{role} {name!r}")

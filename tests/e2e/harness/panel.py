@@ -67,6 +67,12 @@ class Panel:
     def window(self):
         return self.windows()[0]
 
+    def resize(self, width, height):
+        """In unscaled units. Returns once the panel has laid itself out in that size."""
+        self.window.resize(width, height)
+        until(lambda: self.tree.read().every("window")[0].box[2:] == (width, height),
+              f"a window of {width} by {height}")
+
     def ended(self):
         return self.process.poll() is not None
 
