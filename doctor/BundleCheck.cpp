@@ -60,6 +60,16 @@ void judgeProgram(Findings& findings, const std::string& bundle, const TextSanit
 
 void checkBundle(Findings& findings, const TextSanitizer& sanitize) {
   const auto bundle = bundlePath();
+  if (bundle.empty()) {
+    Finding finding;
+    finding.check = "bundle";
+    finding.say(Mark::wrong,
+                "the system does not tell where programs are, so Start Agent starts "
+                "nothing",
+                "Mount /proc.");
+    findings.push_back(std::move(finding));
+    return;
+  }
   judgeBundle(findings, bundle, sanitize);
   judgeProgram(findings, bundle, sanitize);
 }

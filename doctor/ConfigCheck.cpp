@@ -63,8 +63,8 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
 
 /// Hides the key as the TOML parser finds it, and, because the file may not be valid TOML, for
 /// every line with "api_key" both the whole value and the part that the Settings tab reads.
-void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sanitize) {
-  sanitize.hide(toml.apiKey.value_or(""));
+void hideKeys(std::string_view text, TextSanitizer& sanitize) {
+  sanitize.hide(readToml(text).apiKey.value_or(""));
   while (!text.empty()) {
     const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(text.size(), line.size() + 1));
@@ -86,6 +86,9 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   std::vector<ConfigCandidate> places;
   for (const auto& path : configSearchPaths()) {
     places.push_back({path, readTextFile(path, maxConfigBytes)});
+    if (const auto& text = places.back().text) {
+      hideKeys(*text, sanitize);
+    }
   }
   const ConfigCandidate* chosen = nullptr;
   for (std::size_t i = 0; i < places.size(); ++i) {
@@ -100,7 +103,6 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   }
   const auto toml = readToml(*chosen->text);
   const auto entries = readEntries(*chosen->text);
-  hideKeys(*chosen->text, toml, sanitize);
   findings.push_back(judgeToml(toml, sanitize(chosen->path)));
   findings.push_back(judgeKey(toml, entries));
   findings.push_back(judgeUrl(toml, entries));

@@ -8,6 +8,17 @@
 namespace quillmark::doctor {
 namespace {
 
+/// Why the Settings tab reads back something else than `written`.
+std::string causeOf(const std::string& written, const std::optional<std::string>& readBack) {
+  if (written.find('=') != std::string::npos) {
+    return R"(it cuts a value at its first "=")";
+  }
+  if (readBack == written + "\"\r" || readBack == written + "'\r") {
+    return "the line ends in CR LF, and it keeps the quotation mark and the CR";
+  }
+  return "it reads line by line";
+}
+
 /// Compares the value in the file with the value that the Settings tab reads from it.
 void sayReadBack(Finding& finding, const std::optional<std::string>& written,
                  const std::optional<std::string>& readBack) {
@@ -26,11 +37,10 @@ void sayReadBack(Finding& finding, const std::optional<std::string>& written,
     finding.say(Mark::ok, counted(written->size(), "byte") + ", read back as written");
     return;
   }
-  const bool isCut = written->find('=') != std::string::npos;
   finding.say(Mark::note,
               counted(written->size(), "byte") + ", but the Settings tab reads back " +
-                  std::to_string(readBack ? readBack->size() : 0) +
-                  (isCut ? R"(: it cuts a value at its first "=")" : ": it reads line by line"),
+                  std::to_string(readBack ? readBack->size() : 0) + ": " +
+                  causeOf(*written, readBack),
               "Type it again before Save & Connect, which would write what the tab shows.");
 }
 

@@ -20,11 +20,26 @@ namespace {
 constexpr auto startByService =
     "Start the agent by its own service: Start Agent cannot cope with this home path.";
 
+/// Whether a shell ends an unquoted word at `c`.
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
 /// Whether a shell does not take an unquoted `c` literally.
 bool isShellSpecial(char c) {
-  constexpr std::string_view special = " |&;<>()$`\\\"'*?[]{}";
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-         special.find(c) != std::string_view::npos;
+  constexpr std::string_view special = "\\\"'*?[]{}";
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || isBlank(c) ||
+         containsCommand({&c, 1}) || special.find(c) != std::string_view::npos;
+}
+
+/// What Start Agent does in a home path with the special character `odd`.
+std::string effectOf(const std::string& home, std::string::const_iterator odd,
+                     const TextSanitizer& sanitize) {
+  if (containsCommand(home)) {
+    return "so Start Agent does nothing: a shell could run a part of the path as a command";
+  }
+  if (isBlank(*odd)) {
+    return "so Start Agent writes the log to " + sanitize({home.begin(), odd});
+  }
+  return "which breaks Start Agent: the path of the log is not quoted";
 }
 
 void judgeHome(Findings& findings, const std::string& home, const TextSanitizer& sanitize) {
@@ -32,11 +47,13 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
   finding.check = "home";
   finding.facts["path"] = sanitize(home);
   finding.text = (home.empty() ? "/" : sanitize(home)) + ": ";
-  const auto odd = std::find_if(home.begin(), home.end(), isShellSpecial);
+  const auto odd =
+      std::find_if(home.begin(), home.end(), [isCommand = containsCommand(home)](char c) {
+        return isCommand ? containsCommand({&c, 1}) : isShellSpecial(c);
+      });
   if (odd != home.end()) {
     finding.say(Mark::wrong,
-                "holds \"" + sanitize({&*odd, 1}) +
-                    "\", which breaks Start Agent: the path of the log is not quoted",
+                "holds \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),
                 startByService);
   } else if (!home.starts_with('/') && !home.empty()) {
     finding.say(Mark::wrong, "is not an absolute path", "Set HOME to an absolute path.");

@@ -18,6 +18,10 @@ constexpr auto shell = "/bin/bash";
 
 bool isQuotable(std::string_view path) { return path.find('\'') == std::string_view::npos; }
 
+bool containsCommand(std::string_view path) {
+  return path.find_first_of("$`;&|<>()\n") != std::string_view::npos;
+}
+
 Command startCommand(const std::string& bundle, const std::string& home) {
   std::string line = "cd '" + bundle;
   line.append(programsInBundle).append("' && ./").append(agentFileName);
@@ -34,7 +38,11 @@ boost::system::error_code startAgentProcess() {
   if (!isQuotable(bundle)) {
     return FileError::unquotablePath;
   }
-  return startDetached(startCommand(bundle, homeDirectory()));
+  const auto home = homeDirectory();
+  if (containsCommand(home)) {
+    return FileError::commandInPath;
+  }
+  return startDetached(startCommand(bundle, home));
 }
 
 boost::system::error_code stopAgentProcess() {

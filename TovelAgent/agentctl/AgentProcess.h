@@ -21,6 +21,9 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// Whether `path` can be put in a shell's single quotes: it contains no such quote.
 [[nodiscard]] bool isQuotable(std::string_view path);
 
+/// Whether a shell that reads `path` without quotes would run a part of it as a command.
+[[nodiscard]] bool containsCommand(std::string_view path);
+
 /// The command that starts the agent of the bundle at `bundle` in the
 /// background, with its output in the log file under `home`. The home path is not
 /// quoted and the log's folder is not created; without that folder the agent does
@@ -35,10 +38,10 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// file name.
 [[nodiscard]] Command probeCommand();
 
-/// Starts the agent of this program's bundle and does not wait for it. Returns an
-/// error only when the shell cannot be started, or `unquotablePath` when the
-/// bundle's path contains a single quote. Any thread, as long as no thread changes the
-/// environment at the same time.
+/// Starts the agent of this program's bundle and does not wait for it. Returns an error
+/// only when the shell cannot be started, `unquotablePath` when the bundle's path
+/// contains a single quote, or `commandInPath` when the shell could run a part of the
+/// home path. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] boost::system::error_code startAgentProcess();
 
 /// Runs the stop command to its end; finding no agent is not an error. Returns an

@@ -13,6 +13,7 @@ enum class FileError {
   tooLarge,        ///< more bytes than the reader accepts
   notUtf8,
   unquotablePath,  ///< cannot be put in a shell's single quotes
+  commandInPath,   ///< a shell would run a part of it as a command
 };
 
 /// The error as a code with a message for the user.

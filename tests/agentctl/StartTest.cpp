@@ -77,6 +77,42 @@ TEST_F(Start, LogsElsewhereWhenTheHomePathHasASpace) {
   EXPECT_TRUE(namesIn(spaced + "/.quillmark/logs").empty());
 }
 
+TEST_F(Start, RefusesAHomePathWithACommand) {
+  for (const std::string part : {"$(touch injected)", "`touch injected`", "a;touch injected", "a&b",
+                                 "a|b", "a>b", "<(b)", "two\nlines"}) {
+    setHome(home() + "/" + part);
+    std::filesystem::create_directories(home() + "/" + part + "/.quillmark/logs");
+    EXPECT_EQ(bundle.resultOf("start"),
+              "Error: The home path contains a character that would make the shell run a command")
+        << testing::PrintToString(part);
+  }
+  waitForTheShells();
+  EXPECT_FALSE(bundle.wasStarted());
+  EXPECT_EQ(namesIn(bundle.programs()), (std::set<std::string>{"panel", agentName}))
+      << "nothing else was run";
+}
+
+// Both quotes disappear from the path of the log.
+TEST_F(Start, LogsElsewhereWhenTheHomePathHasAPairOfQuotes) {
+  std::filesystem::create_directories(home() + "/ab/.quillmark/logs");
+  setHome(home() + "/\"a\"b");
+  EXPECT_EQ(bundle.resultOf("start"), "ok");
+  EXPECT_TRUE(waitUntil([&] {
+    return contentOf(home() + "/ab/.quillmark/logs/backend.log").find("output") !=
+           std::string::npos;
+  }));
+}
+
+TEST_F(Start, StartsNothingWhenTheHomePathHasASingleQuotationMark) {
+  for (const std::string part : {"Ann's", "5\" disk"}) {
+    setHome(home() + "/" + part);
+    std::filesystem::create_directories(home() + "/" + part + "/.quillmark/logs");
+    EXPECT_EQ(bundle.resultOf("start"), "ok") << "the shell's failure is not reported";
+    waitForTheShells();
+    EXPECT_FALSE(bundle.wasStarted());
+  }
+}
+
 TEST_F(Start, LeavesNoZombie) {
   makeLogFolder();
   for (int i = 0; i < 5; ++i) {

@@ -84,17 +84,19 @@ def line(mark, check, text):
     return f"{sign} {mark:5}  {check:12}  {text}"
 
 
-def run(*arguments, program=DOCTOR, **environment):
+def run(*arguments, program=(DOCTOR,), **environment):
     """The finished process. Its output must never contain a secret."""
-    done = subprocess.run([program, *arguments], capture_output=True, text=True, timeout=PATIENCE,
+    done = subprocess.run([*program, *arguments], capture_output=True, text=True, timeout=PATIENCE,
                           env=os.environ | environment, check=False)
     for secret in SECRETS:
         assert secret not in done.stdout + done.stderr
     return done
 
 
-def look(program=DOCTOR, **environment):
-    """The doctor's text. Its JSON must say the same, with the same exit code."""
+def look(*program, **environment):
+    """The doctor's text. Its JSON must say the same, with the same exit code. With
+    `program`, a doctor elsewhere, or one that another program starts."""
+    program = program or (DOCTOR,)
     done = run(program=program, **environment)
     assert done.stderr == ""
     look = Look(re.sub(r"\d+ ms", "N ms", done.stdout), done.returncode)

@@ -124,6 +124,16 @@ def test_url_that_is_cut():
                                    'at its first "="')]
 
 
+def test_lines_that_end_in_cr_lf():
+    write(CONFIG, scene.config().replace("\n", "\r\n"))
+    found = look()
+    assert found.of("config-key") == [
+        line("note", "config-key", "20 bytes, but the Settings tab reads back 22: the line ends in "
+                                   "CR LF, and it keeps the quotation mark and the CR")]
+    assert found.of("config-toml") == [
+        line("ok", "config-toml", "TOML, with a section [agent]")]
+
+
 def test_another_line_that_is_taken_for_the_key():
     write(CONFIG, scene.config() + 'api_keys = "something else"\n')
     assert look().of("config-key") == [

@@ -153,6 +153,12 @@ def test_status_that_repeats_the_secrets(backend):
                                  '"[hidden] [hidden]".')
 
 
+def test_key_of_a_configuration_that_is_not_read_is_hidden_too(backend):
+    write(scene.OLD_CONFIG, scene.config(key="older-key"))
+    backend.reply(status=bodies.status(status="older-key"))
+    assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
+
+
 def test_interrupted_answer(backend):
     backend.reply(inventory=Answer(raw=b"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n{"))
     found = look()

@@ -28,14 +28,23 @@ def test_file_in_place_of_the_log_folder():
     assert found.step == f"Put a folder in place of {LOGS}."
 
 
-@pytest.mark.parametrize("odd, shown", [(" ", " "), ("$", "$"), ("'", "'"), ("(", "("),
-                                        ("\n", r"\x0A")])
-def test_home_path_with_special_characters(odd, shown):
-    home = f"{HOME}/odd{odd}home"
-    found = look(HOME=home)
+NOT_QUOTED = "which breaks Start Agent: the path of the log is not quoted"
+REFUSED = "so Start Agent does nothing: a shell could run a part of the path as a command"
+
+
+@pytest.mark.parametrize("name, shown, odd, effect", [
+    ("of Ann", "of Ann", " ", f"so Start Agent writes the log to {HOME}/of"),
+    ("Ann's", "Ann's", "'", NOT_QUOTED),
+    ("a*", "a*", "*", NOT_QUOTED),
+    ("$(reboot)", "$(reboot)", "$", REFUSED),
+    ("of `id`", "of `id`", "`", REFUSED),
+    ("a&b", "a&b", "&", REFUSED),
+    ("two\nlines", r"two\x0Alines", r"\x0A", REFUSED),
+])
+def test_home_path_with_special_characters(name, shown, odd, effect):
+    found = look(HOME=f"{HOME}/{name}")
     assert found.of("home") == [
-        line("wrong", "home", f"{HOME}/odd{shown}home: holds \"{shown}\", which breaks Start "
-                              "Agent: the path of the log is not quoted")]
+        line("wrong", "home", f'{HOME}/{shown}: holds "{odd}", {effect}')]
     assert found.step == OTHERWISE
 
 
@@ -87,6 +96,15 @@ def test_bundle_with_the_agents_name(tmp_path):
         line("wrong", "bundle", f"{tmp_path}/my-{scene.AGENT}.app: holds the agent's file name, so "
                                 "the panel takes itself for an agent, and Stop Agent ends it")]
     assert found.step == f"Move the application to a path without {scene.AGENT}."
+
+
+def test_system_without_proc():
+    found = look("/usr/bin/bwrap", "--dev-bind", "/", "/", "--tmpfs", "/proc", scene.DOCTOR)
+    assert found.of("bundle") == [
+        line("wrong", "bundle", "the system does not tell where programs are, so Start Agent "
+                                "starts nothing")]
+    assert found.of("program") == []
+    assert found.step == "Mount /proc."
 
 
 def test_missing_pgrep(tmp_path):

@@ -19,6 +19,8 @@ TEST(FileErrors, HaveMessagesForTheUser) {
   EXPECT_EQ(error_code(FileError::notUtf8).message(), "The file is not UTF-8 text");
   EXPECT_EQ(error_code(FileError::unquotablePath).message(),
             "The application's path contains an apostrophe");
+  EXPECT_EQ(error_code(FileError::commandInPath).message(),
+            "The home path contains a character that would make the shell run a command");
 }
 
 // A new error without a message still gets a general one.
@@ -29,8 +31,8 @@ TEST(FileErrors, OfUnknownNumbersHaveAMessage) {
 
 TEST(FileErrors, AreErrorsAndDifferFromOneAnother) {
   const std::set<error_code> all{FileError::notRegular, FileError::tooLarge, FileError::notUtf8,
-                                 FileError::unquotablePath};
-  EXPECT_EQ(all.size(), 4U);
+                                 FileError::unquotablePath, FileError::commandInPath};
+  EXPECT_EQ(all.size(), 5U);
   for (const auto& error : all) {
     EXPECT_TRUE(error);
     EXPECT_STREQ(error.category().name(), "file");
