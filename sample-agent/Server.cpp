@@ -3,6 +3,7 @@
 
 #include "Server.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -12,6 +13,8 @@
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/scope_exit.hpp>
+
+#include <sys/resource.h>
 
 #include "AgentAddress.h"
 #include "HttpConversation.h"
@@ -27,6 +30,14 @@ using ErrorCode = boost::system::error_code;
 /// The open connections by number: the oldest is first.
 using Connections = std::map<std::uint64_t, std::shared_ptr<tcp::socket>>;
 
+/// How many connections leave descriptors for the scans and the server itself.
+std::size_t connectionsWithinDescriptors() {
+  constexpr rlim_t reserved = 16;
+  rlimit limit{};
+  getrlimit(RLIMIT_NOFILE, &limit);
+  return limit.rlim_cur > reserved ? limit.rlim_cur - reserved : 1;
+}
+
 void hangUp(tcp::socket& socket) {
   ErrorCode ignored;
   socket.close(ignored);
@@ -36,11 +47,13 @@ void hangUp(tcp::socket& socket) {
 
 struct Server::State {
   State(tcp::acceptor listener, std::string secret, ServerLimits serverLimits)
-      : acceptor(std::move(listener)), token(std::move(secret)), limits(serverLimits) {}
+      : acceptor(std::move(listener)), token(std::move(secret)), limits(serverLimits) {
+    limits.connections = std::min(limits.connections, connectionsWithinDescriptors());
+  }
 
   tcp::acceptor acceptor;
   const std::string token;
-  const ServerLimits limits;
+  ServerLimits limits;
   std::shared_ptr<const Snapshot> snapshot;
   Connections connections;
   std::uint64_t connectionCount = 0;

@@ -20,7 +20,7 @@ namespace quillmark::sample {
 /// Limits for each client and for all clients together.
 struct ServerLimits {
   std::uint32_t headerBytes = 8 * 1024;
-  std::size_t connections = 64;  ///< beyond this the oldest is closed
+  std::size_t connections = 64;  ///< beyond this the oldest is closed; fewer if descriptors are few
   std::chrono::steady_clock::duration deadline = std::chrono::seconds(10);  ///< of a connection
 };
 

@@ -41,26 +41,18 @@ bool isToken(std::string_view text) {
          text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
 }
 
-/// Closes the open file to other users; returns why it is no safe place for a secret, if so.
-std::optional<Failure> secureFile(int descriptor, const std::string& path) {
-  struct stat status {};
-  if (fstat(descriptor, &status) != 0) {
-    return lastError(path);
-  }
+/// Why the open file is no safe place for a secret, if so.
+std::optional<Failure> unsafety(const struct stat& status, const std::string& path) {
   if (!S_ISREG(status.st_mode)) {
     return Failure{path + ": not a regular file"};
   }
   if (status.st_uid != geteuid()) {
     return Failure{path + ": belongs to another user"};
   }
-  const bool isOpenToOthers = (status.st_mode & ALLPERMS & ~ownerOnly) != 0;
-  if (isOpenToOthers && fchmod(descriptor, ownerOnly) != 0) {
-    return lastError(path);
-  }
   return std::nullopt;
 }
 
-/// No value if the file does not exist.
+/// No value if the file does not exist, or was removed because others may have read it.
 std::optional<TokenResult> readToken(const std::string& path) {
   const int descriptor =
       open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -71,7 +63,11 @@ std::optional<TokenResult> readToken(const std::string& path) {
     return errno == ELOOP ? Failure{path + ": not a regular file"} : lastError(path);
   }
   BOOST_SCOPE_EXIT_ALL(descriptor) { close(descriptor); };
-  if (auto reason = secureFile(descriptor, path)) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) {
+    return lastError(path);
+  }
+  if (auto reason = unsafety(status, path)) {
     return std::move(*reason);
   }
 
@@ -88,6 +84,10 @@ std::optional<TokenResult> readToken(const std::string& path) {
     return Failure{path +
                    ": holds no token of this agent (64 hexadecimal digits); "
                    "move it away to have a new one made"};
+  }
+  // The administrator may let a group read it: that of the panel's users.
+  if ((status.st_mode & ALLPERMS & ~(ownerOnly | S_IRGRP)) != 0) {
+    return unlink(path.c_str()) == 0 ? std::nullopt : std::optional<TokenResult>(lastError(path));
   }
   return TokenResult(boost::system::in_place_value, token);
 }

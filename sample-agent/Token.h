@@ -20,10 +20,9 @@ namespace quillmark::sample {
 /// The token in the file at `path`: 256 random bits as 64 hexadecimal digits.
 ///
 /// A missing file is created, with its folder, readable by this user only; if two
-/// agents create it at once, both get the same token. An existing file is never
-/// overwritten, because another program may have created it: it is a failure
-/// unless it is a regular file of this user with a token in it. Permissions of
-/// other users are removed from it.
+/// agents create it at once, both get the same token. An existing file is a failure
+/// unless it is a regular file of this user with a token in it, because another program
+/// may have created it. If every user may read the token, a new one replaces it.
 [[nodiscard]] boost::system::result<std::string, Failure> loadOrMakeToken(const std::string& path);
 
 }  // namespace quillmark::sample

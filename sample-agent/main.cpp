@@ -23,6 +23,7 @@
 #include "Token.h"
 #include "platform/CommandLine.h"
 #include "platform/HomeDirectory.h"
+#include "platform/ProcessLimits.h"
 #include "platform/StandardStreams.h"
 #include "scan/SystemPaths.h"
 
@@ -92,6 +93,7 @@ int run() {
 
 int main(int argc, char* argv[]) {
   quillmark::openClosedStandardStreams();
+  quillmark::disableCoreDumps();
   try {
     const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules);
     if (commandLine.exitCode) {

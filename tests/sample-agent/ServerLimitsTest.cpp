@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "sample-agent/RunningServer.h"
 #include "support/Patience.h"
@@ -81,6 +82,26 @@ TEST(ServerLimits, CloseTheOldestConnectionForTheNewest) {
     ASSERT_TRUE(clients[i]->send(goodRequest()));
     EXPECT_EQ(statusOf(clients[i]->receiveAll().value_or("")), 200) << i;
   }
+}
+
+TEST(ServerLimits, LeaveDescriptorsToTheScans) {
+  rlimit usual{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+  auto few = usual;
+  few.rlim_cur = 40;
+  ServerLimits limits;
+  limits.deadline = std::chrono::hours(1);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  const RunningServer server(limits);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);  // The clients need descriptors, too.
+
+  std::vector<std::unique_ptr<RawClient>> clients;
+  for (int i = 0; i < 25; ++i) {
+    clients.push_back(std::make_unique<RawClient>(server.port()));
+  }
+  EXPECT_EQ(clients[0]->receiveAll(), "") << "the oldest was closed";
+  ASSERT_TRUE(clients[1]->send(goodRequest()));
+  EXPECT_EQ(statusOf(clients[1]->receiveAll().value_or("")), 200);
 }
 
 }  // namespace

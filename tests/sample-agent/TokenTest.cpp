@@ -74,19 +74,45 @@ TEST(LoadOrMakeToken, CreatesAnotherTokenAtAnotherPath) {
 
 TEST(LoadOrMakeToken, AcceptsATokenWithTheLineBreakOfAnEditor) {
   const FixtureTree tree;
-  const auto token = loadOrMakeToken(tree.write("token", goodToken + "\r\n"));
+  tree.write("token", goodToken + "\r\n");
+  tree.setMode("token", 0600);
+  const auto token = loadOrMakeToken(tree.path("token"));
   ASSERT_TRUE(token) << token.error().text;
   EXPECT_EQ(*token, goodToken);
 }
 
-TEST(LoadOrMakeToken, RemovesThePermissionsOfOtherUsers) {
+TEST(LoadOrMakeToken, LeavesReadingToAGroup) {
   const FixtureTree tree;
   tree.write("token", goodToken);
-  tree.setMode("token", 0644);
+  tree.setMode("token", 0640);
   const auto token = loadOrMakeToken(tree.path("token"));
-  ASSERT_TRUE(token);
+  ASSERT_TRUE(token) << token.error().text;
   EXPECT_EQ(*token, goodToken);
-  EXPECT_EQ(tree.mode("token"), 0600U);
+  EXPECT_EQ(tree.mode("token"), 0640U);
+}
+
+TEST(LoadOrMakeToken, ReplacesATokenThatOthersMayHaveRead) {
+  for (const mode_t mode : {0644U, 0604U, 0660U, 0601U}) {
+    const FixtureTree tree;
+    tree.write("token", goodToken);
+    tree.setMode("token", mode);
+    const auto token = loadOrMakeToken(tree.path("token"));
+    ASSERT_TRUE(token) << token.error().text;
+    EXPECT_EQ(token->size(), goodToken.size());
+    EXPECT_NE(*token, goodToken);
+    EXPECT_EQ(readSystemFile(tree.path("token")), *token);
+    EXPECT_EQ(tree.mode("token"), 0600U);
+  }
+}
+
+// It is another program's.
+TEST(LoadOrMakeToken, KeepsAnotherFileThatOthersMayRead) {
+  const FixtureTree tree;
+  const auto path = tree.write("token", "no token");
+  tree.setMode("token", 0644);
+  EXPECT_TRUE(failureOf(path).starts_with(path + ": holds no token of this agent"));
+  EXPECT_EQ(readSystemFile(path), "no token");
+  EXPECT_EQ(tree.mode("token"), 0644U);
 }
 
 TEST(LoadOrMakeToken, KeepsAFileThatIsNoToken) {
