@@ -7,8 +7,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QThread>
+
+#include "main/SessionBus.h"
 
 namespace quillmark {
 namespace {
@@ -25,12 +26,8 @@ const auto interfaceName = QStringLiteral("org.freedesktop.Application");
 const auto quitAction = QStringLiteral("quit");
 const auto activationToken = QStringLiteral("activation-token");
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
-
-/// Checked first, because connecting without a running bus would start one.
-bool hasSessionBus() {
-  return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-         QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
+// Tokens of desktops have about 40.
+constexpr int maxActivationTokenBytes = 1024;
 
 /// A call to the panel that owns the name; does not start one if there is none.
 QDBusMessage callTo(const QString& method) {
@@ -72,7 +69,7 @@ bool claimName(const QDBusConnection& bus) {
 }  // namespace
 
 bool SingleInstance::handOverOrListen() {
-  if (!hasSessionBus()) {
+  if (sessionBusAddress().empty()) {
     return false;
   }
   auto bus = QDBusConnection::sessionBus();
@@ -89,7 +86,7 @@ bool SingleInstance::handOverOrListen() {
 }
 
 bool SingleInstance::quitRunning() {
-  if (!hasSessionBus()) {
+  if (sessionBusAddress().empty()) {
     return false;
   }
   const auto bus = QDBusConnection::sessionBus();
@@ -101,10 +98,12 @@ bool SingleInstance::quitRunning() {
 void SingleInstance::Activate(const QVariantMap& platformData) {
   // The desktop's permission to take the focus, passed on by the other launch.
   const auto token = platformData.value(activationToken).toByteArray();
-  if (!token.isEmpty()) {
+  if (token.size() <= maxActivationTokenBytes) {
     qputenv(activationVariable, token);
   }
   Q_EMIT activated();
+  // It is valid once, and programs that the panel starts would inherit it.
+  qunsetenv(activationVariable);
 }
 
 void SingleInstance::Open(const QStringList& /*uris*/, const QVariantMap& platformData) {

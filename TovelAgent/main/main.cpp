@@ -9,6 +9,7 @@
 #include "main/ControlsStyle.h"
 #include "main/QuillmarkAgentApp.h"
 #include "main/Renderer.h"
+#include "main/SessionBus.h"
 #include "main/SingleInstance.h"
 #include "platform/CommandLine.h"
 #include "platform/OperatingSystem.h"
@@ -59,6 +60,7 @@ int main(int argc, char* argv[]) {
   if (commandLine.exitCode) {
     return *commandLine.exitCode;
   }
+  quillmark::avoidSilentSessionBus();
   if (commandLine.has(quitFlag)) {
     return quitOpenPanel(argc, argv);
   }

@@ -7,6 +7,8 @@
 #include <mutex>
 #include <optional>
 
+#include <sys/prctl.h>
+
 namespace quillmark {
 namespace {
 
@@ -21,14 +23,22 @@ rlimit limitOf(int resource) {
   return limit;
 }
 
-void setSoftLimit(int resource, rlimit limit, rlim_t soft) {
+/// False if the system does not allow it.
+bool setSoftLimit(int resource, rlimit limit, rlim_t soft) {
   limit.rlim_cur = soft;
-  setrlimit(resource, &limit);
+  return setrlimit(resource, &limit) == 0;
 }
 
 }  // namespace
 
-void disableCoreDumps() { setSoftLimit(RLIMIT_CORE, limitOf(RLIMIT_CORE), 0); }
+void disableCoreDumps() {
+  // With a limit of 0, Linux would still pass a dump to a crash reporter. A limit of 1 is
+  // its sign to pass none, and no file is that small.
+  if (!setSoftLimit(RLIMIT_CORE, limitOf(RLIMIT_CORE), 1)) {
+    // Not by default, because it also hides the process from debuggers and portals.
+    prctl(PR_SET_DUMPABLE, 0);
+  }
+}
 
 void reportFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 

@@ -7,9 +7,9 @@
 
 namespace quillmark {
 
-/// Disables core dumps, because a dump would contain the access token and the API key
-/// that is being typed. Sets only the soft limit, so that programs that the panel
-/// starts may raise it again. Any thread.
+/// Disables core dumps, to a file or to a crash reporter, because a dump would contain
+/// the access token and the API key that is being typed. Sets only the soft limit, so
+/// that programs that this one starts may raise it again. Any thread.
 void disableCoreDumps();
 
 /// Makes a write beyond the user's limit on file sizes fail with an error. By default

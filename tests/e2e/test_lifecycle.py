@@ -5,9 +5,8 @@
 import subprocess
 
 import pytest
-from gi.repository import Gio, GLib
 
-from harness import bodies, colours, hands
+from harness import activation, bodies, colours, hands
 from harness.backend import pollers
 from harness.panel import EXECUTABLE
 from harness.screen import Picture
@@ -16,8 +15,6 @@ from harness.window import Box, tool
 from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token")
-
-BUS_NAME = "org.quillmark.Agent"
 
 
 @pytest.fixture
@@ -118,37 +115,20 @@ def test_quit_by_command_without_a_panel(display):
     assert asked.stderr == "quillmark-agent: no panel answers\n"
 
 
-def bus_call(method, path, interface, arguments, destination=BUS_NAME):
-    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-    return bus.call_sync(
-        destination, path, interface, method, arguments, None,
-        Gio.DBusCallFlags.NO_AUTO_START, 5000, None,
-    )
-
-
 def test_activation_over_the_session_bus(launch):
     panel = launch()
-    daemon = "org.freedesktop.DBus"
-    (owner,) = bus_call("GetConnectionUnixProcessID", "/", daemon,
-                        GLib.Variant("(s)", (BUS_NAME,)), daemon)
-    assert owner == panel.pid
+    assert activation.owner() == panel.pid
     panel.close()
-    bus_call("Activate", "/org/quillmark/Agent", "org.freedesktop.Application",
-             GLib.Variant("(a{sv})", ({},)))
+    activation.activate({})
     until(panel.windows, "a new window")
 
 
 def test_actions_over_the_session_bus(launch):
     panel = launch()
-
-    def act(name):
-        bus_call("ActivateAction", "/org/quillmark/Agent", "org.freedesktop.Application",
-                 GLib.Variant("(sava{sv})", (name, [], {})))
-
     panel.close()
-    act("nothing-it-knows")
+    activation.act("nothing-it-knows")
     until(panel.windows, "a new window, as from any other request")
-    act("quit")
+    activation.act("quit")
     until(panel.ended, "the panel to end")
     assert panel.process.returncode == 0
 

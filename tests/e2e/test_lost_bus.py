@@ -1,23 +1,26 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The session bus is killed, or the first panel hangs, while a second is launched."""
+"""The session bus is killed or never answers, or the first panel hangs, while a second is
+launched."""
 
 import os
 import signal
+import subprocess
 
 import pytest
 
 from harness import colours
-from harness.bus import Bus
-from harness.panel import Panel
+from harness.bus import Bus, SilentBus
+from harness.panel import EXECUTABLE, Panel
 from harness.screen import Picture
 from harness.waiting import never, until
+from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token", "backend")
 
 # How many pieces of data an undisturbed launch takes: one or two messages are a piece.
-FEWEST = 8
-MOST = 15
+FEWEST = 12
+MOST = 20
 
 
 @pytest.fixture
@@ -72,6 +75,27 @@ def test_the_bus_is_killed(start, bus, piece):
     never(first.ended, "the first ended", seconds=0.3)
     until(lambda: is_drawn(first), "the first one's window")
     first.finish()
+
+
+@pytest.fixture
+def silent_bus(tmp_path):
+    bus = SilentBus(tmp_path)
+    yield bus
+    bus.stop()
+
+
+def test_a_bus_that_never_answers(display, silent_bus):
+    panel = Panel(DBUS_SESSION_BUS_ADDRESS=silent_bus.address,
+                  QT_LINUX_ACCESSIBILITY_ALWAYS_ON=None).opened()
+    until(lambda: is_drawn(panel), "a drawn window")
+    panel.finish()
+
+
+def test_quit_by_command_on_a_bus_that_never_answers(silent_bus):
+    environment = os.environ | {"DBUS_SESSION_BUS_ADDRESS": silent_bus.address}
+    asked = subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True,
+                           timeout=PATIENCE, env=environment, check=False)
+    assert (asked.returncode, asked.stderr) == (1, "quillmark-agent: no panel answers\n")
 
 
 def test_the_first_panel_hangs(start):

@@ -3,7 +3,19 @@
 """A crash leaves no copy of the token, and the panel can still be debugged."""
 
 import re
+import subprocess
 from pathlib import Path
+
+import pytest
+
+from harness.processes import AGENT
+from harness.screen import BUILD
+from harness.waiting import until
+
+# The user may have allowed core dumps, for other programs.
+ALLOWED = ("/usr/bin/prlimit", "--core=1048576:unlimited")
+# With a limit of 1 Linux neither writes a file nor passes a dump to a crash reporter.
+NONE = ("1", "unlimited")
 
 
 def core_limits(pid):
@@ -12,9 +24,23 @@ def core_limits(pid):
 
 
 def test_the_panel_leaves_no_core_dump(launch_alone):
-    # The user may have allowed core dumps, for other programs.
-    panel = launch_alone("/usr/bin/prlimit", "--core=1048576:unlimited")
-    assert core_limits(panel.pid) == ("0", "unlimited")
+    assert core_limits(launch_alone(*ALLOWED).pid) == NONE
+
+
+@pytest.mark.usefixtures("fresh_home")
+def test_the_sample_agent_leaves_no_core_dump():
+    program = BUILD / "QuillmarkAgent.app/Contents/MacOS" / AGENT
+    with subprocess.Popen([*ALLOWED, program], stdout=subprocess.DEVNULL) as agent:
+        until(lambda: core_limits(agent.pid) == NONE, "no core dumps")
+        agent.kill()
+
+
+def test_not_even_where_no_limit_may_be_set(launch_alone):
+    panel = launch_alone("/usr/bin/prlimit", "--core=0:0")
+    assert core_limits(panel.pid) == ("0", "0")
+    # The system dumps no process that it hides from its user.
+    with pytest.raises(PermissionError):
+        Path(f"/proc/{panel.pid}/environ").read_bytes()
 
 
 def test_the_panels_user_can_still_debug_it(launch_alone):

@@ -7,7 +7,7 @@ import subprocess
 
 import pytest
 
-from harness import colours, hands, processes, settings
+from harness import activation, colours, hands, processes, settings
 from harness.screen import Picture
 from harness.settings import LOGS, NOT_RUNNING, RUNNING, START, STOP, status
 from harness.waiting import never, until
@@ -50,6 +50,16 @@ def test_second_start_still_says_running(panel):
     until(lambda: "already in use" in (LOGS / "backend.log").read_text(), "the second agent")
     never(lambda: status(panel) != RUNNING, "the status changed", seconds=2.5)
     assert [a.pid for a in processes.agents()] == [first.pid]
+
+
+def test_activation_tokens_do_not_reach_the_agent(panel):
+    activation.activate_with("sent-with-the-activation")
+    # Longer than the system allows for a variable of a program that starts.
+    activation.activate_with("x" * 200_000)
+    start(panel)
+    running(panel)
+    (agent,) = processes.agents()
+    assert "XDG_ACTIVATION_TOKEN" not in agent.environment
 
 
 def test_without_the_log_folder_nothing_starts(panel):

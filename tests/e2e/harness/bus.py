@@ -1,12 +1,27 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A private session bus, which can be killed in the middle of an exchange."""
+"""Private session buses: one that can be killed in the middle of an exchange, and one
+that never answers."""
 
 import contextlib
 import socket
 import subprocess
 import threading
 from pathlib import Path
+
+
+class SilentBus:
+    """Accepts connections, as a stopped daemon does."""
+
+    def __init__(self, folder):
+        path = Path(folder) / "silent"
+        self.address = f"unix:path={path}"
+        self._listener = socket.socket(socket.AF_UNIX)
+        self._listener.bind(str(path))
+        self._listener.listen()
+
+    def stop(self):
+        self._listener.close()
 
 
 class Bus:

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "main/SessionBus.h"
+
+#include <cstdlib>
+
+#include <dbus/dbus.h>
+#include <QDeadlineTimer>
+
+#include <unistd.h>
+
+namespace quillmark {
+namespace {
+
+constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
+constexpr int answerTimeoutMs = 2500;
+
+std::string variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+/// Whether the bus lets this process connect and then does not even authenticate it.
+bool isSilent(const std::string& address) {
+  DBusConnection* const bus = dbus_connection_open_private(address.c_str(), nullptr);
+  if (bus == nullptr) {
+    return false;
+  }
+  const auto isWaiting = [bus] {
+    return dbus_connection_get_is_connected(bus) != FALSE &&
+           dbus_connection_get_is_authenticated(bus) == FALSE;
+  };
+  const QDeadlineTimer deadline(answerTimeoutMs);
+  while (isWaiting() && !deadline.hasExpired()) {
+    dbus_connection_read_write(bus, static_cast<int>(deadline.remainingTime()));
+  }
+  const bool isStillWaiting = isWaiting();
+  dbus_connection_close(bus);
+  dbus_connection_unref(bus);
+  return isStillWaiting;
+}
+
+}  // namespace
+
+std::string sessionBusAddress() {
+  auto address = variable(addressVariable);
+  const auto socket = variable("XDG_RUNTIME_DIR") + "/bus";
+  if (address.empty() && access(socket.c_str(), F_OK) == 0) {
+    address = "unix:path=" + socket;
+  }
+  return address;
+}
+
+void avoidSilentSessionBus() {
+  const auto address = sessionBusAddress();
+  if (!address.empty() && isSilent(address)) {
+    // No library has a transport of this name, so that each fails at once.
+    setenv(addressVariable, "disabled:", 1);
+  }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+namespace quillmark {
+
+/// The address of the session bus; empty if there is none. Asking Qt instead would start
+/// one. Any thread, as long as no thread changes the environment at the same time.
+[[nodiscard]] std::string sessionBusAddress();
+
+/// Makes this process, and the programs that it starts, do without the session bus if that
+/// accepts connections but answers nothing, as a stopped one does: Qt and others wait for
+/// it without a limit. Takes two and a half seconds then, and otherwise a millisecond.
+/// Call before Qt is set up and before threads start.
+void avoidSilentSessionBus();
+
+}  // namespace quillmark
