@@ -33,6 +33,12 @@ target_compile_options(
             -Wformat=2
             -Wimplicit-fallthrough)
 
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Where several files are compiled as one, it takes what is private to a file for a
+  # mistake in a header.
+  target_compile_options(quillmark_options INTERFACE -Wno-subobject-linkage)
+endif()
+
 if(QUILLMARK_SANITIZE)
   target_compile_options(
     quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZE} -fno-omit-frame-pointer
