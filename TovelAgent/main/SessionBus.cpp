@@ -14,7 +14,7 @@ namespace quillmark {
 namespace {
 
 constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
-constexpr int answerTimeoutMs = 2500;
+constexpr int authenticationTimeoutMs = 2500;
 
 std::string variable(const char* name) {
   const char* const value = std::getenv(name);
@@ -31,7 +31,7 @@ bool isSilent(const std::string& address) {
     return dbus_connection_get_is_connected(bus) != FALSE &&
            dbus_connection_get_is_authenticated(bus) == FALSE;
   };
-  const QDeadlineTimer deadline(answerTimeoutMs);
+  const QDeadlineTimer deadline(authenticationTimeoutMs);
   while (isWaiting() && !deadline.hasExpired()) {
     dbus_connection_read_write(bus, static_cast<int>(deadline.remainingTime()));
   }

@@ -11,6 +11,7 @@
 
 #include <malloc.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -43,6 +44,8 @@ bool endsWithin(pid_t child, std::chrono::milliseconds limit) {
   close(descriptor);
   return count != 0;
 }
+
+void makeUndumpable() { prctl(PR_SET_DUMPABLE, 0); }
 
 void returnLargeBlocksOnFree() {
 #ifdef __GLIBC__

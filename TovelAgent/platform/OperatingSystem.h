@@ -26,6 +26,10 @@ void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
 /// Leaves its exit status to be collected.
 [[nodiscard]] bool endsWithin(pid_t child, std::chrono::milliseconds limit);
 
+/// Makes the system write no core dump of this process whatever the limits are. Also
+/// hides the process from the user's debuggers and from desktop portals.
+void makeUndumpable();
+
 /// Makes the allocator return blocks of 1 MiB or more to the system as soon as they
 /// are freed. Call before threads start.
 void returnLargeBlocksOnFree();

@@ -7,7 +7,7 @@
 #include <mutex>
 #include <optional>
 
-#include <sys/prctl.h>
+#include "platform/OperatingSystem.h"
 
 namespace quillmark {
 namespace {
@@ -35,8 +35,7 @@ void disableCoreDumps() {
   // With a limit of 0, Linux would still pass a dump to a crash reporter. A limit of 1 is
   // its sign to pass none, and no file is that small.
   if (!setSoftLimit(RLIMIT_CORE, limitOf(RLIMIT_CORE), 1)) {
-    // Not by default, because it also hides the process from debuggers and portals.
-    prctl(PR_SET_DUMPABLE, 0);
+    makeUndumpable();
   }
 }
 
