@@ -57,11 +57,11 @@ Column {
                 property string text: displayText
 
                 readonly property bool isMasked: echoMode !== TextInput.Normal
-                // The text as a description: Orca drops the text itself, because Qt gives it no
-                // text attributes. Not while the user types, or every change would be spoken.
+                // The text for a screen reader that does not read it from the field. Not while the
+                // user types, or every change would be spoken.
                 property string textAtFocus: ""
 
-                onActiveFocusChanged: textAtFocus = displayText
+                onActiveFocusChanged: textAtFocus = ScreenReader.readsFieldTexts ? "" : displayText
 
                 anchors.fill: parent
                 topPadding: 6

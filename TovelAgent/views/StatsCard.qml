@@ -33,7 +33,8 @@ Item {
         anchors.fill: parent
         activeFocusOnTab: true
 
-        Accessible.role: Accessible.Grouping
+        // Not a grouping, of which Orca 48 says description or texts twice.
+        Accessible.role: Accessible.Section
         Accessible.name: card.title + ": " + card.value
         Accessible.focusable: true
         Accessible.focused: activeFocus

@@ -27,7 +27,8 @@ Item {
         anchors.fill: parent
         activeFocusOnTab: true
 
-        Accessible.role: Accessible.Grouping
+        // Not a grouping, of which Orca 48 says description or texts twice.
+        Accessible.role: Accessible.Section
         Accessible.name: badge.title + ": " + badge.value
         Accessible.description: badge.isHealthy ? "Healthy" : "Needs attention"
         Accessible.focusable: true

@@ -80,10 +80,11 @@ ViewTest {
     function test_textIsDescribedOnceTheFieldHasTheFocus() {
         const view = field({ value: "abc" });
         const input = inputOf(view);
+        const description = ScreenReader.readsFieldTexts ? "" : "abc";
         input.forceActiveFocus(Qt.TabFocusReason);
-        compare(input.Accessible.description, "abc");
+        compare(input.Accessible.description, description);
         keyClick("d");
-        compare(input.Accessible.description, "abc");
+        compare(input.Accessible.description, description);
     }
 
     function test_maskedFieldHasItsLabelAsAGroup() {

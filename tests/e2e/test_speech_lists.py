@@ -6,6 +6,7 @@ import pytest
 
 from harness import bodies, clipboard, hands
 from harness.lists import listed
+from harness.screen_reader import expected
 from harness.waiting import until
 
 LIST = "Network connections"
@@ -44,7 +45,7 @@ def panel(spoken_panel, screen_reader, backend):
 def test_keys_read_row_by_row(panel, screen_reader):
     for key, index in (("Down", 1), ("Down", 2), ("Up", 1), ("End", COUNT - 1), ("Home", 0)):
         screen_reader.press(key)
-        assert screen_reader.hear(*words(index)) == list(words(index))
+        screen_reader.hear_only(*words(index))
 
 
 def test_page_keys_read_a_row_of_the_next_page(panel, screen_reader):
@@ -77,7 +78,10 @@ def test_polls_leave_the_position_and_say_nothing(panel, screen_reader, backend)
         backend.reply(network=connections("LISTEN", count))
         until(lambda: panel.focus().name == row(2), "the old state")
     screen_reader.press("Down")
-    assert screen_reader.hear(*words(3, count=COUNT - 20)) == list(words(3, count=COUNT - 20))
+    said = screen_reader.hear(*words(3, count=COUNT - 20))
+    # A newer screen reader also says that the row under the reading position has changed.
+    others = [utterance for utterance in said if ":2," not in utterance]
+    assert others == list(map(expected, words(3, count=COUNT - 20)))
 
 
 def test_copy_by_key(panel, screen_reader):

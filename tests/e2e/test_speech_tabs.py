@@ -42,7 +42,7 @@ def test_the_focus_goes_from_content_to_content(panel, screen_reader, tab):
     panel.tree.act(until(lambda: content(panel, before), before), "SetFocus")
     screen_reader.hear(CONTENT[before][1])
     screen_reader.press(f"ctrl+{TABS.index(tab) + 1}")
-    screen_reader.hear(f"notification {tab} tab.", words)
+    screen_reader.hear_all(f"notification {tab} tab.", words)
     assert panel.focus().role == role
 
 
@@ -57,9 +57,9 @@ def test_neighbouring_tabs_are_spoken(panel, screen_reader):
     panel.focus_on("list", "Installed applications")
     screen_reader.hear("Files, v43.2.")
     screen_reader.press("ctrl+Next")
-    screen_reader.hear("notification Alerts tab.", "high: malware, A bad file.", "1 of 2.")
+    screen_reader.hear_all("notification Alerts tab.", "high: malware, A bad file.", "1 of 2.")
     screen_reader.press("ctrl+Prior")
-    screen_reader.hear("notification Inventory tab.", "Files, v43.2.", "1 of 2.")
+    screen_reader.hear_all("notification Inventory tab.", "Files, v43.2.", "1 of 2.")
 
 
 def test_in_the_tab_bar_the_focus_follows_the_selection(panel, screen_reader):
@@ -68,8 +68,7 @@ def test_in_the_tab_bar_the_focus_follows_the_selection(panel, screen_reader):
     screen_reader.hear("Dashboard page tab.", "Selected.")
     for keys, tab in (("Right", "Network"), ("ctrl+4", "Alerts")):
         screen_reader.press(keys)
-        said = screen_reader.hear(f"{tab} page tab.", "Selected.")
-        assert said == [f"{tab} page tab.", "Selected."]
+        screen_reader.hear_only(f"{tab} page tab.", "Selected.")
 
 
 def test_the_focus_stays_in_the_content_when_its_list_becomes_empty(panel, screen_reader,

@@ -159,8 +159,7 @@ class Panel:
         finally:
             self.dismiss()
             said = MISSING_LOCALE.sub("", self.output())
-            if not re.fullmatch(self.expected_output, said):
-                assert said == self.expected_output, "the panel's output"
+            assert re.fullmatch(self.expected_output, said), f"the panel's output:\n{said}"
 
     def dismiss(self):
         if not self.ended():
