@@ -3,13 +3,16 @@
 """Windows opened again and again, and panels started side by side."""
 
 import contextlib
+import socket
 import subprocess
 import tempfile
 from pathlib import Path
 
 import pytest
 
-from harness.panel import EXECUTABLE, spawn
+from harness import picker, settings
+from harness.backend import PORT
+from harness.panel import EXECUTABLE, TABS, spawn
 from harness.waiting import never, until
 from harness.window import visible
 from patience import PATIENCE
@@ -17,6 +20,9 @@ from patience import PATIENCE
 pytestmark = pytest.mark.usefixtures("token")
 
 WINDOWS = 20
+# Enough that a silent agent would soon take every descriptor.
+MANY_WINDOWS = 50
+DESCRIPTORS = 512
 
 
 def held(pid):
@@ -46,6 +52,26 @@ def test_twenty_windows_one_after_another(launch, backend):
     seen = len(backend.seen("status"))
     never(panel.ended, "the panel ended", seconds=5)
     assert len(backend.seen("status")) - seen >= WINDOWS
+
+
+def test_fifty_windows_and_a_silent_agent_leave_descriptors(launch_alone, backend, clean_home):
+    panel = launch_alone("/usr/bin/prlimit", f"--nofile={DESCRIPTORS}")
+    for _ in range(MANY_WINDOWS):
+        reopen(panel)
+    backend.stop()
+    # The system accepts for it; nobody reads.
+    with socket.create_server(("127.0.0.1", PORT), backlog=4096):
+        until(lambda: held(panel.pid)[0] > DESCRIPTORS - 32, "requests to take descriptors")
+        panel.resize(1100, 800)
+        for tab in TABS:
+            panel.show(tab)
+        settings.fill(panel, settings.KEY, "k")
+        settings.press(panel, settings.SAVE)
+        settings.wait_for_message(panel, settings.SAVED)
+        with picker.opened(panel):
+            pass
+    backend.start()
+    panel.tree.wait_for("text", "OK")
 
 
 def test_two_launched_at_once(display, backend):
