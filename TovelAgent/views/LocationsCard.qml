@@ -10,6 +10,9 @@ SectionCard {
     icon: "folder"
     title: "Config File Locations"
 
+    // Of a grouping, Orca 43 would first read some of the rows' texts together.
+    Accessible.role: Accessible.List
+
     ConfigLocationRow {
         path: "~/.config/quillmark/config.toml"
         description: "Recommended - User configuration"

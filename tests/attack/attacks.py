@@ -3,8 +3,10 @@
 """What an attacker on the agent's port may send."""
 
 import json
+import random
 import socket
 import struct
+import unicodedata
 
 from harness import bodies
 
@@ -117,6 +119,18 @@ def long_texts():
     return whole(alerts=bodies.alerts(*texts))
 
 
+def rare_scripts():
+    """Alerts of characters from all scripts, others at each poll: many fonts are needed."""
+    assigned = [c for c in map(chr, range(0x21, 0x30000)) if unicodedata.category(c)[0] in "LMNPS"]
+    choose = random.Random(1).choices
+
+    def send(victim):
+        texts = ("".join(choose(assigned, k=15_000)) for _ in range(10))
+        alerts = (bodies.alert("malware", description=text) for text in texts)
+        whole(alerts=bodies.alerts(*alerts))(victim)
+    return send
+
+
 def empty_services(victim):
     """Each takes ten times as much memory as its text."""
     body = b'{"apps":[],"network_interfaces":[],"permissions":[],"services":["' \
@@ -147,6 +161,7 @@ def every():
         "a text of 60 MB in chunks": huge_text_in_chunks(),
         "texts of 20 MB wherever one is shown": huge_texts(),
         "sixty texts of 1 MB": long_texts(),
+        "texts in all scripts": rare_scripts(),
         "twenty million empty services": empty_services,
         "nesting 100,000 deep": deep_nesting,
         "resets amid the header": resets,

@@ -17,6 +17,10 @@ LOCATIONS = (
 )
 
 
+def card_of(tree, name):
+    return tree.find("group", name) or tree.find("list", name)
+
+
 @pytest.fixture(scope="module")
 def shown(panel):
     settings.clean_home()
@@ -44,8 +48,8 @@ def near(values, wanted):
 
 def test_cards_in_order_twenty_apart(tree):
     page = tree.find("group", "Settings")
-    assert [c.name for c in page.children if c.role == "group"] == list(CARDS)
-    boxes = [page.find("group", name).box for name in CARDS]
+    assert [c.name for c in page.children if c.role in ("group", "list")] == list(CARDS)
+    boxes = [card_of(page, name).box for name in CARDS]
     near([b.y - a.bottom for a, b in zip(boxes, boxes[1:])], [20, 20, 20])
     near([boxes[0].y - page.box.y], [20])
     for box in boxes:
@@ -54,8 +58,8 @@ def test_cards_in_order_twenty_apart(tree):
 
 @pytest.mark.parametrize("name", CARDS)
 def test_card_is_white_with_a_border_and_a_title(tree, picture, name):
-    card = tree.find("group", name).box
-    title = tree.find("group", name).find("text", name).box
+    card = card_of(tree, name).box
+    title = card_of(tree, name).find("text", name).box
     assert picture.pixel(card.x + 6, card.centre[1]) == colours.WHITE
     assert picture.pixel(card.x, card.centre[1]) == colours.SECTION_BORDER
     assert picture.pixel(card.centre[0], card.y) == colours.SECTION_BORDER

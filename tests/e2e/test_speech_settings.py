@@ -6,7 +6,7 @@ import pytest
 
 from harness import hands, settings
 from harness.screen_reader import expected, group_words, password_words
-from harness.settings import DEFAULT_URL, KEY, SAVE, SERVER, STOP
+from harness.settings import BROWSE, DEFAULT_URL, KEY, SAVE, SERVER, STOP
 
 HINT = "Paste your API key here"
 URL = f"{DEFAULT_URL}."
@@ -37,6 +37,17 @@ def test_fields_say_label_kind_and_value_once(panel, screen_reader):
     assert said.count(expected("Server URL text.")) == said.count(expected(URL)) == 1
     screen_reader.press("Tab")
     screen_reader.hear_only("API Key panel.", *password_words(HINT))
+
+
+def test_locations_are_read_one_by_one(panel, screen_reader):
+    settings.focus_on(panel, BROWSE)
+    screen_reader.hear("Browse and Import Config push button.")
+    screen_reader.press("Tab")
+    screen_reader.hear_only(
+        "Config File Locations.", "List with 3 items.",
+        "~/.config/quillmark/config.toml, Recommended - User configuration.")
+    screen_reader.press("Tab")
+    screen_reader.hear_only("/Library/Quillmark/config.toml, macOS system configuration.")
 
 
 def test_a_key_that_is_typed_is_not_spoken(panel, screen_reader):
