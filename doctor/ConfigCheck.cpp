@@ -23,6 +23,7 @@ namespace {
 struct ConfigCandidate {
   std::string path;
   boost::system::result<std::string> text;
+  ConfigToml toml;  ///< of the text, if there is one
 };
 
 Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
@@ -63,8 +64,8 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
 
 /// Hides the key as the TOML parser finds it, and, because the file may not be valid TOML, for
 /// every line with "api_key" both the whole value and the part that the Settings tab reads.
-void hideKeys(std::string_view text, TextSanitizer& sanitize) {
-  sanitize.hide(readToml(text).apiKey.value_or(""));
+void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sanitize) {
+  sanitize.hide(toml.apiKey.value_or(""));
   while (!text.empty()) {
     const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(text.size(), line.size() + 1));
@@ -85,9 +86,11 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"config", "config-old"};
   std::vector<ConfigCandidate> places;
   for (const auto& path : configSearchPaths()) {
-    places.push_back({path, readTextFile(path, maxConfigBytes)});
-    if (const auto& text = places.back().text) {
-      hideKeys(*text, sanitize);
+    auto& place = places.emplace_back(
+        ConfigCandidate{path, readTextFile(path, maxConfigBytes), ConfigToml{}});
+    if (place.text) {
+      place.toml = readToml(*place.text);
+      hideKeys(*place.text, place.toml, sanitize);
     }
   }
   const ConfigCandidate* chosen = nullptr;
@@ -101,7 +104,7 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
     findings.back().say(Mark::note, "so this machine is not enrolled", enrolStep);
     return;
   }
-  const auto toml = readToml(*chosen->text);
+  const auto& toml = chosen->toml;
   const auto entries = readEntries(*chosen->text);
   findings.push_back(judgeToml(toml, sanitize(chosen->path)));
   findings.push_back(judgeKey(toml, entries));

@@ -23,17 +23,19 @@ constexpr auto startByService =
 /// Whether a shell ends an unquoted word at `c`.
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
+bool isOfCommand(char c) { return containsCommand({&c, 1}); }
+
 /// Whether a shell does not take an unquoted `c` literally.
 bool isShellSpecial(char c) {
   constexpr std::string_view special = "\\\"'*?[]{}";
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || isBlank(c) ||
-         containsCommand({&c, 1}) || special.find(c) != std::string_view::npos;
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || isBlank(c) || isOfCommand(c) ||
+         special.find(c) != std::string_view::npos;
 }
 
 /// What Start Agent does in a home path with the special character `odd`.
 std::string effectOf(const std::string& home, std::string::const_iterator odd,
                      const TextSanitizer& sanitize) {
-  if (containsCommand(home)) {
+  if (isOfCommand(*odd)) {
     return "so Start Agent does nothing: a shell could run a part of the path as a command";
   }
   if (isBlank(*odd)) {
@@ -48,9 +50,7 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
   finding.facts["path"] = sanitize(home);
   finding.text = (home.empty() ? "/" : sanitize(home)) + ": ";
   const auto odd =
-      std::find_if(home.begin(), home.end(), [isCommand = containsCommand(home)](char c) {
-        return isCommand ? containsCommand({&c, 1}) : isShellSpecial(c);
-      });
+      std::find_if(home.begin(), home.end(), containsCommand(home) ? isOfCommand : isShellSpecial);
   if (odd != home.end()) {
     finding.say(Mark::wrong,
                 "holds \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),

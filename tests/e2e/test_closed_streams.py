@@ -8,11 +8,10 @@ import subprocess
 
 import pytest
 
-from harness.panel import BUILD
+from harness.panel import PROGRAMS
 from harness.waiting import until
 
 CLOSED = ("/bin/bash", "-c", 'exec "$@" 0<&- 1>&- 2>&-', "bash")
-PROGRAMS = BUILD / "QuillmarkAgent.app/Contents/MacOS"
 
 
 def streams(pid):

@@ -4,21 +4,15 @@
 
 import pytest
 
-from harness import picker, settings
 from harness.panel import TABS
+from harness.tour import tour
 
 pytestmark = pytest.mark.usefixtures("token", "clean_home")
 
 
 def test_tabs_settings_and_windows(launch, backend):
     panel = launch(QV4_MM_AGGRESSIVE_GC="1")
-    for tab in TABS:
-        panel.show(tab)
-    settings.fill(panel, settings.KEY, "key")
-    settings.press(panel, settings.SAVE)
-    settings.wait_for_message(panel, settings.SAVED)
-    with picker.opened(panel):
-        pass
+    tour(panel)
     panel.close()
     panel.launch_again()
     # The agent ends and returns: rows, icons and colours change.

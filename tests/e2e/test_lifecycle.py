@@ -8,11 +8,10 @@ import pytest
 
 from harness import activation, bodies, colours, hands
 from harness.backend import pollers
-from harness.panel import EXECUTABLE
+from harness.panel import quit_by_command
 from harness.screen import Picture
 from harness.waiting import never, until
 from harness.window import Box, tool
-from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token")
 
@@ -94,10 +93,6 @@ def test_quit_ends_the_process(launch):
     hands.key("ctrl+q")
     until(panel.ended, "the panel to end")
     assert panel.process.returncode == 0
-
-
-def quit_by_command():
-    return subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True, timeout=PATIENCE)
 
 
 def test_quit_by_command_ends_the_open_panel(launch):

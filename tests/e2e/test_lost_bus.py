@@ -5,16 +5,14 @@ launched."""
 
 import os
 import signal
-import subprocess
 
 import pytest
 
 from harness import colours
 from harness.bus import Bus, SilentBus
-from harness.panel import EXECUTABLE, Panel
+from harness.panel import Panel, quit_by_command
 from harness.screen import Picture
 from harness.waiting import never, until
-from patience import PATIENCE
 
 pytestmark = pytest.mark.usefixtures("token", "backend")
 
@@ -92,9 +90,7 @@ def test_a_bus_that_never_answers(display, silent_bus):
 
 
 def test_quit_by_command_on_a_bus_that_never_answers(silent_bus):
-    environment = os.environ | {"DBUS_SESSION_BUS_ADDRESS": silent_bus.address}
-    asked = subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True,
-                           timeout=PATIENCE, env=environment, check=False)
+    asked = quit_by_command(DBUS_SESSION_BUS_ADDRESS=silent_bus.address)
     assert (asked.returncode, asked.stderr) == (1, "quillmark-agent: no panel answers\n")
 
 

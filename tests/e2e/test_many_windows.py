@@ -4,15 +4,14 @@
 
 import contextlib
 import socket
-import subprocess
 import tempfile
 from pathlib import Path
 
 import pytest
 
-from harness import picker, settings
 from harness.backend import PORT
-from harness.panel import EXECUTABLE, TABS, spawn
+from harness.panel import quit_by_command, spawn
+from harness.tour import tour
 from harness.waiting import never, until
 from harness.window import visible
 from patience import PATIENCE
@@ -63,13 +62,7 @@ def test_fifty_windows_and_a_silent_agent_leave_descriptors(launch_alone, backen
     with socket.create_server(("127.0.0.1", PORT), backlog=4096):
         until(lambda: held(panel.pid)[0] > DESCRIPTORS - 32, "requests to take descriptors")
         panel.resize(1100, 800)
-        for tab in TABS:
-            panel.show(tab)
-        settings.fill(panel, settings.KEY, "k")
-        settings.press(panel, settings.SAVE)
-        settings.wait_for_message(panel, settings.SAVED)
-        with picker.opened(panel):
-            pass
+        tour(panel)
     backend.start()
     panel.tree.wait_for("text", "OK")
 
@@ -83,5 +76,5 @@ def test_two_launched_at_once(display, backend):
         assert other.returncode == 0
         until(lambda: visible(first.pid), "the window")
         never(lambda: len(visible(first.pid)) != 1, "another window", seconds=2)
-        assert subprocess.run([EXECUTABLE, "--quit"], timeout=PATIENCE).returncode == 0
+        assert quit_by_command().returncode == 0
         assert first.wait(timeout=PATIENCE) == 0

@@ -8,8 +8,8 @@ from pathlib import Path
 
 import pytest
 
+from harness.panel import PROGRAMS
 from harness.processes import AGENT
-from harness.screen import BUILD
 from harness.waiting import until
 
 # The user may have allowed core dumps, for other programs.
@@ -29,8 +29,7 @@ def test_the_panel_leaves_no_core_dump(launch_alone):
 
 @pytest.mark.usefixtures("fresh_home")
 def test_the_sample_agent_leaves_no_core_dump():
-    program = BUILD / "QuillmarkAgent.app/Contents/MacOS" / AGENT
-    with subprocess.Popen([*ALLOWED, program], stdout=subprocess.DEVNULL) as agent:
+    with subprocess.Popen([*ALLOWED, PROGRAMS / AGENT], stdout=subprocess.DEVNULL) as agent:
         until(lambda: core_limits(agent.pid) == NONE, "no core dumps")
         agent.kill()
 

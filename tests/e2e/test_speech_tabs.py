@@ -6,7 +6,6 @@ import pytest
 
 from harness import hands
 from harness.panel import TABS
-from harness.screen_reader import expected
 from harness.waiting import until
 
 # The item of each tab that gets the focus, and what is said of it.
@@ -43,7 +42,7 @@ def test_the_focus_goes_from_content_to_content(panel, screen_reader, tab):
     panel.tree.act(until(lambda: content(panel, before), before), "SetFocus")
     screen_reader.hear(CONTENT[before][1])
     screen_reader.press(f"ctrl+{TABS.index(tab) + 1}")
-    screen_reader.hear_all(f"notification {tab} tab.", words)
+    screen_reader.hear_announced(f"notification {tab} tab.", words)
     assert panel.focus().role == role
 
 
@@ -58,9 +57,11 @@ def test_neighbouring_tabs_are_spoken(panel, screen_reader):
     panel.focus_on("list", "Installed applications")
     screen_reader.hear("Files, v43.2.")
     screen_reader.press("ctrl+Next")
-    screen_reader.hear_all("notification Alerts tab.", "high: malware, A bad file.", "1 of 2.")
+    screen_reader.hear_announced("notification Alerts tab.",
+                                 "high: malware, A bad file.", "1 of 2.")
     screen_reader.press("ctrl+Prior")
-    screen_reader.hear_all("notification Inventory tab.", "Files, v43.2.", "1 of 2.")
+    screen_reader.hear_announced("notification Inventory tab.",
+                                 "Files, v43.2.", "1 of 2.")
 
 
 def test_in_the_tab_bar_the_focus_follows_the_selection(panel, screen_reader):
@@ -69,10 +70,8 @@ def test_in_the_tab_bar_the_focus_follows_the_selection(panel, screen_reader):
     screen_reader.hear("Dashboard page tab.", "Selected.")
     for keys, tab in (("Right", "Network"), ("ctrl+4", "Alerts")):
         screen_reader.press(keys)
-        words = [f"{tab} page tab.", "Selected."]
-        said = screen_reader.hear(*words)
-        # The announcement of the tab before may come late; this one has none.
-        assert [each for each in said if tab in each] == [expected(words[0])]
+        # A newer version may announce the first tab only now.
+        screen_reader.hear_only(f"{tab} page tab.", "Selected.", newer_also="Dashboard tab")
 
 
 def test_the_focus_stays_in_the_content_when_its_list_becomes_empty(panel, screen_reader,

@@ -6,6 +6,7 @@ import pytest
 
 from harness import bodies, clipboard, hands, processes, settings, tokens
 from harness.panel import TABS
+from harness.screen_reader import password_words
 
 ALERTS = [bodies.alert(f"kind {i}", "high", description=f"What happened {i}") for i in range(1, 5)]
 URL = "https://console.example"
@@ -50,14 +51,14 @@ def test_the_whole_way_by_ear(panel, screen_reader, backend):
     assert clipboard.text() == "high: kind 3, What happened 3"
 
     press("ctrl+5")
-    screen_reader.hear_all("notification Settings tab.", "Settings section.")
+    screen_reader.hear_announced("notification Settings tab.", "Settings section.")
     for words in ("Start Agent push button.", "Stop Agent push button.", "Server URL text."):
         press("Tab")
         hear(words)
     hands.key("ctrl+a", "BackSpace")
     hands.write(URL)
     press("Tab")
-    hear("API Key panel.")
+    hear("API Key panel.", *password_words("Paste your API key here"))
     hands.write("qm-1234")
     press("Tab")
     hear("Save & Connect push button.")

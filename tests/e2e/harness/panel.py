@@ -14,9 +14,8 @@ from .accessible import Tree
 from .screen import BUILD
 from .waiting import until
 
-EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(
-    BUILD / "QuillmarkAgent.app/Contents/MacOS/quillmark-agent"
-)
+PROGRAMS = BUILD / "QuillmarkAgent.app/Contents/MacOS"
+EXECUTABLE = os.environ.get("QUILLMARK_TEST_PANEL") or str(PROGRAMS / "quillmark-agent")
 
 # Of Qt 6.8, where the locale that a test names is not installed.
 MISSING_LOCALE = re.compile(r'Detected locale "C" (?s:.*?)for more information\.\n')
@@ -35,6 +34,12 @@ def spawn(output, *prefix, **changes):
         [*prefix, EXECUTABLE], env=environment, stdin=subprocess.DEVNULL,
         stdout=output, stderr=subprocess.STDOUT,
     )
+
+
+def quit_by_command(**changes):
+    """Asks the session's panel to end, as a script does."""
+    return subprocess.run([EXECUTABLE, "--quit"], capture_output=True, text=True,
+                          timeout=PATIENCE, env=os.environ | changes, check=False)
 
 
 class Panel:

@@ -65,6 +65,12 @@ def group_words(name, text):
     return [f"{name} {text} panel."] if _is_newer() else [f"{name} panel.", text]
 
 
+def list_words(count, in_view):
+    """What is said of a list that the focus enters: the newer version counts only the
+    rows in view."""
+    return f"List with {in_view if _is_newer() else count} items."
+
+
 def password_words(description, dots=""):
     """What is said of a masked field, in which a dot stands for each character."""
     if _is_newer():
@@ -130,9 +136,13 @@ class ScreenReader:
         said, self._mark = self._said[self._mark:end], end
         return said
 
-    def hear_only(self, *words):
-        """The same, if nothing else was said."""
-        assert self.hear(*words) == list(map(expected, words))
+    def hear_only(self, *words, newer_also=None):
+        """The same, if nothing else was said; by a newer version, nothing else without
+        the text `newer_also`."""
+        said = self.hear(*words)
+        if newer_also and _is_newer():
+            said = [each for each in said if newer_also not in each]
+        assert said == list(map(expected, words))
 
     def hear_all(self, *beginnings):
         """Waits until an utterance has begun with each of these, in any order."""
@@ -143,6 +153,12 @@ class ScreenReader:
 
         self._until(heard, f"words that begin with {beginnings}")
         self.forget()
+
+    def hear_announced(self, announcement, *words):
+        """Waits for an announcement and what is said of the item that gets the focus. A newer
+        version says them in any order."""
+        hear = self.hear_all if _is_newer() else self.hear
+        hear(announcement, *words)
 
     def hear_about(self, name):
         """Waits for words with this name, and returns all that was said until the reader
