@@ -60,8 +60,7 @@ class Bus:
 
     def tree(self, node):
         """The node and everything visible below it; None if it changed meanwhile."""
-        trees = self._read("tree", node)
-        return trees and trees[0]
+        return self._read("tree", node)
 
     def focus(self, node):
         """The focused items below the node, innermost last; None if the tree changed

@@ -11,7 +11,6 @@
 // Each D-Bus call needs three processes, so roles, which never change, are read once
 // per object. In C++, because reading trees in Python took most of a test's time.
 
-#include <algorithm>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -162,60 +161,100 @@ class Reader final {
   explicit Reader(const QString& address)
       : bus_(QDBusConnection::connectToBus(address, "accessible")) {}
 
-  /// The nodes with everything below them, in order. False if one was removed.
-  [[nodiscard]] bool readTrees(const std::vector<Node>& nodes, QJsonArray& trees) {
+  /// The node with everything below it. Empty if part of it was removed.
+  [[nodiscard]] QJsonDocument readTree(const Node& root) {
+    std::vector<Level> levels(1);
+    levels.front().nodes = {root};
+    // One level after the other needs far fewer waits than one node after the other.
+    while (!levels.back().nodes.empty()) {
+      Level below;
+      if (!readLevel(levels.back(), below)) {
+        return {};
+      }
+      levels.push_back(std::move(below));
+    }
+    return QJsonDocument(joined(levels));
+  }
+
+  /// The focused ones among the node and everything below it, without their children.
+  /// Empty if one was removed.
+  [[nodiscard]] QJsonDocument findFocus(const Node& root) {
+    QJsonArray found;
+    for (std::vector<Node> nodes{root}; !nodes.empty();) {
+      std::vector<std::pair<QDBusPendingCall, QDBusPendingCall>> asked;
+      asked.reserve(nodes.size());
+      for (const auto& node : nodes) {
+        asked.emplace_back(node.ask(bus_, accessible, "GetState"),
+                           node.ask(bus_, accessible, "GetChildren"));
+      }
+      std::vector<Node> below;
+      for (std::size_t i = 0; i < nodes.size(); ++i) {
+        auto& [state, children] = asked[i];
+        if (!isAnswered(state) || !isAnswered(children)) {
+          return {};
+        }
+        const auto states = statesIn(state);
+        if ((states & focused) != 0) {
+          QJsonObject json;
+          std::vector<Node> unused;
+          if (!WholeNode(bus_, nodes[i], roles_).answer(roles_, json, unused)) {
+            return {};
+          }
+          found.append(json);
+        }
+        for (auto& child : childrenIn(children, states)) {
+          if (!roles_.isText(child)) {
+            below.push_back(std::move(child));
+          }
+        }
+      }
+      nodes = std::move(below);
+    }
+    return QJsonDocument(found);
+  }
+
+ private:
+  /// The nodes at one depth, in order, and what they answered.
+  struct Level {
+    std::vector<Node> nodes;
+    std::vector<std::size_t> parents;
+    std::vector<QJsonObject> answers;
+  };
+
+  /// False if a node was removed.
+  [[nodiscard]] bool readLevel(Level& level, Level& below) {
     std::vector<WholeNode> asked;
-    asked.reserve(nodes.size());
-    for (const auto& node : nodes) {
+    asked.reserve(level.nodes.size());
+    for (const auto& node : level.nodes) {
       asked.emplace_back(bus_, node, roles_);
     }
     for (auto& node : asked) {
       QJsonObject json;
-      std::vector<Node> below;
-      QJsonArray children;
-      if (!node.answer(roles_, json, below) || !readTrees(below, children)) {
+      std::vector<Node> children;
+      if (!node.answer(roles_, json, children)) {
         return false;
       }
-      json.insert("children", children);
-      trees.append(json);
+      below.parents.insert(below.parents.end(), children.size(), level.answers.size());
+      below.nodes.insert(below.nodes.end(), children.begin(), children.end());
+      level.answers.push_back(json);
     }
     return true;
   }
 
-  /// The focused ones among the nodes and everything below them. False if one was
-  /// removed.
-  [[nodiscard]] bool findFocus(std::vector<Node> nodes, QJsonArray& found) {
-    nodes.erase(std::remove_if(nodes.begin(), nodes.end(),
-                               [this](const auto& node) { return roles_.isText(node); }),
-                nodes.end());
-    std::vector<std::pair<QDBusPendingCall, QDBusPendingCall>> asked;
-    asked.reserve(nodes.size());
-    for (const auto& node : nodes) {
-      asked.emplace_back(node.ask(bus_, accessible, "GetState"),
-                         node.ask(bus_, accessible, "GetChildren"));
-    }
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-      auto& [state, children] = asked[i];
-      if (!isAnswered(state) || !isAnswered(children)) {
-        return false;
+  /// The answers of all levels as one tree. The last level is empty.
+  static QJsonObject joined(std::vector<Level>& levels) {
+    for (auto depth = levels.size() - 1; depth > 0; --depth) {
+      std::vector<QJsonArray> children(levels[depth - 1].nodes.size());
+      for (std::size_t i = 0; i < levels[depth].nodes.size(); ++i) {
+        children[levels[depth].parents[i]].append(levels[depth].answers[i]);
       }
-      const auto states = statesIn(state);
-      if ((states & focused) != 0) {
-        QJsonObject json;
-        std::vector<Node> below;
-        if (!WholeNode(bus_, nodes[i], roles_).answer(roles_, json, below)) {
-          return false;
-        }
-        found.append(json);
-      }
-      if (!findFocus(childrenIn(children, states), found)) {
-        return false;
+      for (std::size_t i = 0; i < children.size(); ++i) {
+        levels[depth - 1].answers[i].insert("children", children[i]);
       }
     }
-    return true;
+    return levels.front().answers.front();
   }
 
- private:
   QDBusConnection bus_;
   Roles roles_;
 };
@@ -229,11 +268,8 @@ int main(int argc, char* argv[]) {
   std::string name;
   std::string path;
   while (std::cin >> wanted >> name >> path) {
-    const std::vector<Node> root{{QString::fromStdString(name), QString::fromStdString(path)}};
-    QJsonArray json;
-    if (wanted == "focus" ? reader.findFocus(root, json) : reader.readTrees(root, json)) {
-      std::cout << QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString();
-    }
-    std::cout << std::endl;
+    const Node root{QString::fromStdString(name), QString::fromStdString(path)};
+    const auto json = wanted == "focus" ? reader.findFocus(root) : reader.readTree(root);
+    std::cout << json.toJson(QJsonDocument::Compact).toStdString() << std::endl;
   }
 }
