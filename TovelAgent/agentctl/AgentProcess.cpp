@@ -56,9 +56,4 @@ bool probeAgentProcess(boost::system::error_code& error) {
   return status && *status == 0;
 }
 
-bool probeAgentProcess() {
-  boost::system::error_code ignored;
-  return probeAgentProcess(ignored);
-}
-
 }  // namespace quillmark

@@ -52,7 +52,4 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// when the shell cannot be run. Blocks the calling thread.
 [[nodiscard]] bool probeAgentProcess(boost::system::error_code& error);
 
-/// The same, for callers that do not need the reason.
-[[nodiscard]] bool probeAgentProcess();
-
 }  // namespace quillmark

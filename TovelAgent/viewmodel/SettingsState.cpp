@@ -93,7 +93,8 @@ void SettingsState::checkAgentStatusLater(int milliseconds) {
                          state->checkAgentStatus();
                          Q_EMIT state->agentProbed();
                        } else {
-                         static_cast<void>(probeAgentProcess());
+                         boost::system::error_code ignored;
+                         static_cast<void>(probeAgentProcess(ignored));
                        }
                      });
 }
