@@ -38,10 +38,11 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// file name.
 [[nodiscard]] Command probeCommand();
 
-/// Starts the agent of this program's bundle and does not wait for it. Returns an error
-/// only when the shell cannot be started, `unquotablePath` when the bundle's path
-/// contains a single quote, or `commandInPath` when the shell could run a part of the
-/// home path. Any thread, as long as no thread changes the environment at the same time.
+/// Starts the agent of this program's bundle and does not wait for it, so an agent that
+/// fails to start is not an error. Returns `unquotablePath` when the bundle's path
+/// contains a single quote, `commandInPath` when the shell could run a part of the home
+/// path, and the system's error when the shell cannot be started. Any thread, as long as
+/// no thread changes the environment at the same time.
 [[nodiscard]] boost::system::error_code startAgentProcess();
 
 /// Runs the stop command to its end; finding no agent is not an error. Returns an

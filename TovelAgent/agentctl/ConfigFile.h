@@ -25,7 +25,7 @@ namespace quillmark {
 struct ImportResult {
   enum class Outcome { imported, missingAgentSection, failed };
   Outcome outcome = Outcome::failed;
-  boost::system::error_code error;  ///< set when it failed
+  boost::system::error_code error;  ///< set when the outcome is `failed`
 };
 
 /// Replaces the configuration with an exact copy of the file at `source`, which

@@ -10,7 +10,7 @@
 
 namespace quillmark {
 
-/// A configuration's two values that users type.
+/// The two values of a configuration that users enter.
 struct ConfigEntries {
   std::optional<std::string> apiKey;     ///< also absent when empty or a placeholder
   std::optional<std::string> serverUrl;  ///< also absent when empty
@@ -18,10 +18,10 @@ struct ConfigEntries {
   friend bool operator==(const ConfigEntries&, const ConfigEntries&) = default;
 };
 
-/// Finds the two values in the lines of `text`, in any section; the last usable
-/// one of each is taken. Not a TOML parser: every line that begins with "api_key" or
-/// "server_url" counts, `api_keys = …` too, and a second "=" in the line ends the
-/// value. Any thread.
+/// Finds the two values in the lines of `text`, in any section. Of several values of one
+/// kind, the last one is taken that is neither empty nor a placeholder. Not a TOML parser:
+/// every line that begins with "api_key" or "server_url" counts, `api_keys = …` too, and a
+/// second "=" in the line ends the value. Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);
 
 /// Whether `key` is a placeholder for a real key; placeholders are not read back.
