@@ -11,8 +11,8 @@ namespace quillmark {
 /// The folder of a bundle's programs, to append to the bundle's path.
 inline constexpr std::string_view programsInBundle = "/Contents/MacOS";
 
-/// The path of the application bundle that contains `executable`, an absolute
-/// path: `X` for `X/Contents/MacOS/name`, otherwise the executable's folder.
+/// The path of the application bundle that contains the program at the absolute path
+/// `executable`: `X` for `X/Contents/MacOS/name`, otherwise the program's folder.
 /// Without a trailing slash. Any thread.
 [[nodiscard]] std::string bundlePathOf(const std::string& executable);
 

@@ -57,6 +57,7 @@ class SpawnSetup final {
       arguments.push_back(const_cast<char*>(argument.c_str()));
     }
     arguments.push_back(nullptr);
+    // The child inherits this process's limit: posix_spawn cannot set one.
     const InitialDescriptorLimit limitOfChild;
     const int error = posix_spawn(&child, command.executable.c_str(), &actions_, &attributes_,
                                   arguments.data(), environ);
@@ -69,8 +70,8 @@ class SpawnSetup final {
   short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
-/// Stops ignoring SIGCHLD, which this program may inherit: while it is ignored, the
-/// system keeps no exit statuses.
+/// Sets SIGCHLD to its default if this program was started with SIGCHLD ignored: the
+/// system would keep no exit statuses.
 void keepExitStatuses() {
   struct sigaction current {};
   if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {
@@ -88,7 +89,8 @@ boost::system::result<int> waitFor(pid_t child) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-/// Leaves no zombie, and does not wait if a thread is available.
+/// Waits for `child` on another thread, so that it leaves no zombie; on this thread if
+/// none can be created.
 void waitInBackground(pid_t child) {
   try {
     std::thread([child] { static_cast<void>(waitFor(child)); }).detach();

@@ -22,8 +22,8 @@ namespace quillmark {
 /// other descriptor of this process.
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
 
-/// Waits until `child` has ended, but not longer than `limit`; then returns false.
-/// Leaves its exit status to be collected.
+/// Waits for `child` to end, at most for `limit`. False if it is still running then. True
+/// at once if no descriptor is free. Does not collect the exit status.
 [[nodiscard]] bool endsWithin(pid_t child, std::chrono::milliseconds limit);
 
 /// Makes the system write no core dump of this process whatever the limits are. Also

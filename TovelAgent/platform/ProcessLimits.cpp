@@ -13,8 +13,8 @@ namespace quillmark {
 namespace {
 
 std::optional<rlim_t> initialDescriptors;
-// Locked while the limit is lowered: of two threads that start a child at once, the
-// second would take the lowered limit for the one to restore.
+// Locked while the limit is lowered. Otherwise a second thread that starts a child would
+// read the lowered limit and restore that one at the end.
 std::mutex loweredLimit;
 
 rlimit limitOf(int resource) {
@@ -32,8 +32,8 @@ bool setSoftLimit(int resource, rlimit limit, rlim_t soft) {
 }  // namespace
 
 void disableCoreDumps() {
-  // With a limit of 0, Linux would still pass a dump to a crash reporter. A limit of 1 is
-  // its sign to pass none, and no file is that small.
+  // Linux passes a dump to a crash reporter even if the limit is 0, but not if it is 1. A
+  // dump to a file does not fit into one byte.
   if (!setSoftLimit(RLIMIT_CORE, limitOf(RLIMIT_CORE), 1)) {
     makeUndumpable();
   }

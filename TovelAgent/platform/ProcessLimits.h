@@ -20,15 +20,16 @@ void reportFileSizeLimit();
 /// maximum that the system allows. Call before threads start.
 void raiseDescriptorLimit();
 
-/// Whether the socket `descriptor`, which was just opened, may stay open. False if it
-/// is one of the last descriptors that the limit allows: these are reserved for files
-/// and windows, however many requests an agent keeps waiting. Any thread.
+/// Whether enough descriptors are left for files and windows, after the socket
+/// `descriptor` was opened. If not, close it: an agent may keep many requests waiting.
+/// Any thread.
 [[nodiscard]] bool leavesDescriptors(int descriptor);
 
-/// While it exists, the limit of descriptors is what it was before
-/// `raiseDescriptorLimit`, for a child to inherit: programs that use `select()` may
-/// fail with a higher one. The limit holds for the whole process, so other threads may
-/// fail to open files meanwhile, and a second instance waits for the first. Any thread.
+/// While it exists, the limit of descriptors is again what it was before
+/// `raiseDescriptorLimit`. Create it to start a child, which inherits the limit: programs
+/// that use `select()` may fail with a higher one. The limit is that of the whole process,
+/// so other threads may fail to open files meanwhile, and a second instance waits for the
+/// first. Any thread.
 class InitialDescriptorLimit final {
  public:
   InitialDescriptorLimit();
