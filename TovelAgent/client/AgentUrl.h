@@ -20,9 +20,9 @@ inline constexpr std::string_view alertsPath = "/api/alerts";
 inline constexpr std::string_view networkPath = "/api/network";
 inline constexpr std::string_view inventoryPath = "/api/inventory";
 
-/// A request to `url`, an http URL with a path; method and token are empty. No
-/// value without an IPv4 address and a port; host names are never looked up. Any
-/// thread.
+/// The request for `url`, an http URL with an IPv4 address, a port and a path; the caller
+/// sets the method and the token. No value for any other host, because names are never
+/// looked up, or without a port. Any thread.
 [[nodiscard]] std::optional<HttpRequest> requestTo(const std::string& url);
 
 }  // namespace quillmark

@@ -41,8 +41,8 @@ void AnswerReader::parse(std::size_t count) {
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
-    // The bytes of a line that is not complete yet. The limit counts them with the
-    // header, and alone after it: for the size line of a chunk and for trailers.
+    // The bytes of a line that is not complete yet. In the header they count as part of it;
+    // after it the limit applies to them alone: to a chunk's size line and to trailers.
     const std::size_t incomplete = needsMore ? buffer_.size() : 0;
     if (headerSize_ + incomplete > limits_.headerBytes || exceedsLimit(error)) {
       failure_ = HttpFailure::tooLarge;

@@ -4,7 +4,6 @@
 #include "client/HttpExchange.h"
 
 #include <cstddef>
-#include <utility>
 
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/this_coro.hpp>
@@ -47,7 +46,7 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   if (error) {
     co_return failureOf(error, HttpFailure::notConnected);
   }
-  // Only now, because connecting opens the socket.
+  // Not earlier, because connecting opens the socket.
   if (!leavesDescriptors(stream.socket().native_handle())) {
     co_return HttpFailure::notConnected;
   }

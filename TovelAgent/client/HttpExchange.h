@@ -26,7 +26,7 @@ struct HttpRequest {
 struct HttpLimits {
   /// From connecting to the answer's last byte.
   std::chrono::steady_clock::duration time = std::chrono::seconds(60);
-  std::uint32_t headerBytes = 64 * 1024;  ///< also for chunk size and trailer lines
+  std::uint32_t headerBytes = 64 * 1024;  ///< also of a chunk's size line, and of trailers
   std::uint64_t bodyBytes = std::uint64_t{64} * 1024 * 1024;
 };
 

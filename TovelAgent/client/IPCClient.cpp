@@ -74,7 +74,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Such as `std::bad_alloc`.
+    // Out of memory, for example: every failure is no value.
     co_return std::nullopt;
   }
 }

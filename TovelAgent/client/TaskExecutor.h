@@ -8,9 +8,9 @@
 
 namespace quillmark {
 
-/// The process's general-purpose executor, on which all network work runs. It must have
-/// only one thread, because `exchange` needs an executor that runs one handler at a
-/// time. One is enough: waiting tasks do not occupy it, and no code blocks on a task.
+/// The process's general-purpose executor, on which all network work runs. It has only
+/// one thread, because `exchange` needs an executor that runs one handler at a time. One
+/// is enough: a task that waits does not occupy it, and no task blocks it.
 ///
 /// Only one instance exists at a time: the entry point creates it before the panel, and
 /// destroys it when the event loop has ended. The destructor waits for the handlers

@@ -12,11 +12,11 @@
 
 namespace quillmark {
 
-/// What is on the machine; the body of "/api/inventory".
+/// The machine's software and interfaces; the body of "/api/inventory".
 struct InventoryData {
   std::vector<InstalledApp> apps;
   std::vector<std::string> services;            ///< names of running services
-  std::vector<std::string> network_interfaces;  ///< names of interfaces
+  std::vector<std::string> network_interfaces;  ///< their names
   std::vector<std::string> permissions;         ///< what the agent may do
 
   static constexpr auto fields =

@@ -20,8 +20,8 @@ struct NetworkConnection {
   std::string local_port;
   std::string remote_address;
   std::string remote_port;
-  std::string state;                      ///< the state's name, free text
-  std::optional<std::string> pid;         ///< the owning process
+  std::string state;                      ///< free text, such as "ESTABLISHED"
+  std::optional<std::string> pid;         ///< id of the process that owns the socket
   std::optional<std::string> risk_level;  ///< free text
 
   static constexpr auto fields =
