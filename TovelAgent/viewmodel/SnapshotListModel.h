@@ -53,9 +53,9 @@ class SnapshotListModel final : public ListModel {
   // Comparing more rows than this takes longer than updating all visible rows.
   static constexpr int maxComparedRows = 2'000;
 
-  /// Announces the range of changed rows among the first `common`, or all of these if
-  /// there are too many to compare. Searching from both ends is very cheap when all
-  /// rows differ.
+  /// Signals the range of changed rows among the first `common`, or all of these if
+  /// there are too many to compare. The search from both ends ends at once when all rows
+  /// differ.
   void announceChanges(const std::vector<Row>& old, int common) {
     if (common > maxComparedRows) {
       Q_EMIT dataChanged(index(0), index(common - 1));

@@ -15,8 +15,8 @@
 
 namespace quillmark {
 
-/// What a screen reader announces of the header: how it differs from what the user was
-/// told before. Polls that change nothing are not news. UI thread only.
+/// Announces changes of the header to screen readers: each announcement says how the
+/// header differs from the one announced before. UI thread only.
 class StatusNews : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -28,10 +28,12 @@ class StatusNews : public QObject {
 
   void setViewModel(DashboardViewModel* viewModel);
 
-  /// While the user does not listen, news wait; then only the difference is told.
+  /// True while the user can hear announcements. When it becomes true again, one
+  /// announcement says what has changed meanwhile.
   void setListening(bool isListening);
 
  Q_SIGNALS:
+  /// To be announced now.
   void told(const QString& text);
 
  private:
@@ -40,10 +42,11 @@ class StatusNews : public QObject {
   QPointer<DashboardViewModel> viewModel_;
   bool isListening_ = false;
   bool hasPolled_ = false;
-  std::optional<StatusPresentation> told_;
+  std::optional<StatusPresentation> told_;  ///< announced last
 };
 
-/// How `now` differs from `before`, which has no value at first; empty if it does not.
+/// The announcement of the change from `before`, which has no value at first, to `now`.
+/// Empty if there is nothing to announce.
 [[nodiscard]] QString newsBetween(const std::optional<StatusPresentation>& before,
                                   const StatusPresentation& now);
 
