@@ -33,7 +33,7 @@ class SnapshotListModel final : public ListModel {
     const int after = static_cast<int>(std::min(rows->size(), maxRows_));
     replaceRows(after, [&] { std::swap(rows_, rows); });
     // `rows` now holds the old rows.
-    announceChanges(*rows, std::min(before, after));
+    signalChanges(*rows, std::min(before, after));
     if (after != before) {
       Q_EMIT countChanged();
     }
@@ -56,7 +56,7 @@ class SnapshotListModel final : public ListModel {
   /// Signals the range of changed rows among the first `common`, or all of these if
   /// there are too many to compare. The search from both ends ends at once when all rows
   /// differ.
-  void announceChanges(const std::vector<Row>& old, int common) {
+  void signalChanges(const std::vector<Row>& old, int common) {
     if (common > maxComparedRows) {
       Q_EMIT dataChanged(index(0), index(common - 1));
       return;

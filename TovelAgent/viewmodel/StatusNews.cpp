@@ -39,25 +39,25 @@ void StatusNews::setViewModel(DashboardViewModel* viewModel) {
   if (viewModel_) {
     connect(viewModel_, &DashboardViewModel::statusChanged, this, [this] {
       hasPolled_ = true;
-      tell();
+      announceChange();
     });
   }
 }
 
-void StatusNews::setListening(bool isListening) {
-  isListening_ = isListening;
-  tell();
+void StatusNews::setWindowActive(bool isWindowActive) {
+  isWindowActive_ = isWindowActive;
+  announceChange();
 }
 
-void StatusNews::tell() {
-  if (!isListening_ || !hasPolled_ || !viewModel_) {
+void StatusNews::announceChange() {
+  if (!isWindowActive_ || !hasPolled_ || !viewModel_) {
     return;
   }
   const auto now = viewModel_->statusPresentation();
-  const auto news = newsBetween(told_, now);
-  told_ = now;
+  const auto news = newsBetween(announced_, now);
+  announced_ = now;
   if (!news.isEmpty()) {
-    Q_EMIT told(news);
+    Q_EMIT announced(news);
   }
 }
 

@@ -21,28 +21,27 @@ class StatusNews : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(quillmark::DashboardViewModel* viewModel MEMBER viewModel_ WRITE setViewModel REQUIRED)
-  Q_PROPERTY(bool isListening MEMBER isListening_ WRITE setListening)
+  Q_PROPERTY(bool isWindowActive MEMBER isWindowActive_ WRITE setWindowActive)
 
  public:
   using QObject::QObject;
 
   void setViewModel(DashboardViewModel* viewModel);
 
-  /// True while the user can hear announcements. When it becomes true again, one
+  /// Nothing is announced while the window is not active. When it is active again, one
   /// announcement says what has changed meanwhile.
-  void setListening(bool isListening);
+  void setWindowActive(bool isWindowActive);
 
  Q_SIGNALS:
-  /// To be announced now.
-  void told(const QString& text);
+  void announced(const QString& text);
 
  private:
-  void tell();
+  void announceChange();
 
   QPointer<DashboardViewModel> viewModel_;
-  bool isListening_ = false;
+  bool isWindowActive_ = false;
   bool hasPolled_ = false;
-  std::optional<StatusPresentation> told_;  ///< announced last
+  std::optional<StatusPresentation> announced_;  ///< last; no value at first
 };
 
 /// The announcement of the change from `before`, which has no value at first, to `now`.

@@ -54,8 +54,8 @@ Item {
 
     StatusNews {
         viewModel: root.viewModel
-        isListening: root.Window.active
-        onTold: text => announcer.announce(text)
+        isWindowActive: root.Window.active
+        onAnnounced: text => announcer.announce(text)
     }
 
     Rectangle {
