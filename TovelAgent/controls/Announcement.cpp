@@ -12,7 +12,7 @@ void Announcement::announce(const QString& text) {
     return;
   }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  // Polite by default: it waits for what is being said.
+  // Polite by default: the screen reader first finishes what it is saying.
   QAccessibleAnnouncementEvent event(this, text);
 #else
   text_ = text;

@@ -9,10 +9,10 @@
 
 namespace quillmark {
 
-/// A text that a screen reader says without a move of the keyboard focus. Before Qt 6.8,
-/// which has an event for that, the item itself must be in the accessibility tree, as a
-/// notification with `text` as its name: screen readers read a notification when it
-/// appears. UI thread only.
+/// Makes a screen reader say a text without a move of the keyboard focus. Qt 6.8 and later
+/// have an event for that. With an older Qt, the item must be in the accessibility tree as
+/// a notification with `text` as its name, because screen readers read a notification when
+/// it appears. UI thread only.
 class Announcement : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT

@@ -15,8 +15,8 @@ Item {
         next = (next + 1) % announcements.count;
     }
 
-    // A screen reader reads the text some time after it was told of it, so texts in
-    // quick succession need an item each.
+    // A screen reader asks for an item's text some time after it appears, so texts in
+    // quick succession need separate items.
     Repeater {
         id: announcements
 

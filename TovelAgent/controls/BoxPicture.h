@@ -21,9 +21,8 @@ struct BoxLook {
   bool operator==(const BoxLook&) const = default;
 };
 
-/// The measures, not the pixels, of the smallest nine-patch picture of a box:
-/// stretching the part between its corners gives any larger size. All lengths are
-/// device pixels.
+/// The dimensions of the smallest nine-patch image of a box: stretching the part between
+/// its corners gives any larger size. All lengths are device pixels.
 struct BoxPicture {
   BoxPicture(const BoxLook& look, QSize box);
 
@@ -32,7 +31,7 @@ struct BoxPicture {
   int reach = 0;     ///< how far the picture extends beyond the box on each side
 };
 
-/// Draws the pixels of `picture`, in the given look. Any thread.
+/// Draws the image whose dimensions are `picture`. Any thread.
 [[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPicture& picture);
 
 }  // namespace quillmark

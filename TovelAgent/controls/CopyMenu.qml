@@ -70,7 +70,7 @@ Loader {
                     menu.chosen(); // qmllint disable unqualified
                     menu.close(); // qmllint disable unqualified
                 }
-                // Also when another item or window gets the focus.
+                // The menu also closes when another item or window gets the focus.
                 onActiveFocusChanged: {
                     if (!activeFocus)
                         menu.close(); // qmllint disable unqualified

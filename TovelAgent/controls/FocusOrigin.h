@@ -25,7 +25,7 @@ class FocusOrigin : public QObject {
   void setTarget(QQuickItem* target);
 
   [[nodiscard]] bool fromPointer() const { return fromPointer_; }
-  /// For a move inside the target, which is no focus event.
+  /// Call for a move inside the target, which causes no focus event.
   void setFromPointer(bool fromPointer);
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;

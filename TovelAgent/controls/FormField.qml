@@ -30,8 +30,8 @@ Column {
         width: parent.width
         spacing: 4
 
-        // Qt gives a masked field no name, so the label is that of a group around it. Not the
-        // root: Qt treats the property `value` of an accessible item as a number.
+        // Qt gives a masked field no name, so a group around it has the label as its name. Not
+        // the root item: Qt treats the property `value` of an accessible item as a number.
         Accessible.role: Accessible.Grouping
         Accessible.name: field.label
         Accessible.ignored: field.echoMode === TextInput.Normal
@@ -57,8 +57,8 @@ Column {
                 property string text: displayText
 
                 readonly property bool isMasked: echoMode !== TextInput.Normal
-                // The text for a screen reader that does not read it from the field. Not while the
-                // user types, or every change would be spoken.
+                // For a screen reader that does not read the text from the field. Set only when the
+                // focus changes: while the user types, every change would be spoken.
                 property string textAtFocus: ""
 
                 onActiveFocusChanged: textAtFocus = ScreenReader.readsFieldTexts ? "" : displayText

@@ -7,10 +7,9 @@
 
 namespace quillmark {
 
-/// Draws the icons of symbolic names. The id is the name followed by the
-/// colour, as in `gear#0b5fd9`; the image has the requested size, or the drawing's, in
-/// device pixels. For an unknown name the image is null, and QML prints a
-/// warning. Any thread.
+/// Draws icons by their symbolic names. The id is the name followed by the colour, as in
+/// `gear#0b5fd9`. The image has the requested size in device pixels, or the drawing's own
+/// size. For an unknown name the image is null, and QML prints a warning. Any thread.
 class IconProvider final : public QQuickImageProvider {
  public:
   IconProvider() : QQuickImageProvider(Image) {}

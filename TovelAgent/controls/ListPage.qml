@@ -19,7 +19,7 @@ FocusScope {
     property string emptyText: ""
     readonly property bool isEmpty: model.count === 0
 
-    /// For a screen reader.
+    /// A screen reader should say `text`.
     signal announced(string text)
 
     Loader {

@@ -42,7 +42,8 @@ bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
   return Scroller::eventFilter(watched, event);
 }
 
-// The view follows the position only when a key moves it: it must not move with polls.
+// Does nothing: the view scrolls to the reading position only when a key has moved it,
+// because it must not move with polls.
 void ListScroller::followFocus() {}
 
 bool ListScroller::handleKey(int key) {
@@ -60,7 +61,7 @@ bool ListScroller::readAt(qreal y) {
   }
   const qreal before = position();
   target()->setProperty("currentIndex", index);
-  // ListView scrolls a row that is cut off into view.
+  // Undoes what ListView does: it scrolls a row that is cut off into view.
   scrollTo(before);
   return true;
 }
@@ -76,7 +77,7 @@ int ListScroller::current() const { return target()->property("currentIndex").to
 
 int ListScroller::last() const { return target()->property("count").toInt() - 1; }
 
-/// Null if it is far from the view and not the current one.
+/// Null if ListView has not created it: if it is neither in view nor the current one.
 QQuickItem* ListScroller::row(int index) const {
   QQuickItem* item = nullptr;
   QMetaObject::invokeMethod(target(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
@@ -119,7 +120,7 @@ void ListScroller::moveByLine(int direction) {
   const auto height = target()->height();
   const bool isInView = place.bottom() > 0 && place.top() < height;
   if (!isInView) {
-    // Where the pointer has scrolled to.
+    // The user has scrolled away from it by pointer: continue with what is in view.
     moveTo(direction > 0 ? firstInView() : rowAt(height - 1));
   } else if (fillsView(current()) &&
              (direction > 0 ? place.bottom() > height + 1 : place.top() < -1)) {

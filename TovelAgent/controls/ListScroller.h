@@ -33,7 +33,7 @@ class ListScroller : public quillmark::Scroller {
   void movedByKey();
   void movedByPointer();
   void copied();
-  /// By the Menu key or Shift+F10.
+  /// The Menu key or Shift+F10 was pressed.
   void menuRequested();
 
  protected:

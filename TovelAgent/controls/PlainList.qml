@@ -12,8 +12,8 @@ ListView {
 
     required property string label
 
-    /// The number of rows when the reading position last moved. A screen reader would
-    /// speak every change of it.
+    /// The number of rows when the reading position last moved. Not kept up to date,
+    /// because a screen reader would speak every change.
     property int spokenCount: 0
 
     signal copied

@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// What screen readers make of Qt's controls. UI thread only.
+/// What screen readers can do with this version of Qt. UI thread only.
 class ScreenReader : public QObject {
   Q_OBJECT
   QML_ELEMENT

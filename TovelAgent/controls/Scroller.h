@@ -43,7 +43,7 @@ class Scroller : public QObject {
  protected:
   /// Scrolls to the item that got the focus.
   virtual void followFocus();
-  /// False if the key has no meaning.
+  /// False if the key does not scroll.
   [[nodiscard]] virtual bool handleKey(int key);
   /// What the keys do; `direction` is 1 for down and -1 for up.
   virtual void moveByLine(int direction) { scrollLines(direction); }
