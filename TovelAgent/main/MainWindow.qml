@@ -18,7 +18,7 @@ Window {
     // Qt's own file dialog uses this colour, meant for a strong background, on a
     // pale one: its selected row would be white on light blue.
     palette.highlightedText: Theme.text
-    // And its disabled controls would be light gray on a lighter gray.
+    // Without this, its disabled controls would be light gray on a lighter gray.
     palette.disabled.buttonText: Theme.gray
 
     ContentView {

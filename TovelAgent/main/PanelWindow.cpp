@@ -78,8 +78,8 @@ void PanelWindow::present() {
 
 void PanelWindow::layOut() {
   if (!std::exchange(isLaidOut_, true)) {
-    // On completion Qt applies the `visible` that was last set from QML or here. Until
-    // now that is false, QML's default, which would hide the window again.
+    // On completion Qt applies the value of `visible` that was last set as a property. So
+    // far that is QML's default, false, which would hide the window again.
     window_->setProperty("visible", window_->isVisible());
     component_.completeCreate();
   }

@@ -21,7 +21,8 @@ std::string variable(const char* name) {
   return value != nullptr ? value : "";
 }
 
-/// Whether the bus lets this process connect and then does not even authenticate it.
+/// Whether the bus accepts the connection but does not answer in time, not even to
+/// authenticate this process.
 bool isSilent(const std::string& address) {
   DBusConnection* const bus = dbus_connection_open_private(address.c_str(), nullptr);
   if (bus == nullptr) {
@@ -55,7 +56,7 @@ std::string sessionBusAddress() {
 void avoidSilentSessionBus() {
   const auto address = sessionBusAddress();
   if (!address.empty() && isSilent(address)) {
-    // No library has a transport of this name, so that each fails at once.
+    // No library knows a transport of this name, so connecting fails at once.
     setenv(addressVariable, "disabled:", 1);
   }
 }

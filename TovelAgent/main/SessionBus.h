@@ -11,10 +11,10 @@ namespace quillmark {
 /// one. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::string sessionBusAddress();
 
-/// Makes this process, and the programs that it starts, do without the session bus if that
-/// accepts connections but answers nothing, as a stopped one does: Qt and others wait for
-/// it without a limit. Takes two and a half seconds then, and otherwise a millisecond.
-/// Call before Qt is set up and before threads start.
+/// Makes this process, and the programs that it starts, do without the session bus if it
+/// accepts connections but does not answer, as a bus that is stopped by a signal: Qt and
+/// other libraries would wait for it without a limit. Then takes two and a half seconds,
+/// otherwise a millisecond. Call before Qt is set up and before threads start.
 void avoidSilentSessionBus();
 
 }  // namespace quillmark

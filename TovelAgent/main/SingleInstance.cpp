@@ -26,7 +26,7 @@ const auto interfaceName = QStringLiteral("org.freedesktop.Application");
 const auto quitAction = QStringLiteral("quit");
 const auto activationToken = QStringLiteral("activation-token");
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
-// Tokens of desktops have about 40.
+// The tokens of desktops have about 40 bytes.
 constexpr int maxActivationTokenBytes = 1024;
 
 /// A call to the panel that owns the name; does not start one if there is none.
@@ -102,7 +102,7 @@ void SingleInstance::Activate(const QVariantMap& platformData) {
     qputenv(activationVariable, token);
   }
   Q_EMIT activated();
-  // It is valid once, and programs that the panel starts would inherit it.
+  // The token is valid only once, and programs that the panel starts would inherit it.
   qunsetenv(activationVariable);
 }
 

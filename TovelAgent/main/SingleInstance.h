@@ -20,8 +20,8 @@ class SingleInstance final : public QObject {
  public:
   inline static const QString applicationId = QStringLiteral("org.quillmark.Agent");
 
-  /// True if another panel took over this launch. Otherwise this one listens for later
-  /// launches, if it got the name.
+  /// True if a running panel has taken over this launch. Otherwise this process listens for
+  /// later launches, if the name was free.
   [[nodiscard]] bool handOverOrListen();
 
   /// Asks the session's panel to end. False if there is none, or if it does not

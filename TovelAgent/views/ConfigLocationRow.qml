@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// One path where the agent looks for a configuration file.
+/// One path where a configuration of the agent may be.
 Box {
     id: row
 

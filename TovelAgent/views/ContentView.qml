@@ -24,14 +24,14 @@ Item {
 
     readonly property bool onScreen: Window.visibility !== Window.Hidden
 
-    /// Selects a tab that the user chose. Its content gets the keyboard focus if that of
-    /// the tab before had it.
+    /// Selects a tab that the user chose. Its content gets the keyboard focus if the
+    /// previous tab's content had it.
     function showTab(identifier: string) {
         if (identifier === selectedTab)
             return;
         const hadFocus = content.activeFocus;
-        // The tab bar says it itself. Before the focus moves, so that a screen reader says
-        // last what has the focus.
+        // While the focus is in the tab bar, a screen reader says the tab without this.
+        // Before the focus moves, so that it says last what has the focus.
         if (tabBar.focusedIndex() < 0)
             announcer.announce(tabs.find(tab => tab.identifier === identifier).title + " tab");
         selectedTab = identifier;
@@ -109,7 +109,7 @@ Item {
 
             Connections {
                 target: content.item
-                // The dashboard announces nothing.
+                // The dashboard has no such signal.
                 ignoreUnknownSignals: true
 
                 function onAnnounced(text) {

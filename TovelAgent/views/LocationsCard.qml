@@ -10,7 +10,7 @@ SectionCard {
     icon: "folder"
     title: "Config File Locations"
 
-    // Of a grouping, Orca 43 would first read some of the rows' texts together.
+    // Not Grouping: Orca 43 would first read some of the rows' texts together.
     Accessible.role: Accessible.List
 
     ConfigLocationRow {

@@ -10,7 +10,7 @@ import Quillmark.ViewModel
 FocusScope {
     id: tab
 
-    /// For a screen reader.
+    /// A screen reader should say `text`.
     signal announced(string text)
 
     Rectangle {

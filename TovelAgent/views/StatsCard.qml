@@ -33,7 +33,7 @@ Item {
         anchors.fill: parent
         activeFocusOnTab: true
 
-        // Not a grouping, of which Orca 48 says description or texts twice.
+        // Not Grouping: Orca 48 would say the description or the texts twice.
         Accessible.role: Accessible.Section
         Accessible.name: card.title + ": " + card.value
         Accessible.focusable: true

@@ -27,7 +27,7 @@ Item {
         anchors.fill: parent
         activeFocusOnTab: true
 
-        // Not a grouping, of which Orca 48 says description or texts twice.
+        // Not Grouping: Orca 48 would say the description or the texts twice.
         Accessible.role: Accessible.Section
         Accessible.name: badge.title + ": " + badge.value
         Accessible.description: badge.isHealthy ? "Healthy" : "Needs attention"
