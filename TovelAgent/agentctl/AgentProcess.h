@@ -45,12 +45,12 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// no thread changes the environment at the same time.
 [[nodiscard]] boost::system::error_code startAgentProcess();
 
-/// Runs the stop command to its end; finding no agent is not an error. Returns an
-/// error when the command cannot be started. Blocks the calling thread.
+/// Runs the stop command to its end; finding no agent is not an error. Returns the error
+/// of `runSilently`. Blocks the calling thread.
 [[nodiscard]] boost::system::error_code stopAgentProcess();
 
-/// Whether the probe command finds an agent; false, with the reason in `error`,
-/// when the shell cannot be run. Blocks the calling thread.
+/// Whether the probe command finds an agent. False, with the error of `runSilently` in
+/// `error`, when the command fails to run. Blocks the calling thread.
 [[nodiscard]] bool probeAgentProcess(boost::system::error_code& error);
 
 }  // namespace quillmark
