@@ -42,6 +42,9 @@ Item {
 
     ClickArea {
         anchors.fill: parent
+        // A finger needs 32 pixels, also where the layout gives less.
+        anchors.topMargin: Math.min(0, (pressable.height - 32) / 2)
+        anchors.bottomMargin: anchors.topMargin
         onClicked: {
             if (pressable.takesFocus)
                 pressable.forceActiveFocus(Qt.MouseFocusReason);

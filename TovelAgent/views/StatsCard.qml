@@ -25,19 +25,9 @@ Item {
         color: Theme.white
     }
 
-    // The root is not accessible: Qt treats the property `value` of an accessible
-    // item as a number that can be set.
-    Item {
-        id: accessibleItem
-
+    SpokenItem {
         anchors.fill: parent
-        activeFocusOnTab: true
-
-        // Not Grouping: Orca 48 would say the description or the texts twice.
-        Accessible.role: Accessible.Section
-        Accessible.name: card.title + ": " + card.value
-        Accessible.focusable: true
-        Accessible.focused: activeFocus
+        label: card.title + ": " + card.value
 
         Column {
             id: texts
@@ -58,10 +48,6 @@ Item {
                 font.weight: Font.Bold
                 color: Theme.blue
             }
-        }
-
-        FocusRing {
-            target: accessibleItem
         }
     }
 }

@@ -19,20 +19,11 @@ Item {
     implicitWidth: Math.max(titleLabel.width, line.spacing + dot.width + valueLabel.naturalWidth)
     implicitHeight: column.height
 
-    // The root is not accessible: Qt treats the property `value` of an accessible
-    // item as a number that can be set.
-    Item {
-        id: accessibleItem
-
+    SpokenItem {
         anchors.fill: parent
-        activeFocusOnTab: true
-
-        // Not Grouping: Orca 48 would say the description or the texts twice.
-        Accessible.role: Accessible.Section
-        Accessible.name: badge.title + ": " + badge.value
-        Accessible.description: badge.isHealthy ? "Healthy" : "Needs attention"
-        Accessible.focusable: true
-        Accessible.focused: activeFocus
+        label: badge.title + ": " + badge.value
+        description: badge.isHealthy ? "Healthy" : "Needs attention"
+        focusInset: -5
 
         Column {
             id: column
@@ -70,11 +61,6 @@ Item {
                     size: 14
                 }
             }
-        }
-
-        FocusRing {
-            target: accessibleItem
-            inset: -5
         }
     }
 }

@@ -40,6 +40,15 @@ def test_glyph(panel):
     until(lambda: "MAXIMIZED_VERT" not in window.states(), "the window to be restored")
 
 
+def test_press_just_below_a_glyph(panel):
+    """A finger is not as exact as the 20 pixels of a glyph."""
+    box = panel.tree.wait_for("button", "Maximize").box
+    hands.click(box._replace(y=box.bottom, height=8))
+    until(lambda: "MAXIMIZED_VERT" in panel.window.states(), "the window to be maximised")
+    hands.hold(panel.tree.wait_for("button", "Restore").box, 0.1, (5, 2))
+    until(lambda: "MAXIMIZED_VERT" not in panel.window.states(), "the window to be restored")
+
+
 def test_glyph_that_is_dragged_moves_no_window(panel):
     window = panel.window.settled()
     x, y = panel.tree.wait_for("button", "Minimize").box.centre

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Quillmark.Controls
+
+/// Texts that take the keyboard focus together, so that a screen reader reads them as one.
+/// Not the root of a component with a property `value`: Qt treats that property of an
+/// accessible item as a number that can be set.
+Item {
+    id: item
+
+    /// Instead of the texts' own.
+    required property string label
+    property string description: ""
+    property alias focusInset: ring.inset
+
+    activeFocusOnTab: true
+
+    // Not Grouping: Orca 48 would say the description or the texts twice.
+    Accessible.role: Accessible.Section
+    Accessible.name: label
+    Accessible.description: description
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+
+    FocusRing {
+        id: ring
+
+        target: item
+    }
+}
