@@ -53,6 +53,12 @@ bool isAnswered(const QDBusMessage& call, const QDBusConnection& bus, int timeou
   return answerTo(call, bus, timeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
+/// Not connected if there is no bus.
+QDBusConnection sessionBus() {
+  const bool exists = !sessionBusAddress().empty();
+  return exists ? QDBusConnection::sessionBus() : QDBusConnection(QString());
+}
+
 /// Takes the application's name on the bus. False if another panel owns it; true also
 /// if the bus does not answer.
 bool claimName(const QDBusConnection& bus) {
@@ -69,10 +75,7 @@ bool claimName(const QDBusConnection& bus) {
 }  // namespace
 
 bool SingleInstance::handOverOrListen() {
-  if (sessionBusAddress().empty()) {
-    return false;
-  }
-  auto bus = QDBusConnection::sessionBus();
+  auto bus = sessionBus();
   if (!bus.isConnected()) {
     return false;
   }
@@ -86,10 +89,7 @@ bool SingleInstance::handOverOrListen() {
 }
 
 bool SingleInstance::quitRunning() {
-  if (sessionBusAddress().empty()) {
-    return false;
-  }
-  const auto bus = QDBusConnection::sessionBus();
+  const auto bus = sessionBus();
   auto quit = callTo(QStringLiteral("ActivateAction"));
   quit << quitAction << QVariantList{} << QVariantMap{};
   return bus.isConnected() && isAnswered(quit, bus, answerTimeoutMs);
