@@ -103,11 +103,11 @@ class JsonReader final {
     // The entry after the last match is compared first: most agents send keys in table
     // order, so that it usually matches.
     std::size_t next = 0;
-    for (const auto [key, value] : object) {
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
       for (std::size_t i = 0; i < keys.size(); ++i) {
         const std::size_t index = (next + i) % keys.size();
-        if (keys[index] == key) {
-          values[index] = value;
+        if (entry.key_equals(keys[index])) {
+          values[index] = entry.value();
           next = index + 1;
           break;
         }
