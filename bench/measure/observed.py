@@ -9,14 +9,17 @@ from . import stage
 
 
 class Observed:
-    def __init__(self, program):
+    def __init__(self, program, **environment):
         self._program = program
+        self._environment = environment
 
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory()
         self._log = Path(self._folder.name) / "observed"
+        preload = f"{stage.OBSERVER} {self._environment.pop('LD_PRELOAD', '')}"
         self.pid, _, _ = stage.first_frame(
-            self._program, LD_PRELOAD=str(stage.OBSERVER), QUILLMARK_OBSERVER=str(self._log))
+            self._program, **self._environment,
+            LD_PRELOAD=preload, QUILLMARK_OBSERVER=str(self._log))
         return self
 
     def __exit__(self, *_):

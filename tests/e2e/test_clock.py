@@ -11,6 +11,7 @@ from pathlib import Path
 import pytest
 
 from harness.backend import pollers
+from harness.clock import Clock
 from harness.waiting import never, until
 
 pytestmark = pytest.mark.usefixtures("token")
@@ -42,29 +43,17 @@ def test_stopped_for_twenty_seconds(launch, backend):
 
 
 @pytest.fixture
-def set_clock(tmp_path):
-    """Sets the wall clock of a panel that is launched with `environment`."""
-    (library,) = Path("/usr/lib").glob("*/faketime/libfaketime.so.1")
-    file = tmp_path / "clock"
-
-    def set_to(offset):
-        file.write_text(offset + "\n")
-
-    set_to("+0")
-    set_to.environment = {
-        "LD_PRELOAD": str(library), "FAKETIME_TIMESTAMP_FILE": str(file),
-        "FAKETIME_NO_CACHE": "1", "FAKETIME_DONT_FAKE_MONOTONIC": "1",
-    }
-    return set_to
+def clock(tmp_path):
+    return Clock(tmp_path)
 
 
 @pytest.mark.parametrize("offset, year", [("-1d", 0), ("+10y", 10)])
-def test_clock_set(launch, backend, set_clock, offset, year):
-    panel = launch(**set_clock.environment)
+def test_clock_set(launch, backend, clock, offset, year):
+    panel = launch(**clock.environment)
     backend.wait_for_poll()
-    set_clock(offset)
+    clock.set(offset)
     # The library does change the time that a process gets.
-    date = subprocess.run(["date", "+%s"], env=os.environ | set_clock.environment,
+    date = subprocess.run(["date", "+%s"], env=os.environ | clock.environment,
                           capture_output=True, text=True, check=True)
     assert abs(float(date.stdout) - time.time()) > 80_000 * (365 * year or 1)
     assert "libfaketime" in Path(f"/proc/{panel.pid}/maps").read_text()

@@ -4,6 +4,7 @@
 that never answers."""
 
 import contextlib
+import signal
 import socket
 import subprocess
 import threading
@@ -56,6 +57,10 @@ class Bus:
         with self._lock:
             self._pieces = 0
             self._dies_at = dies_at
+
+    def hang(self, stopped):
+        """Stops the daemon, or lets it continue."""
+        self._daemon.send_signal(signal.SIGSTOP if stopped else signal.SIGCONT)
 
     def alive(self):
         return self._daemon.poll() is None
