@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""report RESULTS OUTPUT: writes the results of soak, attacks, drip and tests as a page."""
+"""report RESULTS OUTPUT: writes the results of all parts as a page."""
 
 import json
 import sys
@@ -98,6 +98,26 @@ def drip(report, results):
                                    for text, count in figures["messages"].items()))]))
 
 
+def faults(report, results):
+    figures = json.loads((results / "faults.json").read_text())
+    start, end = figures["start"], figures["end"]
+    report.goal("faults: memory at the end minus that of the tenth minute",
+                goal(max(end["mib"] - figures["tenth_minute"]["mib"], 0), 8, " MiB"))
+    more = sum(max(end[key] - start[key], 0) for key in ("descriptors", "threads"))
+    report.goal("faults: descriptors and threads more than at the start", goal(more, 0))
+    report.goal("faults: UI thread's longest gap", goal(figures["longest_gap_ms"], 50, " ms"))
+    report.section("Faults", f"For {number(figures['minutes'])} minutes the panel is used while "
+                   "faults come in random order, each for some seconds; after each the good "
+                   f"values must be back, at the latest {number(figures['slowest_to_good_s'])} s "
+                   f"after. {figures['gaps_above_50_ms']} gaps of the UI thread were longer than "
+                   "50 ms.\n\n" + table(
+                       ("", "start", "tenth minute", "most", "end"),
+                       [(key, *(number(figures[when][key])
+                                for when in ("start", "tenth_minute", "most", "end")))
+                        for key in ("mib", "descriptors", "threads")])
+                   + "\n\n" + table(("fault", "times"), sorted(figures["faults"].items())))
+
+
 def trouble(report, results):
     rows = []
     for name, label in TROUBLE.items():
@@ -112,7 +132,7 @@ def trouble(report, results):
 
 def main(results, output):
     report = Report()
-    for part in (soak, attacks, drip, trouble):
+    for part in (soak, attacks, drip, faults, trouble):
         part(report, Path(results))
     report.write(output, PREFACE)
 
