@@ -7,7 +7,7 @@ from statistics import median
 from . import stage
 from .figures import goal, table, with_spread
 
-ROUNDS = 15
+ROUNDS = 25
 
 
 def run(report, rounds=ROUNDS):
