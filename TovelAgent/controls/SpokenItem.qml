@@ -10,7 +10,7 @@ import Quillmark.Controls
 Item {
     id: item
 
-    /// Instead of the texts' own.
+    /// What a screen reader says in place of the texts.
     required property string label
     property string description: ""
     property alias focusInset: ring.inset

@@ -14,7 +14,7 @@ namespace quillmark {
 /// Makes this process, and the programs that it starts, do without the session bus if it
 /// accepts connections but does not answer, as a bus that is stopped by a signal: Qt and
 /// other libraries would wait for it without a limit. Then takes two and a half seconds,
-/// otherwise a millisecond. Call before Qt is set up and before threads start.
+/// otherwise one exchange with the bus. Call before Qt is set up and before threads start.
 void avoidSilentSessionBus();
 
 }  // namespace quillmark

@@ -22,8 +22,8 @@
 namespace quillmark {
 
 /// Fills a value from parsed JSON according to the value's type, and a record
-/// according to its field table. The value must be new: it may already have the defaults
-/// of its type, but no content. Every `read` returns false at the first failure;
+/// according to its field table. The value must be newly created, because texts are
+/// appended to it. Every `read` returns false at the first failure;
 /// `takeFailure()` then returns that failure.
 class JsonReader final {
  public:

@@ -9,23 +9,28 @@ from . import stage
 from .figures import goal, number, table
 
 
-BODIES = ("apps/5000", "connections/100", "connections/10000", "connections/200000")
+def output(*options):
+    done = subprocess.run([str(stage.BENCH / "decode/bench_decode"), *options],
+                          capture_output=True, text=True, check=True)
+    return done.stdout
+
+
+def bodies():
+    names = output("--benchmark_list_tests").splitlines()
+    return dict.fromkeys(name.rpartition("/")[0] for name in names)
 
 
 def medians_of(body):
     """In a process of its own: what a large body leaves in the heap slows a small one."""
-    done = subprocess.run(
-        [str(stage.BENCH / "decode/bench_decode"), f"--benchmark_filter=^{body}/",
-         "--benchmark_format=json", "--benchmark_repetitions=21",
-         "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.05",
-         "--benchmark_report_aggregates_only=true"],
-        capture_output=True, text=True, check=True)
-    return {b["run_name"]: b for b in json.loads(done.stdout)["benchmarks"]
-            if b["aggregate_name"] == "median"}
+    measured = json.loads(output(
+        f"--benchmark_filter=^{body}/", "--benchmark_format=json",
+        "--benchmark_repetitions=21", "--benchmark_enable_random_interleaving=true",
+        "--benchmark_min_time=0.05", "--benchmark_report_aggregates_only=true"))
+    return {b["run_name"]: b for b in measured["benchmarks"] if b["aggregate_name"] == "median"}
 
 
 def run(report):
-    medians = {name: b for body in BODIES for name, b in medians_of(body).items()}
+    medians = {name: b for body in bodies() for name, b in medians_of(body).items()}
     rows = []
     for name, figures in medians.items():
         body, _, contender = name.rpartition("/")

@@ -11,15 +11,15 @@ from . import stage
 class Observed:
     def __init__(self, program, **environment):
         self._program = program
+        self._preload = f"{stage.OBSERVER} {environment.pop('LD_PRELOAD', '')}"
         self._environment = environment
 
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory()
         self._log = Path(self._folder.name) / "observed"
-        preload = f"{stage.OBSERVER} {self._environment.pop('LD_PRELOAD', '')}"
         self.pid, _, _ = stage.first_frame(
             self._program, **self._environment,
-            LD_PRELOAD=preload, QUILLMARK_OBSERVER=str(self._log))
+            LD_PRELOAD=self._preload, QUILLMARK_OBSERVER=str(self._log))
         return self
 
     def __exit__(self, *_):

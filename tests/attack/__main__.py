@@ -17,12 +17,10 @@ from measure import stage
 from measure.observed import Observed
 
 from .attacker import Attacker
-from .attacks import every
-from .memory import MIB, Peak, resident
+from .attacks import TAB, every
+from .memory import MIB, SETTLING, Peak, resident
 
 SECONDS = 12
-SETTLING = 10
-TAB = "ctrl+4"  # Alerts, where a text of the agent's is laid out
 
 
 def settled_picture(server):

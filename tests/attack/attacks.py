@@ -13,6 +13,7 @@ from harness import bodies
 OK = b"HTTP/1.1 200 OK\r\n"
 BLOCK = b" " * (1 << 20)
 HUGE = 60_000_000  # a little less than a body may have
+TAB = "ctrl+4"  # the key of Alerts, where a text of the agent's is laid out
 
 
 class Victim:

@@ -18,22 +18,20 @@ from harness import tokens, window
 from harness.bus import Bus
 from harness.clock import Clock
 from harness.display import Display
+from harness.processes import held
 from harness.screen import Picture
 from harness.waiting import until
 from measure import stage
 from measure.observed import Observed
 
 from .attacker import Attacker
-from .attacks import every
-from .memory import MIB, resident
+from .attacks import TAB, every
+from .memory import MIB, SETTLING, resident
 
-TAB = "ctrl+4"
 SIZE = (1000, 700)
-SETTLING = 10  # seconds, as after a single attack
-WARM = 600  # the first seconds, in which caches fill
 
 
-class Stage:
+class Scene:
     """The panel, and what it depends on."""
 
     def __init__(self, folder, chance):
@@ -101,41 +99,41 @@ class Stage:
         return Picture().whole()
 
     def sample(self):
-        process = Path(f"/proc/{self.panel.pid}")
-        return {"mib": resident(self.panel.pid) / MIB,
-                "descriptors": len(os.listdir(process / "fd")),
-                "threads": len(os.listdir(process / "task"))}
+        descriptors, threads = held(self.panel.pid)
+        return {"mib": resident(self.panel.pid) / MIB, "descriptors": descriptors,
+                "threads": threads}
 
 
-def under_faults(stage_, minutes):
-    faults = stage_.faults()
-    stage_.server.wait_for_poll()
-    stage_.picture()
+def under_faults(scene, minutes):
+    faults = scene.faults()
+    scene.server.wait_for_poll()
+    scene.picture()
     time.sleep(SETTLING)
-    good = stage_.picture()
+    good = scene.picture()
     begun = time.monotonic()
-    samples, met, slowest = [stage_.sample()], Counter(), 0
+    samples, met, slowest = [scene.sample()], Counter(), 0
     warm = None
     while time.monotonic() < begun + 60 * minutes:
-        name = stage_.chance.choice(list(faults))
+        name = scene.chance.choice(list(faults))
         with faults[name]():
-            stage_.use(stage_.chance.uniform(3, 20))
+            scene.use(scene.chance.uniform(3, 20))
         ended = time.monotonic()
-        until(lambda: stage_.picture() == good, f"the good values after {name}", step=0.1)
+        until(lambda: scene.picture() == good, f"the good values after {name}", step=0.1)
         slowest = max(slowest, time.monotonic() - ended)
         met[name] += 1
-        if warm is None and time.monotonic() > begun + WARM:
+        # Caches fill in the first sixth of the time.
+        if warm is None and time.monotonic() > begun + 60 * minutes / 6:
             time.sleep(SETTLING)
-            warm = stage_.sample()
-        samples.append(stage_.sample())
+            warm = scene.sample()
+        samples.append(scene.sample())
     time.sleep(SETTLING)
-    busy = stage_.panel.busy(begun)
+    busy = scene.panel.busy(begun)
     return {
         "minutes": minutes,
         "faults": met,
         "start": samples[0],
-        "tenth_minute": warm,
-        "end": stage_.sample(),
+        "after_a_sixth": warm,
+        "end": scene.sample(),
         "most": {key: max(sample[key] for sample in samples) for key in samples[0]},
         "longest_gap_ms": 1000 * max(span for _, span in busy),
         "gaps_above_50_ms": sum(span > 0.05 for _, span in busy),
@@ -147,11 +145,11 @@ def main(output, minutes="60", seed="1"):
     display = Display()
     tokens.write(tokens.HOME, "token")
     with tempfile.TemporaryDirectory() as folder:
-        stage_ = Stage(folder, random.Random(int(seed)))
-        with Observed(stage.PANEL, **stage_.environment()) as stage_.panel:
-            figures = under_faults(stage_, float(minutes))
-        stage_.server.stop()
-        stage_.bus.stop()
+        scene = Scene(folder, random.Random(int(seed)))
+        with Observed(stage.PANEL, **scene.environment()) as scene.panel:
+            figures = under_faults(scene, float(minutes))
+        scene.server.stop()
+        scene.bus.stop()
     display.stop()
     print(json.dumps(figures), flush=True)
     Path(output).write_text(json.dumps(figures, indent=1) + "\n")

@@ -8,6 +8,7 @@ from pathlib import Path
 
 PAGE = 4096
 MIB = 1 << 20
+SETTLING = 10  # seconds after an attack, in which memory must be freed
 
 
 def resident(pid):

@@ -5,12 +5,12 @@
 import contextlib
 import socket
 import tempfile
-from pathlib import Path
 
 import pytest
 
 from harness.backend import PORT
 from harness.panel import quit_by_command, spawn
+from harness.processes import held
 from harness.tour import tour
 from harness.waiting import never, until
 from harness.window import visible
@@ -22,11 +22,6 @@ WINDOWS = 20
 # Enough that a silent agent would soon take every descriptor.
 MANY_WINDOWS = 50
 DESCRIPTORS = 512
-
-
-def held(pid):
-    """Descriptors and threads."""
-    return tuple(len(list(Path(f"/proc/{pid}/{what}").iterdir())) for what in ("fd", "task"))
 
 
 def reopen(panel):

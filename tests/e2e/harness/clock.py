@@ -7,11 +7,11 @@ from pathlib import Path
 
 class Clock:
     def __init__(self, folder):
-        (self.library,) = Path("/usr/lib").glob("*/faketime/libfaketime.so.1")
+        (library,) = Path("/usr/lib").glob("*/faketime/libfaketime.so.1")
         self._file = Path(folder) / "clock"
         self.set("+0")
         self.environment = {
-            "LD_PRELOAD": str(self.library), "FAKETIME_TIMESTAMP_FILE": str(self._file),
+            "LD_PRELOAD": str(library), "FAKETIME_TIMESTAMP_FILE": str(self._file),
             "FAKETIME_NO_CACHE": "1", "FAKETIME_DONT_FAKE_MONOTONIC": "1",
         }
 

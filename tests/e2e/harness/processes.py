@@ -60,6 +60,11 @@ def named():
     return [p for p in every() if AGENT in p.command]
 
 
+def held(pid):
+    """Descriptors and threads."""
+    return tuple(len(list(Path(f"/proc/{pid}/{what}").iterdir())) for what in ("fd", "task"))
+
+
 def below(pid):
     """Children, their children and so on."""
     processes = every()
