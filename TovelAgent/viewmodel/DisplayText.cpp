@@ -5,6 +5,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "viewmodel/RareScripts.h"
 
 namespace quillmark {
 namespace {
@@ -12,8 +16,41 @@ namespace {
 // No real text is this long, and longer text would block the window: the time to break
 // one word into lines grows with the square of its length, 11 ms for this many characters.
 constexpr std::size_t maxCharacters = 16'000;
+// Nor does a real text change between scripts and symbols of all kinds this often. Each
+// change may be one of the font, which takes as long as several characters.
+constexpr int maxChanges = 2'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
+constexpr std::uint32_t anyKind = 0;
+
+/// Characters of one kind are likely to be in one font.
+std::uint32_t kindOf(char32_t character) {
+  constexpr char32_t blockSize = 128;
+  const auto script = QChar::script(character);
+  // Marks belong to the character before them; each font has ASCII's digits and signs.
+  if (script == QChar::Script_Inherited ||
+      (script == QChar::Script_Common && character < blockSize)) {
+    return anyKind;
+  }
+  return script == QChar::Script_Common ? QChar::ScriptCount + character / blockSize
+                                        : std::uint32_t{script};
+}
+
+/// The position at which the text has changed too often.
+std::size_t endBeforeTooManyChanges(const std::u32string& text) {
+  auto last = anyKind;
+  auto changes = 0;
+  const auto end = std::find_if(text.begin(), text.end(), [&](char32_t character) {
+    const auto kind = kindOf(character);
+    if (kind != anyKind && kind != last) {
+      last = kind;
+      ++changes;
+    }
+    return changes > maxChanges;
+  });
+  return static_cast<std::size_t>(end - text.begin());
+}
 
 }  // namespace
 
@@ -23,8 +60,14 @@ QString displayText(std::string_view text) {
   const auto* const end = std::find_if(text.begin(), text.end(), [&](char byte) {
     return beginsCharacter(byte) && ++characters > maxCharacters;
   });
-  const auto shown = QString::fromUtf8(text.data(), end - text.begin());
-  return end == text.end() ? shown : shown + QStringLiteral("…");
+  auto shown = QString::fromUtf8(text.data(), end - text.begin()).toStdU32String();
+  replaceRareScripts(shown);
+  const auto length = endBeforeTooManyChanges(shown);
+  const auto isCut = end != text.end() || length < shown.size();
+  shown.resize(length);
+  auto result = QString::fromStdU32String(isCut ? shown + U'…' : shown);
+  result.squeeze();
+  return result;
 }
 
 }  // namespace quillmark

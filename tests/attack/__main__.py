@@ -43,11 +43,13 @@ def under(attack, server, panel):
         until(lambda: Picture().whole() == good, "the good values again", step=0.1)
         recovered = time.monotonic() - ended
     time.sleep(max(0.0, ended + SETTLING - time.monotonic()))
+    busy = [span for _, span in panel.busy(since)]
     return {
         "idle_mib": idle / MIB,
         "peak_above_idle_mib": peak.above_idle / MIB,
         "kept_mib": (resident(panel.pid) - idle) / MIB,
-        "longest_gap_ms": 1000 * max((span for _, span in panel.busy(since)), default=0),
+        "longest_gap_ms": 1000 * max(busy, default=0),
+        "gaps_above_50_ms": sum(span > 0.05 for span in busy),
         "seconds_to_good": recovered,
     }
 

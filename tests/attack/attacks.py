@@ -120,16 +120,35 @@ def long_texts():
     return whole(alerts=bodies.alerts(*texts))
 
 
-def rare_scripts():
-    """Alerts of characters from all scripts, others at each poll: many fonts are needed."""
-    assigned = [c for c in map(chr, range(0x21, 0x30000)) if unicodedata.category(c)[0] in "LMNPS"]
-    choose = random.Random(1).choices
+ASSIGNED = [c for c in map(chr, range(0x21, 0x30000)) if unicodedata.category(c)[0] in "LMNPS"]
+FURTHER = ["".join(map(chr, range(first, first + 24))) for first in (
+    0x531, 0x5D0, 0x628, 0x905, 0x985, 0xA05, 0xA85, 0xB05, 0xB85, 0xC05, 0xC85, 0xD05, 0xD85,
+    0xE01, 0xE81, 0xF40, 0x1000, 0x10D0, 0x1208, 0x1780, 0x3041, 0x30A1, 0x3105, 0x4E00, 0xAC00)]
+SYMBOLS = [c for c in ASSIGNED if unicodedata.category(c)[0] in "PS"]
+
+
+def random_texts(count, length, choices):
+    """Alerts of random characters from a new choice of characters each."""
+    chance = random.Random(1)
 
     def send(victim):
-        texts = ("".join(choose(assigned, k=15_000)) for _ in range(10))
+        texts = ("".join(chance.choices(choices(chance), k=length)) for _ in range(count))
         alerts = (bodies.alert("malware", description=text) for text in texts)
         whole(alerts=bodies.alerts(*alerts))(victim)
     return send
+
+
+def all_scripts(_chance):
+    return ASSIGNED
+
+
+def four_scripts(chance):
+    """Of the scripts that are in everyday use."""
+    return "".join(chance.sample(FURTHER, 4))
+
+
+def symbols(_chance):
+    return SYMBOLS
 
 
 def empty_services(victim):
@@ -162,7 +181,10 @@ def every():
         "a text of 60 MB in chunks": huge_text_in_chunks(),
         "texts of 20 MB wherever one is shown": huge_texts(),
         "sixty texts of 1 MB": long_texts(),
-        "texts in all scripts": rare_scripts(),
+        "texts in all scripts": random_texts(10, 15_000, all_scripts),
+        "long texts in four scripts each": random_texts(10, 15_000, four_scripts),
+        "short texts in four scripts each": random_texts(100, 60, four_scripts),
+        "texts of all symbols": random_texts(10, 15_000, symbols),
         "twenty million empty services": empty_services,
         "nesting 100,000 deep": deep_nesting,
         "resets amid the header": resets,

@@ -69,7 +69,7 @@ def attacks(report, results):
         judged = [goal(max(figures[key], 0), limit, unit) for key, _, limit, unit in ATTACK]
         rows.append((name, f"{number(figures['peak_above_idle_mib'])} MiB",
                      *(f"{value} ({verdict})" if verdict != "met" else value
-                       for value, _, verdict in judged)))
+                       for value, _, verdict in judged), figures["gaps_above_50_ms"]))
     for key, label, limit, unit in ATTACK:
         held = sum(figures[key] <= limit for figures in found.values())
         report.goal(f"attacks: {label}", (f"held by {held} of {len(found)}",
@@ -79,7 +79,8 @@ def attacks(report, results):
                    "is sampled every 5 ms; its peak has no limit of its own, that of a body is "
                    "64 MiB. When good values come depends on where between two polls an attack "
                    "ends.\n\n" + table(("attack", "peak memory above idle",
-                                        *(label for _, label, _, _ in ATTACK)), rows))
+                                        *(label for _, label, _, _ in ATTACK),
+                                        "gaps above 50 ms"), rows))
 
 
 def drip(report, results):

@@ -39,6 +39,27 @@ TEST(DisplayText, EndsInAnEllipsisBeyondTheLimit) {
   }
 }
 
+TEST(DisplayText, HasNoCharactersOfRareScripts) {
+  EXPECT_EQ(displayText("a𒀀").toStdString(), "a\uFFFD");
+}
+
+TEST(DisplayText, IsCompleteIfItChangesBetweenScriptsLikeARealText) {
+  for (const std::string sentence :
+       {"これは日本語のテキストです。", "Η λέξη «text» → 😀. ", "هذا نص بالعربية، ١٢٣. "}) {
+    const auto text = repeated(250, sentence);
+    EXPECT_EQ(displayText(text).toStdString(), text);
+  }
+}
+
+// Each change may be one of the font, and too many of them would block the window.
+TEST(DisplayText, EndsAfterTwoThousandChangesBetweenScriptsOrSymbols) {
+  for (const std::string pair : {"中가", "☃😀", "a中"}) {
+    const auto beginning = repeated(1'000, pair);
+    EXPECT_EQ(displayText(beginning).toStdString(), beginning);
+    EXPECT_EQ(displayText(beginning + pair).toStdString(), beginning + "…");
+  }
+}
+
 // A text may be as long as a whole answer.
 TEST(DisplayText, KeepsNoMemoryForWhatItDoesNotShow) {
   const auto shown = displayText(std::string(std::size_t{16} << 20U, 'x'));

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/RareScripts.h"
+
+#include <algorithm>
+#include <bitset>
+#include <cstddef>
+#include <initializer_list>
+
+#include <QChar>
+
+namespace quillmark {
+namespace {
+
+using Scripts = std::bitset<QChar::ScriptCount>;
+
+/// Almost every font has characters of these, so that a text in them needs few fonts.
+constexpr auto basicScripts = {QChar::Script_Unknown, QChar::Script_Inherited,
+                               QChar::Script_Common,  QChar::Script_Latin,
+                               QChar::Script_Greek,   QChar::Script_Cyrillic};
+
+/// With the basic ones, these are the scripts that Unicode lists as in widespread
+/// customary use today (Unicode Standard Annex 31, "Recommended Scripts").
+constexpr auto everydayScripts = {
+    QChar::Script_Arabic,   QChar::Script_Armenian,   QChar::Script_Bengali,
+    QChar::Script_Bopomofo, QChar::Script_Devanagari, QChar::Script_Ethiopic,
+    QChar::Script_Georgian, QChar::Script_Gujarati,   QChar::Script_Gurmukhi,
+    QChar::Script_Han,      QChar::Script_Hangul,     QChar::Script_Hebrew,
+    QChar::Script_Hiragana, QChar::Script_Kannada,    QChar::Script_Katakana,
+    QChar::Script_Khmer,    QChar::Script_Lao,        QChar::Script_Malayalam,
+    QChar::Script_Myanmar,  QChar::Script_Oriya,      QChar::Script_Sinhala,
+    QChar::Script_Tamil,    QChar::Script_Telugu,     QChar::Script_Thaana,
+    QChar::Script_Thai,     QChar::Script_Tibetan};
+
+/// No real text mixes more.
+constexpr std::size_t maxScripts = 8;
+
+Scripts setOf(std::initializer_list<QChar::Script> scripts) {
+  Scripts set;
+  for (const auto script : scripts) {
+    set.set(script);
+  }
+  return set;
+}
+
+}  // namespace
+
+// Qt opens the fonts of each script on the UI thread and keeps them. Text in all scripts
+// would open most fonts of the machine, which takes seconds and 100 MiB.
+void replaceRareScripts(std::u32string& text) {
+  static const auto basic = setOf(basicScripts);
+  static const auto everyday = setOf(everydayScripts);
+
+  Scripts used;
+  for (const auto character : text) {
+    used.set(QChar::script(character));
+  }
+  const auto further = used & everyday;
+  const auto shown = further.count() > maxScripts ? basic : basic | further;
+  std::replace_if(
+      text.begin(), text.end(),
+      [&](char32_t character) { return !shown.test(QChar::script(character)); }, U'\uFFFD');
+}
+
+}  // namespace quillmark
