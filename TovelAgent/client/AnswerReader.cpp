@@ -19,6 +19,9 @@ constexpr int maxInterimAnswers = 16;
 // last chunk's size it asserts that the rest has arrived.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
 
+// Room for the decoder to work behind the body; without it the body is copied.
+constexpr std::size_t bodyPadding = 64;
+
 bool exceedsLimit(const error_code& error) {
   return error == http::error::header_limit || error == http::error::body_limit;
 }
@@ -52,6 +55,8 @@ void AnswerReader::parse(std::size_t count) {
       failure_ = HttpFailure::malformed;
     } else if (parser_->is_done()) {
       endAnswer();
+    } else if (inHeader && parser_->content_length()) {
+      parser_->get().body().reserve(*parser_->content_length() + bodyPadding);
     }
   }
 }

@@ -4,6 +4,7 @@
 #include "model/Codec.h"
 
 #include <algorithm>
+#include <bit>
 #include <new>
 #include <utility>
 
@@ -23,17 +24,34 @@ constexpr std::size_t parserDepth = maxNesting + 1;
 // With a smaller capacity the parser allocates again and loses the nesting limit.
 constexpr std::size_t minCapacity = 64;
 
-/// Parses `json` into `document`. The text and the parser, the larger part of the
-/// memory, are freed before the records are created.
-simdjson::simdjson_result<dom::element> parse(std::string json, dom::document& document) {
+// Memory for texts up to this size is kept for the thread's next text. Otherwise the
+// system would clear as many pages at every poll, which takes as long as parsing.
+constexpr std::size_t maxKeptText = std::size_t{2} << 20U;
+
+struct Parsing {
+  dom::parser parser;
+  dom::document document;
+};
+
+Parsing& keptParsing() {
+  thread_local Parsing parsing;
+  return parsing;
+}
+
+/// The root of the parsed text. The text is freed, because records are created next.
+simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing) {
   // JSON must not begin with a byte order mark, but some versions of simdjson skip it.
   if (json.starts_with("\xEF\xBB\xBF")) {
     return simdjson::UTF8_ERROR;
   }
   json.reserve(json.size() + simdjson::SIMDJSON_PADDING);
-  dom::parser parser;
-  if (const auto error = parser.allocate(std::max(json.size(), minCapacity), parserDepth)) {
-    return error;
+  auto& [parser, document] = parsing;
+  // Rounded, so that a text that is a little longer does not need a new parser.
+  const auto capacity = std::bit_ceil(std::max(json.size(), minCapacity));
+  if (parser.capacity() < capacity) {
+    if (const auto error = parser.allocate(capacity, parserDepth)) {
+      return error;
+    }
   }
   return parser.parse_into_document(document, json);
 }
@@ -42,9 +60,12 @@ simdjson::simdjson_result<dom::element> parse(std::string json, dom::document& d
 
 template <Record R>
 Decoded<R> decode(std::string json) {
-  dom::document document;
+  Parsing freed;
+  auto& parsing = json.size() <= maxKeptText ? keptParsing() : freed;
   dom::element root;
-  const auto error = parse(std::move(json), document).get(root);
+  const auto error = parse(std::move(json), parsing).get(root);
+  // The parser is the larger part of the memory.
+  freed.parser = dom::parser();
   if (error == simdjson::MEMALLOC) {
     throw std::bad_alloc();
   }
