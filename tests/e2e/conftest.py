@@ -11,7 +11,7 @@ import pytest
 # Before the import, so that failed assertions in the harness show their values.
 pytest.register_assert_rewrite("harness")
 
-from harness import bodies, large, processes, settings, tokens  # noqa: E402
+from harness import bodies, large, processes, settings, tokens, window  # noqa: E402
 from harness.backend import Backend  # noqa: E402
 from harness.display import Display  # noqa: E402
 from harness.panel import Panel  # noqa: E402
@@ -163,6 +163,7 @@ def pytest_runtest_makereport(item, call):
         try:
             report.sections.append(("panel's output", panel.output()))
             save(BUILD / "test-results" / f"{name}.png")
+            report.sections.append(("windows of the display", window.on_the_display()))
             report.sections.append(("accessibility tree", panel.tree.read().dump()))
         except Exception as error:  # noqa: BLE001 - the test's own failure matters more
             report.sections.append(("no more to show", repr(error)))

@@ -45,6 +45,13 @@ def visible(pid):
     return [Window(int(line)) for line in found.split()]
 
 
+def on_the_display():
+    """All of them, mapped or not, with the state of those that have the panel's name."""
+    tree = tool("xwininfo", "-root", "-tree")
+    panels = re.findall(r'(0x\w+) "Quillmark Agent"', tree)
+    return tree + "".join(tool("xwininfo", "-stats", "-wm", "-id", panel) for panel in panels)
+
+
 class Window:
     def __init__(self, identifier):
         self.identifier = identifier
