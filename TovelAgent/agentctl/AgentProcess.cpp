@@ -31,6 +31,8 @@ Command startCommand(const std::string& bundle, const std::string& home) {
 
 Command stopCommand() { return {"/usr/bin/pkill", {"-f", std::string(agentFileName)}}; }
 
+// Bash replaces itself with a single command. Otherwise pgrep would always find this shell,
+// whose command line contains the name.
 Command probeCommand() { return {shell, {"-c", "pgrep -f " + std::string(agentFileName)}}; }
 
 boost::system::error_code startAgentProcess() {
@@ -45,14 +47,11 @@ boost::system::error_code startAgentProcess() {
   return startDetached(startCommand(bundle, home));
 }
 
-boost::system::error_code stopAgentProcess() {
-  const auto status = runSilently(stopCommand());
-  return status ? boost::system::error_code{} : status.error();
-}
+boost::system::error_code stopAgentProcess() { return runSilently(stopCommand()).error(); }
 
 bool probeAgentProcess(boost::system::error_code& error) {
   const auto status = runSilently(probeCommand());
-  error = status ? boost::system::error_code() : status.error();
+  error = status.error();
   return status && *status == 0;
 }
 

@@ -21,13 +21,14 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// Whether `path` can be put in a shell's single quotes: it contains no such quote.
 [[nodiscard]] bool isQuotable(std::string_view path);
 
-/// Whether a shell that reads `path` without quotes would run a part of it as a command.
+/// Whether `path` contains a character that can make a shell that reads it without quotes
+/// run a command or redirect to another file.
 [[nodiscard]] bool containsCommand(std::string_view path);
 
-/// The command that starts the agent of the bundle at `bundle` in the
-/// background, with its output in the log file under `home`. The home path is not
-/// quoted and the log's folder is not created; without that folder the agent does
-/// not start.
+/// The command that starts the agent of the bundle at `bundle` in the background, with its
+/// output in the log file under `home`. The command line is fixed: the home path is in it
+/// without quotes, so check it with `containsCommand` first. The log's folder is not
+/// created; without it the agent does not start.
 [[nodiscard]] Command startCommand(const std::string& bundle, const std::string& home);
 
 /// The command that ends every process whose command line contains the agent's

@@ -22,8 +22,8 @@ constexpr std::size_t uuidCharactersInAgentId = 8;
 
 std::string configFolder() { return homeDirectory() + "/.config/quillmark"; }
 
-/// The id begins with "macos-" on every system. Returns an error when the system provides
-/// no random bytes.
+/// The prefix "macos-" is part of the id's format and does not name the system. Returns an
+/// error when the system provides no random bytes.
 boost::system::result<std::string> newAgentId() {
   try {
     return "macos-" + computerName().value_or("device") + "-" +

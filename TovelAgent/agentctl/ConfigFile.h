@@ -28,10 +28,10 @@ struct ImportResult {
   boost::system::error_code error;  ///< set when the outcome is `failed`
 };
 
-/// Replaces the configuration with an exact copy of the file at `source`, which
-/// must be at most 64 MiB of UTF-8 text with "[agent]" anywhere in it. Otherwise
-/// the old configuration is unchanged. Waits for the disk. Any thread, as long as no
-/// thread changes the environment at the same time.
+/// Replaces the configuration with an exact copy of the file at `source`, which must be
+/// at most `maxConfigBytes` of UTF-8 text with "[agent]" anywhere in it. Otherwise the old
+/// configuration is unchanged. Waits for the disk. Any thread, as long as no thread changes the
+/// environment at the same time.
 [[nodiscard]] ImportResult importConfigFile(const std::string& source);
 
 /// The maximum size of a configuration that is read.

@@ -13,8 +13,8 @@
 namespace quillmark {
 namespace {
 
-/// The text after the first "=", up to a second "=" or the end of the line, without white
-/// space and then without quotes at both ends. Empty when there is no "=".
+/// The text between the first "=" and the second one, or the end of the line. White space at
+/// both ends is removed first, then quotes at both ends. Empty when there is no "=".
 std::string valueOf(std::string_view line) {
   const auto start = line.find('=');
   if (start == std::string_view::npos) {

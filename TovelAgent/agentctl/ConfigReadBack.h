@@ -18,10 +18,10 @@ struct ConfigEntries {
   friend bool operator==(const ConfigEntries&, const ConfigEntries&) = default;
 };
 
-/// Finds the two values in the lines of `text`, in any section. Of several values of one
-/// kind, the last one is taken that is neither empty nor a placeholder. Not a TOML parser:
-/// every line that begins with "api_key" or "server_url" counts, `api_keys = …` too, and a
-/// second "=" in the line ends the value. Any thread.
+/// Finds the two values in the lines of `text`, in any section. If a kind occurs several
+/// times, the last value that is neither empty nor a placeholder is taken. Not a TOML parser:
+/// every line that begins with "api_key" or "server_url" counts, `api_keys = …` too; a second
+/// "=" in the line ends the value; a carriage return is part of the value. Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);
 
 /// Whether `key` is a placeholder for a real key; placeholders are not read back.
@@ -31,8 +31,9 @@ struct ConfigEntries {
 /// Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::vector<std::string> configSearchPaths();
 
-/// The entries of the first of these files that can be read. Reads files. Any thread,
-/// as long as no thread changes the environment at the same time.
+/// The entries of the first file of `configSearchPaths()` that can be read; no entries if
+/// none can. Reads files. Any thread, as long as no thread changes the environment at the
+/// same time.
 [[nodiscard]] ConfigEntries readCurrentConfig();
 
 }  // namespace quillmark

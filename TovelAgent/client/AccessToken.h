@@ -20,11 +20,9 @@ namespace quillmark {
 /// are those of `readTextFile`. Any thread; it reads a file.
 [[nodiscard]] boost::system::result<std::string> readTokenFile(const std::string& path);
 
-/// Reads the agent's access token: from the system-wide file if that can be read,
-/// even if it is blank, otherwise from the file in the user's home directory.
-/// White space at both ends is removed. No value when neither file can be read as
-/// UTF-8 text. Reads files. Any thread, as long as no thread changes the environment
-/// at the same time.
+/// The token in the first of `accessTokenPaths()` that can be read as UTF-8 text, even if
+/// that file is blank. White space at both ends is removed. No value when none can be read.
+/// Reads files. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::optional<std::string> readAccessToken();
 
 /// Whether `token` can be sent unchanged in an HTTP header field: it contains no

@@ -21,8 +21,8 @@ inline constexpr std::string_view networkPath = "/api/network";
 inline constexpr std::string_view inventoryPath = "/api/inventory";
 
 /// The request for `url`, an http URL with an IPv4 address, a port and a path; the caller
-/// sets the method and the token. No value for any other host, because names are never
-/// looked up, or without a port. Any thread.
+/// sets the method and the token. No value if the port is missing, or if the host is not an
+/// IPv4 address, because names are never looked up. Any thread.
 [[nodiscard]] std::optional<HttpRequest> requestTo(const std::string& url);
 
 }  // namespace quillmark

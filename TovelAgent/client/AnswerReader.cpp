@@ -19,7 +19,7 @@ constexpr int maxInterimAnswers = 16;
 // last chunk's size it asserts that the rest has arrived.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
 
-// Room for the decoder to work behind the body; without it the body is copied.
+// `decode` needs this much free capacity behind the text, and would otherwise copy it.
 constexpr std::size_t bodyPadding = 64;
 
 bool exceedsLimit(const error_code& error) {
@@ -44,8 +44,9 @@ void AnswerReader::parse(std::size_t count) {
     buffer_.consume(used);
     headerSize_ = inHeader ? headerSize_ + used : 0;
     const bool needsMore = error == http::error::need_more;
-    // The bytes of a line that is not complete yet. In the header they count as part of it;
-    // after it the limit applies to them alone: to a chunk's size line and to trailers.
+    // The bytes of a line that is not complete yet. While the header is read, they count as
+    // part of it. Later only chunk size lines and trailers are read as lines; the limit then
+    // applies to each of these alone.
     const std::size_t incomplete = needsMore ? buffer_.size() : 0;
     if (headerSize_ + incomplete > limits_.headerBytes || exceedsLimit(error)) {
       failure_ = HttpFailure::tooLarge;

@@ -47,7 +47,7 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
     co_return failureOf(error, HttpFailure::notConnected);
   }
   // Not earlier, because connecting opens the socket.
-  if (!leavesDescriptors(stream.socket().native_handle())) {
+  if (!leavesEnoughDescriptors(stream.socket().native_handle())) {
     co_return HttpFailure::notConnected;
   }
 

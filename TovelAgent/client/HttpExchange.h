@@ -13,7 +13,7 @@
 
 namespace quillmark {
 
-/// One bodiless HTTP request to a fixed address.
+/// One HTTP request without a body, to an IP address that is already known.
 struct HttpRequest {
   boost::asio::ip::tcp::endpoint server;
   std::string host;    ///< the Host field: address and port as in the URL
@@ -26,7 +26,7 @@ struct HttpRequest {
 struct HttpLimits {
   /// From connecting to the answer's last byte.
   std::chrono::steady_clock::duration time = std::chrono::seconds(60);
-  std::uint32_t headerBytes = 64 * 1024;  ///< also of a chunk's size line, and of trailers
+  std::uint32_t headerBytes = 64 * 1024;  ///< of the header, a chunk's size line, the trailers
   std::uint64_t bodyBytes = std::uint64_t{64} * 1024 * 1024;
 };
 

@@ -27,26 +27,25 @@ asio::awaitable<std::optional<AgentStatus>> IPCClient::getStatus() const {
 }
 
 asio::awaitable<std::optional<std::vector<ThreatAlert>>> IPCClient::getAlerts() const {
-  // Named, because GCC 12 may destroy a temporary inside a co_await twice.
-  auto request = makeRequest<AlertsResponse>(alertsPath, "GET");
-  auto response = co_await std::move(request);
-  if (!response) {
-    co_return std::nullopt;
-  }
-  co_return std::move(response->alerts);
+  return getList(alertsPath, &AlertsResponse::alerts);
 }
 
 asio::awaitable<std::optional<std::vector<NetworkConnection>>> IPCClient::getNetwork() const {
-  auto request = makeRequest<NetworkResponse>(networkPath, "GET");
-  auto response = co_await std::move(request);
-  if (!response) {
-    co_return std::nullopt;
-  }
-  co_return std::move(response->connections);
+  return getList(networkPath, &NetworkResponse::connections);
 }
 
 asio::awaitable<std::optional<InventoryData>> IPCClient::getInventory() const {
   return makeRequest<InventoryData>(inventoryPath, "GET");
+}
+
+template <class R, class List>
+asio::awaitable<std::optional<List>> IPCClient::getList(std::string_view endpoint,
+                                                        List R::*list) const {
+  auto response = co_await makeRequest<R>(endpoint, "GET");
+  if (!response) {
+    co_return std::nullopt;
+  }
+  co_return std::move((*response).*list);
 }
 
 template <class R>
@@ -63,6 +62,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     request->method = method;
     request->token = *authToken;
 
+    // Named, because GCC 12 may destroy a temporary argument inside a co_await twice.
     auto exchanged = exchange(std::move(*request), {});
     auto answer = co_await std::move(exchanged);
     if (!answer) {
@@ -74,7 +74,7 @@ asio::awaitable<std::optional<R>> IPCClient::makeRequest(std::string_view endpoi
     }
     co_return std::move(*decoded);
   } catch (const std::exception&) {
-    // Out of memory, for example: every failure is no value.
+    // Such as `std::bad_alloc`. The caller gets no value for every kind of failure.
     co_return std::nullopt;
   }
 }

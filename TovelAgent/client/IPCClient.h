@@ -42,6 +42,10 @@ class IPCClient final {
  private:
   void loadAuthToken();
 
+  /// The request for a record of which only `list` is wanted.
+  template <class R, class List>
+  [[nodiscard]] boost::asio::awaitable<std::optional<List>> getList(std::string_view endpoint,
+                                                                    List R::*list) const;
   /// Both texts must outlive the request.
   template <class R>
   [[nodiscard]] boost::asio::awaitable<std::optional<R>> makeRequest(std::string_view endpoint,

@@ -76,6 +76,7 @@ Loader {
                         menu.close(); // qmllint disable unqualified
                 }
 
+                // Other keys must not reach the list below the open menu.
                 Keys.onPressed: event => {
                     event.accepted = true;
                     if (event.key === Qt.Key_Escape)

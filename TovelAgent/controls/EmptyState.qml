@@ -5,7 +5,7 @@ import QtQuick
 
 /// Shown instead of an empty list.
 Rectangle {
-    id: state
+    id: emptyState
 
     required property string icon
     required property color iconColor
@@ -18,14 +18,14 @@ Rectangle {
         spacing: 20
 
         SymbolIcon {
-            name: state.icon
+            name: emptyState.icon
             size: 40
-            color: state.iconColor
+            color: emptyState.iconColor
             anchors.horizontalCenter: parent.horizontalCenter
         }
 
         Label {
-            text: state.text
+            text: emptyState.text
             color: Theme.gray
             anchors.horizontalCenter: parent.horizontalCenter
         }

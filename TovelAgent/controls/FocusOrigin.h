@@ -25,7 +25,7 @@ class FocusOrigin : public QObject {
   void setTarget(QQuickItem* target);
 
   [[nodiscard]] bool fromPointer() const { return fromPointer_; }
-  /// Call for a move inside the target, which causes no focus event.
+  /// Call when the focus moves and no focus event says by what, as from row to row of a list.
   void setFromPointer(bool fromPointer);
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;

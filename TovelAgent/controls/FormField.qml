@@ -17,9 +17,9 @@ Column {
 
     width: parent?.width ?? 0
 
-    // Qt tells assistive technology the property `text`, even of a masked field. So the
-    // real text is called `content` here, and a second property `text` below, with the
-    // displayed characters, hides it.
+    // Qt passes the property `text` to assistive technology, even for a masked field. So the
+    // field below declares its own `text`, with the displayed characters, in place of
+    // TextInput's. This alias keeps the real text reachable.
     component Entry: TextInput {
         id: entry
 
@@ -34,7 +34,7 @@ Column {
         // the root item: Qt treats the property `value` of an accessible item as a number.
         Accessible.role: Accessible.Grouping
         Accessible.name: field.label
-        Accessible.ignored: field.echoMode === TextInput.Normal
+        Accessible.ignored: !input.isMasked
 
         Label {
             text: field.label

@@ -4,12 +4,14 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A list that fills the page, or a placeholder while the list has no rows. The
-/// keyboard focus stays in the page when one takes the other's place.
+/// A list that fills the page, or a placeholder while the list has no rows. When they
+/// replace each other, the keyboard focus stays in the page.
 FocusScope {
     id: page
 
+    /// The accessible name of the page.
     required property string title
+    /// The accessible name of the list.
     required property string label
     /// An item model that has the property `count`.
     required property var model
@@ -27,7 +29,8 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        // Qt warns if this becomes false while the item itself has the focus.
+        // Also true while the Loader has the focus and its content has not: Qt warns if this
+        // becomes false then.
         activeFocusOnTab: page.isEmpty || (activeFocus && !(item?.activeFocus ?? false))
         sourceComponent: page.isEmpty ? page.placeholder : list
 

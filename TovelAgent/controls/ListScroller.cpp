@@ -16,6 +16,9 @@ namespace {
 // ListView.Contain: scrolls no further than necessary.
 constexpr int contain = 4;
 
+// Positions are rounded to device pixels, so an edge may be off by this much.
+constexpr qreal edgeTolerance = 1;
+
 bool isMenuKey(const QKeyEvent& press) {
   return press.key() == Qt::Key_Menu ||
          (press.key() == Qt::Key_F10 && press.modifiers() == Qt::ShiftModifier);
@@ -25,7 +28,7 @@ bool isMenuKey(const QKeyEvent& press) {
 
 bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
   if (watched == target() && event->type() == QEvent::MouseButtonPress) {
-    readAt(static_cast<QMouseEvent*>(event)->position().y());
+    moveToRowAt(static_cast<QMouseEvent*>(event)->position().y());
     Q_EMIT movedByPointer();
   }
   if (watched == target() && event->type() == QEvent::KeyPress) {
@@ -42,8 +45,8 @@ bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
   return Scroller::eventFilter(watched, event);
 }
 
-// Does nothing: the view scrolls to the reading position only when a key has moved it,
-// because it must not move with polls.
+// Does nothing: after a poll another row may get the focus, and the view must not scroll then.
+// When a key moves the reading position, `moveTo` scrolls the view.
 void ListScroller::followFocus() {}
 
 bool ListScroller::handleKey(int key) {
@@ -54,7 +57,7 @@ bool ListScroller::handleKey(int key) {
   return isHandled;
 }
 
-bool ListScroller::readAt(qreal y) {
+bool ListScroller::moveToRowAt(qreal y) {
   const int index = rowAt(y);
   if (index < 0) {
     return false;
@@ -106,7 +109,9 @@ int ListScroller::rowAt(qreal y) const {
 int ListScroller::firstInView() const {
   const int index = rowAt(1);
   const auto place = placeOf(index);
-  return place.top() < -1 && place.bottom() < target()->height() - 1 ? index + 1 : index;
+  return place.top() < -edgeTolerance && place.bottom() < target()->height() - edgeTolerance
+             ? index + 1
+             : index;
 }
 
 void ListScroller::moveTo(int index) {
@@ -120,10 +125,10 @@ void ListScroller::moveByLine(int direction) {
   const auto height = target()->height();
   const bool isInView = place.bottom() > 0 && place.top() < height;
   if (!isInView) {
-    // The user has scrolled away from it by pointer: continue with what is in view.
+    // The user has scrolled the current row out of view: continue with the rows in view.
     moveTo(direction > 0 ? firstInView() : rowAt(height - 1));
-  } else if (fillsView(current()) &&
-             (direction > 0 ? place.bottom() > height + 1 : place.top() < -1)) {
+  } else if (fillsView(current()) && (direction > 0 ? place.bottom() > height + edgeTolerance
+                                                    : place.top() < -edgeTolerance)) {
     scrollLines(direction);
   } else {
     moveTo(current() + direction);
@@ -138,10 +143,11 @@ void ListScroller::moveByPage(int direction) {
     return;
   }
   const int reached = firstInView();
-  const bool hasMoved = direction > 0 ? reached > current() : reached < current();
-  if (hasMoved) {
+  const bool isFurther = direction > 0 ? reached > current() : reached < current();
+  if (isFurther) {
     moveTo(reached);
   } else if (!fillsView(current())) {
+    // Every key press moves the position, except inside a row that is higher than the view.
     moveTo(current() + direction);
   }
 }

@@ -20,9 +20,9 @@ class ListScroller : public quillmark::Scroller {
  public:
   using Scroller::Scroller;
 
-  /// Moves the position to the row at `y`, in coordinates of the list, without scrolling.
+  /// Moves the reading position to the row at `y`, in coordinates of the list, without scrolling.
   /// False if there is no row.
-  Q_INVOKABLE bool readAt(qreal y);
+  Q_INVOKABLE bool moveToRowAt(qreal y);
 
   /// Puts the current row's text on the clipboard.
   Q_INVOKABLE void copy();

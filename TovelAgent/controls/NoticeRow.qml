@@ -12,7 +12,7 @@ Box {
     required property string text
     required property bool isGood
 
-    readonly property color ink: isGood ? Theme.green : Theme.red
+    readonly property color foreground: isGood ? Theme.green : Theme.red
 
     width: parent?.width ?? 0
     implicitHeight: Math.max(symbol.height, label.height) + 2 * 8
@@ -29,7 +29,7 @@ Box {
         anchors.verticalCenter: parent.verticalCenter
         name: notice.icon
         size: 11
-        color: notice.ink
+        color: notice.foreground
     }
 
     Label {
@@ -42,6 +42,6 @@ Box {
         anchors.verticalCenter: parent.verticalCenter
         text: notice.text
         size: 11
-        color: notice.ink
+        color: notice.foreground
     }
 }

@@ -95,7 +95,7 @@ ListView {
         onPressed: mouse => {
             ring.fromPointer = true;
             list.forceActiveFocus(Qt.MouseFocusReason);
-            if (scroller.readAt(mouse.y))
+            if (scroller.moveToRowAt(mouse.y))
                 menu.openAt(mouse.x, mouse.y);
         }
 

@@ -18,8 +18,8 @@ Item {
     // Whole device pixels, or the lines below the rows differ in thickness.
     height: Math.ceil((holder.childrenRect.height + 2 * Theme.listRowInset) / pixel) * pixel
 
-    // Hides a pooled row from assistive technology until it is reused. Qt 6.8 also
-    // makes it ignored, and leaves it so.
+    // Hides a pooled row from assistive technology until it is reused. Qt 6.8 also sets
+    // `Accessible.ignored` of the row and does not reset it.
     ListView.onPooled: visible = false
     ListView.onReused: {
         visible = true;

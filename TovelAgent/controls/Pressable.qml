@@ -18,18 +18,17 @@ Item {
     signal pressed
 
     // A held key repeats; only the first event is a press.
-    function pressBy(key) {
-        if (!key.isAutoRepeat)
+    function pressByKey(event) {
+        if (!event.isAutoRepeat)
             pressed();
     }
 
-    // Qt tells assistive technology that an item with this value is focusable, even if
-    // the item is disabled.
+    // Qt reports an item with `activeFocusOnTab: true` as focusable, even if it is disabled.
     activeFocusOnTab: enabled
 
-    Keys.onSpacePressed: event => pressBy(event)
-    Keys.onReturnPressed: event => pressBy(event)
-    Keys.onEnterPressed: event => pressBy(event)
+    Keys.onSpacePressed: event => pressByKey(event)
+    Keys.onReturnPressed: event => pressByKey(event)
+    Keys.onEnterPressed: event => pressByKey(event)
 
     Accessible.role: Accessible.Button
     Accessible.name: label

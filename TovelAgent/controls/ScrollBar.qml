@@ -43,17 +43,17 @@ MouseArea {
         id: thumb
 
         readonly property real travel: bar.height - 2 * bar.margin - height
-        readonly property real hidden: 1 - bar.target.visibleArea.heightRatio
-        readonly property real fraction: hidden > 0 ? bar.target.visibleArea.yPosition / hidden : 0
+        readonly property real hiddenRatio: 1 - bar.target.visibleArea.heightRatio
+        readonly property real fraction: hiddenRatio > 0 ? bar.target.visibleArea.yPosition / hiddenRatio : 0
 
         function moveTo(top: real) {
             if (travel > 0)
                 bar.scroller.scrollToFraction((top - bar.margin) / travel);
         }
 
-        // Stays clear of the window's edge, where a drag resizes the window.
         x: bar.margin
-        width: bar.width - bar.margin - 5
+        // The thumb stays clear of the window's edge, where a drag resizes the window.
+        width: bar.width - bar.margin - Theme.resizeBorder
         y: bar.margin + Math.max(0, Math.min(1, fraction)) * travel
         height: Math.max(24, bar.target.visibleArea.heightRatio * (bar.height - 2 * bar.margin))
         radius: width / 2

@@ -26,7 +26,7 @@ Flickable {
     // A page with the focus keeps it, even when nothing is left to scroll.
     activeFocusOnTab: activeFocus || contentHeight > height
 
-    // A screen reader would read out all texts of a pane that gets the focus.
+    // Not Pane: a screen reader would read all texts of a pane that gets the focus.
     Accessible.role: Accessible.Section
     Accessible.name: label
     Accessible.focusable: activeFocusOnTab

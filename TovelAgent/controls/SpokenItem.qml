@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 
 /// Texts that take the keyboard focus together, so that a screen reader reads them as one.
-/// Not the root of a component with a property `value`: Qt treats that property of an
-/// accessible item as a number that can be set.
+/// Do not make it the root of a component that has a property `value`: Qt treats that
+/// property of an accessible item as a number that can be set.
 Item {
     id: item
 

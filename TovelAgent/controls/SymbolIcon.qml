@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 
 /// The icon of a symbolic name, sized to match text of pixel size `size`.
-/// Decoration only: the text beside it carries the meaning.
+/// Not in the accessible tree: what it means must be in the name of an item around it.
 Image {
     id: icon
 

@@ -13,6 +13,7 @@ QtObject {
     readonly property color gray: "#656B75"
     readonly property color green: "#187A33"
     readonly property color red: "#C4232B"
+    // These two are only looked up by name, as `Theme[name]`.
     readonly property color orange: "#C75B00"
     readonly property color yellow: "#A87B00"
     readonly property color black: "#000000"
@@ -35,7 +36,11 @@ QtObject {
     readonly property real shadowRadius: 2
 
     readonly property int spacing: 8
+    /// Between two blocks that share the width of a row.
+    readonly property int blockGap: 2 * spacing
     readonly property int bodySize: 13
+    /// The thickness of the window's edge where a drag resizes the window.
+    readonly property int resizeBorder: 5
     readonly property int cardRadius: 8
     readonly property int sectionRadius: 6
     readonly property int noticeRadius: 4

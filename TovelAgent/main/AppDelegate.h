@@ -8,9 +8,9 @@ namespace quillmark {
 /// Sets up the first window before it is shown. UI thread only.
 class AppDelegate final {
  public:
-  /// Makes the application's first window non-opaque (its surface gets an alpha channel)
-  /// and gives it a light background. Later windows keep Qt's defaults. Does nothing if
-  /// there is no window.
+  /// Call before the first window is shown. Gives it an alpha channel and a light
+  /// background. On purpose only this window: later ones keep Qt's defaults. Does nothing
+  /// if there is no window.
   void applicationDidFinishLaunching() const;
 };
 

@@ -7,7 +7,7 @@
 
 namespace quillmark {
 
-void fixControlsStyle() {
+void setControlsStyle() {
   // Not QQuickStyle: it would load one more library at each start, for a dialog that
   // few users open.
   qputenv("QT_QUICK_CONTROLS_STYLE", "Fusion");

@@ -8,6 +8,6 @@ namespace quillmark {
 /// Makes Qt's own file dialog use one fixed style, whatever style the environment asks
 /// for: other styles combine badly with the panel's colours, for example dark text on
 /// a dark background. Call before threads start, because it changes the environment.
-void fixControlsStyle();
+void setControlsStyle();
 
 }  // namespace quillmark

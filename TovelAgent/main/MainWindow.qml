@@ -15,10 +15,10 @@ Window {
     height: 700
     minimumWidth: 1000
     minimumHeight: 700
-    // Qt's own file dialog uses this colour, meant for a strong background, on a
-    // pale one: its selected row would be white on light blue.
+    // For Qt's own file dialog, which uses this colour on a pale background: its selected row
+    // would be white on light blue.
     palette.highlightedText: Theme.text
-    // Without this, its disabled controls would be light gray on a lighter gray.
+    // For the same dialog: its disabled controls would be light gray on a lighter gray.
     palette.disabled.buttonText: Theme.gray
 
     ContentView {

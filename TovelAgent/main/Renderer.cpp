@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "platform/OperatingSystem.h"
+#include "platform/ProcessLimits.h"
 
 namespace quillmark {
 namespace {
@@ -40,6 +41,8 @@ void restartInSoftware() {
     arguments.push_back(text.data());
   }
   arguments.push_back(nullptr);
+  // The new process takes the limit that it inherits for the initial one.
+  const InitialDescriptorLimit inheritedLimit;
   execv(programPath().c_str(), arguments.data());
   qFatal("The panel cannot start itself again: %s", std::strerror(errno));
 }

@@ -11,10 +11,11 @@ namespace quillmark {
 /// one. Any thread, as long as no thread changes the environment at the same time.
 [[nodiscard]] std::string sessionBusAddress();
 
-/// Makes this process, and the programs that it starts, do without the session bus if it
-/// accepts connections but does not answer, as a bus that is stopped by a signal: Qt and
-/// other libraries would wait for it without a limit. Then takes two and a half seconds,
-/// otherwise one exchange with the bus. Call before Qt is set up and before threads start.
+/// Makes this process, and the programs that it starts, work without the session bus if the
+/// bus accepts connections but does not answer, for example because a signal has stopped it.
+/// Qt and other libraries would wait for such a bus without a limit. Takes two and a half
+/// seconds if the bus does not answer, otherwise one exchange with it. Call before Qt is set
+/// up and before threads start.
 void avoidSilentSessionBus();
 
 }  // namespace quillmark

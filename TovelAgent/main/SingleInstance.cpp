@@ -3,6 +3,8 @@
 
 #include "main/SingleInstance.h"
 
+#include <dbus/dbus-shared.h>
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -37,9 +39,9 @@ QDBusMessage callTo(const QString& method) {
   return call;
 }
 
-/// The reply, of any type; invalid if none arrives in time. Qt's own blocking
-/// call waits forever when the bus is lost meanwhile, and an event loop would
-/// deliver incoming calls before their signals are connected.
+/// The reply, of any type; invalid if none arrives in time. Qt's own blocking call waits
+/// forever if the bus is lost meanwhile. An event loop would deliver incoming calls too
+/// early: nothing is connected to the signals of `SingleInstance` yet.
 QDBusMessage answerTo(const QDBusMessage& call, const QDBusConnection& bus, int timeoutMs) {
   const auto pending = bus.asyncCall(call, timeoutMs);
   const QDeadlineTimer deadline(timeoutMs);
@@ -62,14 +64,12 @@ QDBusConnection sessionBus() {
 /// Takes the application's name on the bus. False if another panel owns it; true also
 /// if the bus does not answer.
 bool claimName(const QDBusConnection& bus) {
-  // Numbers of the D-Bus protocol.
-  constexpr uint doNotQueue = 4;
-  constexpr uint nameExists = 3;
   auto request = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
-  request << SingleInstance::applicationId << doNotQueue;
-  return answerTo(request, bus, answerTimeoutMs).arguments().value(0).toUInt() != nameExists;
+  request << SingleInstance::applicationId << uint{DBUS_NAME_FLAG_DO_NOT_QUEUE};
+  return answerTo(request, bus, answerTimeoutMs).arguments().value(0).toUInt() !=
+         DBUS_REQUEST_NAME_REPLY_EXISTS;
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ Item {
     ResizeBorder {
         visible: !frame.fillsScreen
         anchors.fill: parent
-        thickness: 5
+        thickness: Theme.resizeBorder
         corner: frame.corner
     }
 

@@ -53,7 +53,7 @@ int quitOpenPanel(int argc, char* argv[]) {
 int main(int argc, char* argv[]) {
   quillmark::openClosedStandardStreams();
   quillmark::disableCoreDumps();
-  quillmark::reportFileSizeLimit();
+  quillmark::failWritesBeyondFileSizeLimit();
   quillmark::raiseDescriptorLimit();
   // Before Qt is set up: `--help` and `--quit` need no display and should be fast.
   const auto commandLine = quillmark::readCommandLine(argc, argv, commandLineRules());
@@ -66,7 +66,7 @@ int main(int argc, char* argv[]) {
   }
 
   quillmark::returnLargeBlocksOnFree();
-  quillmark::fixControlsStyle();
+  quillmark::setControlsStyle();
   quillmark::chooseRenderer();
   const QGuiApplication application(argc, argv);
   QCoreApplication::setApplicationName(QString::fromLatin1(programName));

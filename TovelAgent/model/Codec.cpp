@@ -24,8 +24,8 @@ constexpr std::size_t parserDepth = maxNesting + 1;
 // With a smaller capacity the parser allocates again and loses the nesting limit.
 constexpr std::size_t minCapacity = 64;
 
-// Memory for texts up to this size is kept for the thread's next text. Otherwise the
-// system would clear as many pages at every poll, which takes as long as parsing.
+// Memory for texts up to this size is kept for the thread's next text. Otherwise the system
+// would have to provide zeroed memory at every poll, which takes as long as parsing.
 constexpr std::size_t maxKeptText = std::size_t{2} << 20U;
 
 struct Parsing {
@@ -38,7 +38,8 @@ Parsing& keptParsing() {
   return parsing;
 }
 
-/// The root of the parsed text. The text is freed, because records are created next.
+/// The root of the parsed text. Takes the text by value, so that its memory is free before
+/// the record is created.
 simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing) {
   // JSON must not begin with a byte order mark, but some versions of simdjson skip it.
   if (json.starts_with("\xEF\xBB\xBF")) {
@@ -60,12 +61,12 @@ simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing
 
 template <Record R>
 Decoded<R> decode(std::string json) {
-  Parsing freed;
-  auto& parsing = json.size() <= maxKeptText ? keptParsing() : freed;
+  Parsing temporary;
+  auto& parsing = json.size() <= maxKeptText ? keptParsing() : temporary;
   dom::element root;
   const auto error = parse(std::move(json), parsing).get(root);
-  // The parser is the larger part of the memory.
-  freed.parser = dom::parser();
+  // Frees the larger part of the memory before the record is created.
+  temporary.parser = dom::parser();
   if (error == simdjson::MEMALLOC) {
     throw std::bad_alloc();
   }

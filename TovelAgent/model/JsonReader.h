@@ -101,8 +101,8 @@ class JsonReader final {
     static constexpr auto keys =
         std::apply([](const auto&... field) { return std::array{field.key...}; }, R::fields);
     std::array<std::optional<Element>, keys.size()> values;
-    // The entry after the last match is compared first: most agents send keys in table
-    // order, so that it usually matches.
+    // The key after the last match is compared first: most agents send keys in table order,
+    // so that it usually matches.
     std::size_t next = 0;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
       for (std::size_t i = 0; i < keys.size(); ++i) {

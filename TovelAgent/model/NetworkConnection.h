@@ -15,7 +15,7 @@ namespace quillmark {
 /// One open socket of the machine; an element of `NetworkResponse::connections`.
 /// Ports and the process id are strings in JSON; a number there is an error.
 struct NetworkConnection {
-  std::string connectionProtocol;  ///< "protocol" in JSON
+  std::string connectionProtocol;  ///< "protocol" in JSON; the only name that differs
   std::string local_address;
   std::string local_port;
   std::string remote_address;
@@ -34,7 +34,7 @@ struct NetworkConnection {
                  Field{"pid", &NetworkConnection::pid},
                  Field{"risk_level", &NetworkConnection::risk_level}};
 
-  /// A new random id at every call. Any thread.
+  /// A new random id at every call, see `InstalledApp::id`. Any thread.
   [[nodiscard]] Uuid id() const { return randomUuid(); }
 
   friend bool operator==(const NetworkConnection&, const NetworkConnection&) = default;

@@ -28,7 +28,7 @@ struct ThreatAlert {
                                             Field{"file_path", &ThreatAlert::file_path},
                                             Field{"timestamp", &ThreatAlert::timestamp}};
 
-  /// A new random id at every call, as upper-case text. Any thread.
+  /// A new random id at every call, see `InstalledApp::id`, as upper-case text. Any thread.
   [[nodiscard]] std::string id() const { return upperCaseText(randomUuid()); }
 
   friend bool operator==(const ThreatAlert&, const ThreatAlert&) = default;

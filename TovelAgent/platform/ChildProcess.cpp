@@ -70,8 +70,8 @@ class SpawnSetup final {
   short flags_ = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
 };
 
-/// Sets SIGCHLD to its default if this program was started with SIGCHLD ignored: the
-/// system would keep no exit statuses.
+/// Sets SIGCHLD to its default if this program was started with SIGCHLD ignored. Otherwise
+/// the system would not keep the exit statuses of children.
 void keepExitStatuses() {
   struct sigaction current {};
   if (sigaction(SIGCHLD, nullptr, &current) == 0 && current.sa_handler == SIG_IGN) {

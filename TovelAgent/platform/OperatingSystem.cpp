@@ -30,7 +30,7 @@ bool endsWithin(pid_t child, std::chrono::milliseconds limit) {
   // The header of glibc 2.36 that declares `pidfd_open` is not for C++.
   const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, child, 0));
   if (descriptor < 0) {
-    // No descriptor is free: the caller then waits without a limit.
+    // For example, no descriptor is free. The caller then waits without a limit.
     return true;
   }
   const auto end = std::chrono::steady_clock::now() + limit;

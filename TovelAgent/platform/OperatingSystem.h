@@ -23,7 +23,8 @@ namespace quillmark {
 void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions);
 
 /// Waits for `child` to end, at most for `limit`. False if it is still running then. True
-/// at once if no descriptor is free. Does not collect the exit status.
+/// at once if the child cannot be watched, for example because no descriptor is free. Does
+/// not collect the exit status.
 [[nodiscard]] bool endsWithin(pid_t child, std::chrono::milliseconds limit);
 
 /// Makes the system write no core dump of this process whatever the limits are. Also

@@ -12,10 +12,10 @@
 namespace quillmark {
 namespace {
 
-std::optional<rlim_t> initialDescriptors;
+std::optional<rlim_t> initialDescriptorLimit;
 // Locked while the limit is lowered. Otherwise a second thread that starts a child would
 // read the lowered limit and restore that one at the end.
-std::mutex loweredLimit;
+std::mutex loweredLimitMutex;
 
 rlimit limitOf(int resource) {
   rlimit limit{};
@@ -39,15 +39,15 @@ void disableCoreDumps() {
   }
 }
 
-void reportFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
+void failWritesBeyondFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 
 void raiseDescriptorLimit() {
   const auto limit = limitOf(RLIMIT_NOFILE);
-  initialDescriptors = limit.rlim_cur;
+  initialDescriptorLimit = limit.rlim_cur;
   setSoftLimit(RLIMIT_NOFILE, limit, limit.rlim_max);
 }
 
-bool leavesDescriptors(int descriptor) {
+bool leavesEnoughDescriptors(int descriptor) {
   // More than enough: saving a file takes three at most, enlarging a window one.
   constexpr rlim_t reserved = 16;
   // The system gives out the lowest free number, so the highest ones are used last.
@@ -55,14 +55,14 @@ bool leavesDescriptors(int descriptor) {
 }
 
 InitialDescriptorLimit::InitialDescriptorLimit() {
-  loweredLimit.lock();
+  loweredLimitMutex.lock();
   current_ = limitOf(RLIMIT_NOFILE);
-  setSoftLimit(RLIMIT_NOFILE, current_, initialDescriptors.value_or(current_.rlim_cur));
+  setSoftLimit(RLIMIT_NOFILE, current_, initialDescriptorLimit.value_or(current_.rlim_cur));
 }
 
 InitialDescriptorLimit::~InitialDescriptorLimit() {
   setSoftLimit(RLIMIT_NOFILE, current_, current_.rlim_cur);
-  loweredLimit.unlock();
+  loweredLimitMutex.unlock();
 }
 
 }  // namespace quillmark

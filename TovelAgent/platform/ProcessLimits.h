@@ -12,18 +12,18 @@ namespace quillmark {
 /// that programs that this one starts may raise it again. Any thread.
 void disableCoreDumps();
 
-/// Makes a write beyond the user's limit on file sizes fail with an error. By default
-/// it ends the program. Any thread.
-void reportFileSizeLimit();
+/// Makes a write beyond the user's limit on file sizes fail with an error. By default such
+/// a write ends the program. Any thread.
+void failWritesBeyondFileSizeLimit();
 
 /// Raises the number of files and sockets that this process may have open to the
 /// maximum that the system allows. Call before threads start.
 void raiseDescriptorLimit();
 
-/// Whether enough descriptors are left for files and windows, after the socket
-/// `descriptor` was opened. If not, close it: an agent may keep many requests waiting.
-/// Any thread.
-[[nodiscard]] bool leavesDescriptors(int descriptor);
+/// Whether enough descriptors are still free for files and windows, now that the socket
+/// `descriptor` is open. If not, close the socket: an agent that does not answer could
+/// otherwise use up all descriptors. Any thread.
+[[nodiscard]] bool leavesEnoughDescriptors(int descriptor);
 
 /// While it exists, the limit of descriptors is again what it was before
 /// `raiseDescriptorLimit`. Create it to start a child, which inherits the limit: programs

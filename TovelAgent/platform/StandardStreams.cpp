@@ -10,10 +10,10 @@ namespace quillmark {
 
 void openClosedStandardStreams() {
   // The system always gives the lowest free descriptor.
-  int descriptor = STDIN_FILENO;
-  while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+  int descriptor = -1;
+  do {
     descriptor = open("/dev/null", O_RDWR);
-  }
+  } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
   if (descriptor >= 0) {
     close(descriptor);
   }

@@ -48,8 +48,8 @@ DashboardViewModel::DashboardViewModel()
 
 void DashboardViewModel::startPolling() {
   updateData();
-  // The application owns the timer, and the timer keeps the model alive. Each call
-  // polls on its own: earlier timers keep running.
+  // The application owns the timer, and the timer keeps the model alive. Earlier timers keep
+  // running on purpose, see the declaration.
   timer_ = new QTimer(QCoreApplication::instance());
   timer_->setTimerType(Qt::PreciseTimer);
   timer_->callOnTimeout([self = shared_from_this()] { self->updateData(); });

@@ -3,15 +3,16 @@
 
 #include "viewmodel/DashboardViewModelRef.h"
 
+#include <initializer_list>
+
 namespace quillmark {
 
 DashboardViewModelRef::DashboardViewModelRef(QObject* parent)
     : QObject(parent), model_(DashboardViewModel::create()) {
   // QML must not take ownership of the model or of the lists inside it.
   for (QObject* const object :
-       {static_cast<QObject*>(model_.get()), static_cast<QObject*>(model_->alertRows()),
-        static_cast<QObject*>(model_->connectionRows()), static_cast<QObject*>(model_->appRows()),
-        static_cast<QObject*>(model_->cardRows())}) {
+       std::initializer_list<QObject*>{model_.get(), model_->alertRows(), model_->connectionRows(),
+                                       model_->appRows(), model_->cardRows()}) {
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
   }
 }

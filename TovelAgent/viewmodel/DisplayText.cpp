@@ -16,8 +16,8 @@ namespace {
 // No real text is this long, and longer text would block the window: the time to break
 // one word into lines grows with the square of its length, 11 ms for this many characters.
 constexpr std::size_t maxCharacters = 16'000;
-// Nor does a real text change between scripts and symbols of all kinds this often. Each
-// change may be one of the font, which takes as long as several characters.
+// No real text changes this often between scripts, or between kinds of symbols. Each change
+// may need another font, which takes as long to lay out as several characters.
 constexpr int maxChanges = 2'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }

@@ -33,8 +33,8 @@ constexpr auto everydayScripts = {
     QChar::Script_Tamil,    QChar::Script_Telugu,     QChar::Script_Thaana,
     QChar::Script_Thai,     QChar::Script_Tibetan};
 
-/// No real text mixes more.
-constexpr std::size_t maxScripts = 8;
+/// No real text mixes more scripts besides the basic ones.
+constexpr std::size_t maxFurtherScripts = 8;
 
 Scripts setOf(std::initializer_list<QChar::Script> scripts) {
   Scripts set;
@@ -57,7 +57,7 @@ void replaceRareScripts(std::u32string& text) {
     used.set(QChar::script(character));
   }
   const auto further = used & everyday;
-  const auto shown = further.count() > maxScripts ? basic : basic | further;
+  const auto shown = further.count() > maxFurtherScripts ? basic : basic | further;
   std::replace_if(
       text.begin(), text.end(),
       [&](char32_t character) { return !shown.test(QChar::script(character)); }, U'\uFFFD');

@@ -85,7 +85,7 @@ void SettingsState::checkAgentStatus() {
 }
 
 void SettingsState::checkAgentStatusLater(int milliseconds) {
-  // The tab may be destroyed by then: the probe runs anyway, and its result is dropped.
+  // The probe belongs to the start or stop, so it runs even if the tab is destroyed by then.
   // A precise timer, because a coarse one may fire 5 % early.
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(),
                      [state = QPointer<SettingsState>(this)] {

@@ -13,7 +13,7 @@
 namespace quillmark {
 
 /// The Settings tab's state and the actions of its buttons. It exists as long as
-/// the tab's view. UI thread only; access to files and commands block it.
+/// the tab's view. UI thread only; its file accesses and commands block that thread.
 class SettingsState : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -43,6 +43,7 @@ class SettingsState : public QObject {
   /// no view shows it.
   [[nodiscard]] bool isImporting() const { return isImporting_; }
   [[nodiscard]] bool showSuccess() const { return showSuccess_; }
+  /// Part of the tab's state, but no view shows it.
   [[nodiscard]] bool showError() const { return !statusMessage_.isEmpty() && !showSuccess_; }
   [[nodiscard]] QString apiKeyInput() const { return apiKeyInput_; }
   void setApiKeyInput(const QString& key);

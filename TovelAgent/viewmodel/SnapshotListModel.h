@@ -15,9 +15,9 @@
 
 namespace quillmark {
 
-/// A list whose rows are replaced as a whole after each poll. `present(const Row&)`,
-/// declared with the presentation's type, converts a row to what the view shows; it
-/// runs only for the rows on screen. UI thread only.
+/// A list whose rows are replaced as a whole after each poll. The function
+/// `present(const Row&)` next to the presentation's type converts a row to what the view
+/// shows; it runs only for the rows on screen. UI thread only.
 template <class Row>
 class SnapshotListModel final : public ListModel {
  public:
@@ -53,9 +53,9 @@ class SnapshotListModel final : public ListModel {
   // Comparing more rows than this takes longer than updating all visible rows.
   static constexpr int maxComparedRows = 2'000;
 
-  /// Signals the range of changed rows among the first `common`, or all of these if
-  /// there are too many to compare. The search from both ends ends at once when all rows
-  /// differ.
+  /// Signals the range of changed rows among the first `common`, or all of these if there
+  /// are too many to compare. When all rows differ, both searches stop at their first
+  /// comparison.
   void signalChanges(const std::vector<Row>& old, int common) {
     if (common > maxComparedRows) {
       Q_EMIT dataChanged(index(0), index(common - 1));
@@ -66,11 +66,10 @@ class SnapshotListModel final : public ListModel {
     if (first == oldEnd) {
       return;
     }
-    const auto unchangedAtEnd =
-        std::mismatch(std::make_reverse_iterator(oldEnd), std::make_reverse_iterator(first),
-                      std::make_reverse_iterator(rows_->begin() + common))
-            .first;
-    const auto last = unchangedAtEnd.base() - 1;
+    const auto reversed = [](auto position) { return std::make_reverse_iterator(position); };
+    const auto lastChanged =
+        std::mismatch(reversed(oldEnd), reversed(first), reversed(rows_->begin() + common)).first;
+    const auto last = lastChanged.base() - 1;
     Q_EMIT dataChanged(index(static_cast<int>(first - old.begin())),
                        index(static_cast<int>(last - old.begin())));
   }

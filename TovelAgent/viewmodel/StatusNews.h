@@ -41,7 +41,7 @@ class StatusNews : public QObject {
   QPointer<DashboardViewModel> viewModel_;
   bool isWindowActive_ = false;
   bool hasPolled_ = false;
-  std::optional<StatusPresentation> announced_;  ///< last; no value at first
+  std::optional<StatusPresentation> announced_;  ///< the header announced last, if any
 };
 
 /// The announcement of the change from `before`, which has no value at first, to `now`.

@@ -11,7 +11,7 @@ SectionCard {
 
     required property SettingsState settings
 
-    readonly property color ink: settings.isAgentRunning ? Theme.green : Theme.red
+    readonly property color foreground: settings.isAgentRunning ? Theme.green : Theme.red
 
     icon: "antenna.radiowaves.left.and.right"
     title: "Agent Status"
@@ -23,7 +23,7 @@ SectionCard {
             width: 10
             height: 10
             radius: 5
-            color: card.ink
+            color: card.foreground
             anchors.verticalCenter: parent.verticalCenter
         }
 
@@ -31,7 +31,7 @@ SectionCard {
             text: card.settings.agentStatusLine
             size: 13
             font.weight: Font.DemiBold
-            color: card.ink
+            color: card.foreground
         }
     }
 

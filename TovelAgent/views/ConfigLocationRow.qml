@@ -16,51 +16,46 @@ Box {
     radius: Theme.noticeRadius
     color: Theme.panelTint
 
-    // So that a screen reader reads it.
-    activeFocusOnTab: true
+    SpokenItem {
+        anchors.fill: parent
+        label: row.path + ", " + row.description
 
-    Accessible.role: Accessible.ListItem
-    Accessible.name: path + ", " + description
-    Accessible.focusable: true
-    Accessible.focused: activeFocus
+        Accessible.role: Accessible.ListItem
 
-    FocusRing {
-        target: row
-    }
+        Column {
+            id: column
 
-    Column {
-        id: column
+            x: 8
+            y: 8
+            spacing: 4
 
-        x: 8
-        y: 8
-        spacing: 4
+            Row {
+                spacing: Theme.spacing
 
-        Row {
-            spacing: Theme.spacing
+                SymbolIcon {
+                    name: "document.text"
+                    size: 12
+                    color: Theme.blue
+                    anchors.verticalCenter: parent.verticalCenter
+                }
 
-            SymbolIcon {
-                name: "document.text"
-                size: 12
-                color: Theme.blue
-                anchors.verticalCenter: parent.verticalCenter
+                Label {
+                    width: row.width - 2 * 8 - x
+                    text: row.path
+                    size: 12
+                    maximumLineCount: 1
+                    elide: Text.ElideRight
+                    font.weight: Font.DemiBold
+                    color: Theme.black
+                    anchors.verticalCenter: parent.verticalCenter
+                }
             }
 
             Label {
-                width: row.width - 2 * 8 - x
-                text: row.path
-                size: 12
-                maximumLineCount: 1
-                elide: Text.ElideRight
-                font.weight: Font.DemiBold
-                color: Theme.black
-                anchors.verticalCenter: parent.verticalCenter
+                text: row.description
+                size: 11
+                color: Theme.gray
             }
-        }
-
-        Label {
-            text: row.description
-            size: 11
-            color: Theme.gray
         }
     }
 }

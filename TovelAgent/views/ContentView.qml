@@ -30,8 +30,8 @@ Item {
         if (identifier === selectedTab)
             return;
         const hadFocus = content.activeFocus;
-        // While the focus is in the tab bar, a screen reader says the tab without this.
-        // Before the focus moves, so that it says last what has the focus.
+        // Not while the focus is in the tab bar: a screen reader then says the tab by itself.
+        // Announced before the focus moves, so that it says the focused item last.
         if (tabBar.focusedIndex() < 0)
             announcer.announce(tabs.find(tab => tab.identifier === identifier).title + " tab");
         selectedTab = identifier;

@@ -4,8 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// A value from the agent in the header: at most three lines, because the tabs
-/// below must stay in reach. Assistive technology reads the whole text.
+/// A value from the agent in the header: at most three lines, so that the
+/// tabs below stay inside the window. Assistive technology reads the whole text.
 MeasuredLabel {
     maximumLineCount: 3
     elide: Text.ElideRight

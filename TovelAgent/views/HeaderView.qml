@@ -11,7 +11,7 @@ Item {
 
     required property statusPresentation status
 
-    readonly property real widthWithoutGap: width - 2 * Theme.spacing
+    readonly property real widthWithoutGap: width - Theme.blockGap
 
     implicitHeight: Math.max(left.height, right.height)
 

@@ -5,8 +5,8 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first applications of the latest poll. Without an inventory the tab is blank;
-/// "Loading applications..." stands for an inventory without applications.
+/// The first applications of the latest poll. The tab is blank until there is an inventory.
+/// An inventory without applications is shown as "Loading applications...", on purpose.
 ListPage {
     id: tab
 

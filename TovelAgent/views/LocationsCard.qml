@@ -4,8 +4,8 @@
 import QtQuick
 import Quillmark.Controls
 
-/// Lists places where a configuration of the agent may be, on any system. The panel
-/// itself writes only the first one.
+/// Lists places where the agent may look for a configuration, on any system. The panel
+/// writes only the first one. Which files it reads is another list: `configSearchPaths()`.
 SectionCard {
     icon: "folder"
     title: "Config File Locations"

@@ -11,15 +11,15 @@ Item {
 
     required property connectionPresentation connection
 
-    readonly property real widthWithoutGap: width - 2 * Theme.spacing
+    readonly property real widthWithoutGap: width - Theme.blockGap
 
-    implicitHeight: Math.max(endpoints.height, state.height) + 2 * 8
+    implicitHeight: Math.max(endpoints.height, stateLabel.height) + 2 * 8
 
     Column {
         id: endpoints
 
         anchors.verticalCenter: parent.verticalCenter
-        width: row.widthWithoutGap - state.width
+        width: row.widthWithoutGap - stateLabel.width
         spacing: 4
 
         Label {
@@ -38,7 +38,7 @@ Item {
     }
 
     MeasuredLabel {
-        id: state
+        id: stateLabel
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter

@@ -29,7 +29,7 @@ Rectangle {
             buttons.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    /// The tab that has the keyboard focus; -1 if none has.
+    /// The index of the tab that has the keyboard focus; -1 if none has it.
     function focusedIndex(): int {
         return tabs.findIndex((_, index) => buttons.itemAt(index)?.activeFocus);
     }

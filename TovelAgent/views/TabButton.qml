@@ -13,7 +13,7 @@ Pressable {
     required property string icon
     required property bool isActive
 
-    readonly property color ink: isActive ? Theme.blue : Theme.gray
+    readonly property color foreground: isActive ? Theme.blue : Theme.gray
 
     label: title
     implicitWidth: column.width
@@ -44,7 +44,7 @@ Pressable {
                 SymbolIcon {
                     name: button.icon
                     size: 14
-                    color: button.ink
+                    color: button.foreground
                     anchors.verticalCenter: parent.verticalCenter
                 }
 
@@ -52,7 +52,7 @@ Pressable {
                     text: button.title
                     size: 13
                     font.weight: Font.DemiBold
-                    color: button.ink
+                    color: button.foreground
                     anchors.verticalCenter: parent.verticalCenter
                 }
             }
