@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "model/Codec.h"
+
 namespace quillmark {
 namespace {
 
@@ -18,9 +20,6 @@ constexpr int maxInterimAnswers = 16;
 // The shortest end of a chunked body. Never give the parser fewer bytes: after the
 // last chunk's size it asserts that the rest has arrived.
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
-
-// `decode` needs this much free capacity behind the text, and would otherwise copy it.
-constexpr std::size_t bodyPadding = 64;
 
 bool exceedsLimit(const error_code& error) {
   return error == http::error::header_limit || error == http::error::body_limit;
@@ -57,7 +56,7 @@ void AnswerReader::parse(std::size_t count) {
     } else if (parser_->is_done()) {
       endAnswer();
     } else if (inHeader && parser_->content_length()) {
-      parser_->get().body().reserve(*parser_->content_length() + bodyPadding);
+      parser_->get().body().reserve(*parser_->content_length() + decodePadding);
     }
   }
 }

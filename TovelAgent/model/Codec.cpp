@@ -45,7 +45,8 @@ simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing
   if (json.starts_with("\xEF\xBB\xBF")) {
     return simdjson::UTF8_ERROR;
   }
-  json.reserve(json.size() + simdjson::SIMDJSON_PADDING);
+  static_assert(decodePadding >= simdjson::SIMDJSON_PADDING);
+  json.reserve(json.size() + decodePadding);
   auto& [parser, document] = parsing;
   // Rounded, so that a text that is a little longer does not need a new parser.
   const auto capacity = std::bit_ceil(std::max(json.size(), minCapacity));

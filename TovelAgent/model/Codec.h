@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include <boost/system/result.hpp>
@@ -19,6 +20,9 @@ namespace quillmark {
 /// The record, or why it cannot be decoded.
 template <Record R>
 using Decoded = boost::system::result<R, DecodeError>;
+
+/// Free capacity behind the text that `decode` needs to work without copying the text.
+inline constexpr std::size_t decodePadding = 64;
 
 /// Decodes one JSON object into a record, using the record's field table. Returns
 /// the whole record or the first failure in table order; text that is not JSON

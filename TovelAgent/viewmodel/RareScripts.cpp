@@ -15,7 +15,8 @@ namespace {
 
 using Scripts = std::bitset<QChar::ScriptCount>;
 
-/// Almost every font has characters of these, so that a text in them needs few fonts.
+/// Latin, Greek, Cyrillic, and what belongs to no single script, such as digits, symbols and
+/// emoji. Together they need only a few fonts.
 constexpr auto basicScripts = {QChar::Script_Unknown, QChar::Script_Inherited,
                                QChar::Script_Common,  QChar::Script_Latin,
                                QChar::Script_Greek,   QChar::Script_Cyrillic};

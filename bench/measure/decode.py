@@ -21,7 +21,7 @@ def bodies():
 
 
 def medians_of(body):
-    """In a process of its own: what a large body leaves in the heap slows a small one."""
+    """Runs in a new process, because memory left by a large body slows a small one down."""
     measured = json.loads(output(
         f"--benchmark_filter=^{body}/", "--benchmark_format=json",
         "--benchmark_repetitions=21", "--benchmark_enable_random_interleaving=true",

@@ -2,8 +2,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Choosing tabs by pointer and by keyboard."""
 
-import itertools
-
 import pytest
 
 from harness import bodies, colours, hands
@@ -108,9 +106,7 @@ def test_other_keys_do_nothing(panel, backend, press):
     asked = len(backend.seen("status"))
     hands.key(press)
     panel.focus_on("tab", "Alerts")
-    starts = [request.time for request in backend.seen("status")[asked - 1:]]
-    # A poll by the key would follow the last one at once.
-    assert all(later - earlier > 1 for earlier, later in itertools.pairwise(starts))
+    assert len(backend.seen("status")) - asked <= 1
     shows_only(panel, "Alerts")
     assert panel.tree.read().texts() == before.texts()
     assert panel.window.box[2:] == (1000, 1000)

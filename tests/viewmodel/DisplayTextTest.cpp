@@ -51,7 +51,7 @@ TEST(DisplayText, IsCompleteIfItChangesBetweenScriptsLikeARealText) {
   }
 }
 
-// Each change may be one of the font, and too many of them would block the window.
+// Each change may need another font, and too many of them would block the window.
 TEST(DisplayText, EndsAfterTwoThousandChangesBetweenScriptsOrSymbols) {
   for (const std::string pair : {"中가", "☃😀", "a中"}) {
     const auto beginning = repeated(1'000, pair);

@@ -16,9 +16,8 @@ ENDPOINTS = ("status", "alerts", "network", "inventory")
 
 def pollers(starts):
     """How many pollers are active, from the start times of polls. Uses the mean of
-    several intervals, because a busy machine delays single polls; a very busy one leaves
-    some out."""
-    return max(1, round((len(starts) - 1) * 5 / (starts[-1] - starts[0])))
+    several intervals, because a busy machine delays single polls."""
+    return round((len(starts) - 1) * 5 / (starts[-1] - starts[0]))
 
 
 class Backend:
