@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "viewmodel/RareScripts.h"
+#include "viewmodel/ScriptLimits.h"
 
 namespace quillmark {
 namespace {
@@ -55,13 +55,15 @@ std::size_t endBeforeTooManyChanges(const std::u32string& text) {
 }  // namespace
 
 QString displayText(std::string_view text) {
+  // One for the process, as are the fonts that it limits.
+  static ScriptLimits limits;
   // Cut before the conversion: a text may be as long as a whole answer.
   std::size_t characters = 0;
   const auto* const end = std::find_if(text.begin(), text.end(), [&](char byte) {
     return beginsCharacter(byte) && ++characters > maxCharacters;
   });
   auto shown = QString::fromUtf8(text.data(), end - text.begin()).toStdU32String();
-  replaceRareScripts(shown);
+  limits.apply(shown);
   const auto length = endBeforeTooManyChanges(shown);
   const auto isCut = end != text.end() || length < shown.size();
   shown.resize(length);

@@ -39,8 +39,9 @@ TEST(DisplayText, EndsInAnEllipsisBeyondTheLimit) {
   }
 }
 
-TEST(DisplayText, HasNoCharactersOfRareScripts) {
-  EXPECT_EQ(displayText("a𒀀").toStdString(), "a\uFFFD");
+TEST(DisplayText, IsInAFewScriptsOnly) {
+  EXPECT_EQ(displayText("ա ב ت क ক ก 中 가 ა x").toStdString(),
+            "\uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD x");
 }
 
 TEST(DisplayText, IsCompleteIfItChangesBetweenScriptsLikeARealText) {

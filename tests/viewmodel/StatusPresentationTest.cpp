@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, StatusTextTest,
                                          StatusText{"ﬁne", QStringLiteral("FINE"), false},
                                          StatusText{"größe", QStringLiteral("GRÖSSE"), false},
                                          StatusText{"ждёт", QStringLiteral("ЖДЁТ"), false},
-                                         StatusText{"𐐨", QStringLiteral("�"), false},
+                                         StatusText{"𐐨", QStringLiteral("𐐀"), false},
                                          StatusText{"🛡 on", QStringLiteral("🛡 ON"), false},
                                          // As in every locale but two, where it would be "İ".
                                          StatusText{"idle", QStringLiteral("IDLE"), false}));

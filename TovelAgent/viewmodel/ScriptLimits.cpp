@@ -1,19 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "viewmodel/RareScripts.h"
+#include "viewmodel/ScriptLimits.h"
 
 #include <algorithm>
-#include <bitset>
 #include <cstddef>
 #include <initializer_list>
-
-#include <QChar>
 
 namespace quillmark {
 namespace {
 
-using Scripts = std::bitset<QChar::ScriptCount>;
+using Scripts = ScriptLimits::Scripts;
 
 /// Latin, Greek, Cyrillic, and what belongs to no single script, such as digits, symbols and
 /// emoji. Together they need only a few fonts.
@@ -36,6 +33,8 @@ constexpr auto everydayScripts = {
 
 /// No real text mixes more scripts besides the basic ones.
 constexpr std::size_t maxFurtherScripts = 8;
+/// No real agent sends texts in more scripts that are neither basic nor everyday.
+constexpr std::size_t maxRareScripts = 4;
 
 Scripts setOf(std::initializer_list<QChar::Script> scripts) {
   Scripts set;
@@ -49,7 +48,7 @@ Scripts setOf(std::initializer_list<QChar::Script> scripts) {
 
 // Qt opens the fonts of each script on the UI thread and keeps them. Text in all scripts
 // would open most fonts of the machine, which takes seconds and 100 MiB.
-void replaceRareScripts(std::u32string& text) {
+void ScriptLimits::apply(std::u32string& text) {
   static const auto basic = setOf(basicScripts);
   static const auto everyday = setOf(everydayScripts);
 
@@ -57,8 +56,16 @@ void replaceRareScripts(std::u32string& text) {
   for (const auto character : text) {
     used.set(QChar::script(character));
   }
-  const auto further = used & everyday;
-  const auto shown = further.count() > maxFurtherScripts ? basic : basic | further;
+  auto shown = basic;
+  if ((used & ~basic).count() <= maxFurtherScripts) {
+    const auto rare = used & ~basic & ~everyday;
+    for (std::size_t script = 0; script < rare.size(); ++script) {
+      if (rare.test(script) && rareScripts_.count() < maxRareScripts) {
+        rareScripts_.set(script);
+      }
+    }
+    shown |= everyday | rareScripts_;
+  }
   std::replace_if(
       text.begin(), text.end(),
       [&](char32_t character) { return !shown.test(QChar::script(character)); }, U'\uFFFD');
