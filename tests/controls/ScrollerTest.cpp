@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <memory>
+#include <ostream>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -55,6 +57,10 @@ struct Press {
   qreal from;
   qreal to;
 };
+
+void PrintTo(const Press& press, std::ostream* out) {
+  *out << QKeySequence(press.key).toString().toStdString() << " from " << press.from;
+}
 
 class ScrollerKeysTest : public ScrollerTest, public testing::WithParamInterface<Press> {};
 

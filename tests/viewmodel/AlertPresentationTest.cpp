@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,6 +19,8 @@ struct Severity {
   const char* icon;
   const char* color;
 };
+
+void PrintTo(const Severity& severity, std::ostream* out) { *out << '"' << severity.text << '"'; }
 
 class SeverityTest : public testing::TestWithParam<Severity> {};
 

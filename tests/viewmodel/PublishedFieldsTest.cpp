@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <optional>
+#include <ostream>
 #include <string>
 
 #include "support/TokenFiles.h"
@@ -45,6 +46,8 @@ struct Endpoint {
   const char* target;
   const char* summary;  // with this endpoint's request failed
 };
+
+void PrintTo(const Endpoint& endpoint, std::ostream* out) { *out << endpoint.target; }
 
 class OneEndpointFailsTest : public PollingTest, public testing::WithParamInterface<Endpoint> {
  protected:

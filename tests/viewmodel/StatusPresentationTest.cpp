@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <limits>
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -36,6 +37,8 @@ struct StatusText {
   bool isHealthy;
 };
 
+void PrintTo(const StatusText& status, std::ostream* out) { *out << '"' << status.received << '"'; }
+
 class StatusTextTest : public testing::TestWithParam<StatusText> {};
 
 TEST_P(StatusTextTest, IsShownInUpperCaseAndJudgedAsReceived) {
@@ -69,6 +72,8 @@ struct ThreatCount {
   QString shown;
   bool isHealthy;
 };
+
+void PrintTo(const ThreatCount& threats, std::ostream* out) { *out << threats.count; }
 
 class ThreatCountTest : public testing::TestWithParam<ThreatCount> {};
 
