@@ -16,22 +16,23 @@ namespace {
 // No real text is this long, and longer text would block the window: the time to break
 // one word into lines grows with the square of its length, 11 ms for this many characters.
 constexpr std::size_t maxCharacters = 16'000;
-// No real text changes this often between scripts, or between kinds of symbols. Each change
-// may need another font, which takes as long to lay out as several characters.
-constexpr int maxChanges = 2'000;
+// No real text changes this often between scripts, or between kinds of symbols; Japanese
+// does about 7,000 times in the most characters. Each change may need another font, which
+// takes as long to lay out as several characters.
+constexpr int maxChanges = 8'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
-constexpr std::uint32_t anyKind = 0;
+constexpr std::uint32_t neutralKind = 0;
 
 /// Characters of one kind are likely to be in one font.
 std::uint32_t kindOf(char32_t character) {
   constexpr char32_t blockSize = 128;
-  const auto script = QChar::script(character);
+  const auto script = scriptOf(character);
   // Marks belong to the character before them; each font has ASCII's digits and signs.
   if (script == QChar::Script_Inherited ||
       (script == QChar::Script_Common && character < blockSize)) {
-    return anyKind;
+    return neutralKind;
   }
   return script == QChar::Script_Common ? QChar::ScriptCount + character / blockSize
                                         : std::uint32_t{script};
@@ -39,11 +40,11 @@ std::uint32_t kindOf(char32_t character) {
 
 /// The position at which the text has changed too often.
 std::size_t endBeforeTooManyChanges(const std::u32string& text) {
-  auto last = anyKind;
+  auto last = neutralKind;
   auto changes = 0;
   const auto end = std::find_if(text.begin(), text.end(), [&](char32_t character) {
     const auto kind = kindOf(character);
-    if (kind != anyKind && kind != last) {
+    if (kind != neutralKind && kind != last) {
       last = kind;
       ++changes;
     }
@@ -55,7 +56,7 @@ std::size_t endBeforeTooManyChanges(const std::u32string& text) {
 }  // namespace
 
 QString displayText(std::string_view text) {
-  // One for the process, as are the fonts that it limits.
+  // Shared by all texts, because Qt keeps the fonts for the whole process.
   static ScriptLimits limits;
   // Cut before the conversion: a text may be as long as a whole answer.
   std::size_t characters = 0;

@@ -10,19 +10,22 @@
 
 namespace quillmark {
 
+/// As `QChar::script`, but `Script_Unknown` for scripts that only a newer Qt knows than the
+/// one that the program was built with. Any thread.
+[[nodiscard]] QChar::Script scriptOf(char32_t character);
+
 /// Limits how many scripts the agent's texts can make Qt open fonts for. Real texts stay
-/// far below the limits. Any thread, but one object only one at a time.
+/// below the limit. Any thread, but each object only one at a time.
 class ScriptLimits {
  public:
-  using Scripts = std::bitset<QChar::ScriptCount>;
-
-  /// Puts U+FFFD in place of all characters except Latin, Greek, Cyrillic and symbols if the
-  /// text contains more than eight further scripts. Of the scripts that are not in widespread
-  /// use today, only the first four that this object meets are left in texts.
+  /// Puts U+FFFD in place of each character of a script that is not in widespread use
+  /// today, except for the first four of these scripts that this object meets.
   void apply(std::u32string& text);
 
  private:
-  Scripts rareScripts_;
+  [[nodiscard]] bool allows(char32_t character);
+
+  std::bitset<QChar::ScriptCount> rareScripts_;
 };
 
 }  // namespace quillmark
