@@ -10,8 +10,7 @@ Flickable {
 
     default property alias content: column.data
     required property string label
-    property int padding: 20
-    property alias spacing: column.spacing
+    readonly property int padding: 20
 
     /// Scrolls until `item`, which must be inside the page, is in view.
     function reveal(item: Item) {
@@ -29,8 +28,6 @@ Flickable {
     // Not Pane: a screen reader would read all texts of a pane that gets the focus.
     Accessible.role: Accessible.Section
     Accessible.name: label
-    Accessible.focusable: activeFocusOnTab
-    Accessible.focused: activeFocus
     Accessible.onScrollUpAction: scroller.scrollLines(-1)
     Accessible.onScrollDownAction: scroller.scrollLines(1)
     Accessible.onPreviousPageAction: scroller.scrollPages(-1)
@@ -42,6 +39,7 @@ Flickable {
         x: page.padding
         y: page.padding
         width: page.width - 2 * page.padding
+        spacing: 20
     }
 
     Scroller {

@@ -5,8 +5,11 @@ import QtQuick
 import QtQuick.Dialogs
 import Quillmark.ViewModel
 
-/// The open dialog for a configuration file; the desktop's own if it has one.
+/// The open dialog for a configuration file; the desktop's own if it has one. Opens when
+/// it is created and again on request: Qt frees its own dialog only with the window.
 FileDialog {
+    id: picker
+
     required property SettingsState settings
     /// Gets the keyboard focus when the dialog closes; after Qt's own dialog no item
     /// would have it.
@@ -23,4 +26,12 @@ FileDialog {
     }
 
     Component.onCompleted: open()
+
+    Connections {
+        target: picker.settings
+
+        function onPickerRequested() {
+            picker.open();
+        }
+    }
 }

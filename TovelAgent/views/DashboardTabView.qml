@@ -12,7 +12,6 @@ ScrollPage {
     required property DashboardViewModel viewModel
 
     label: "Dashboard"
-    spacing: 20
 
     Repeater {
         model: tab.viewModel.statsCards

@@ -22,10 +22,10 @@ FocusScope {
         id: settings
 
         Component.onCompleted: refresh()
-        onPickerRequested: picker.setSource("ConfigFilePicker.qml", {
-            settings: settings,
-            opener: advanced.browse
-        })
+        onPickerRequested: {
+            if (picker.status === Loader.Null)
+                picker.setSource("ConfigFilePicker.qml", { settings: settings, opener: advanced.browse });
+        }
         onStatusMessageChanged: {
             page.reveal(advanced.notice);
             tab.announced(statusMessage);
@@ -39,7 +39,6 @@ FocusScope {
         anchors.fill: parent
         focus: true
         label: "Settings"
-        spacing: 20
 
         AgentStatusCard {
             settings: settings
@@ -58,7 +57,7 @@ FocusScope {
         LocationsCard {}
     }
 
-    // Created on demand, because a dialog costs more than the whole tab.
+    // Created on demand, because a dialog costs more than the whole tab. It opens itself.
     Loader {
         id: picker
     }

@@ -10,7 +10,7 @@ ViewTest {
     name: "ScrollPage"
 
     function page(contentHeight) {
-        const view = make(component, { width: 400, height: 300, spacing: 20, boxHeight: contentHeight });
+        const view = make(component, { width: 400, height: 300, boxHeight: contentHeight });
         view.forceActiveFocus(Qt.TabFocusReason);
         return view;
     }
@@ -52,9 +52,9 @@ ViewTest {
         const view = page(1000);
         compare(view.Accessible.role, Accessible.Section);
         compare(view.Accessible.name, "Page");
-        verify(view.Accessible.focusable);
-        verify(view.Accessible.focused);
-        verify(!make(component, { width: 400, height: 300, boxHeight: 100 }).Accessible.focusable);
+        verify(view.activeFocusOnTab);
+        verify(view.activeFocus);
+        verify(!make(component, { width: 400, height: 300, boxHeight: 100 }).activeFocusOnTab);
     }
 
     function test_focusIsVisible() {

@@ -42,6 +42,15 @@ def test_lists_all_files_with_the_other_filter(panel):
         panel.tree.wait_for("text", "other.cfg")
 
 
+def test_opens_again_as_it_was_left(panel):
+    with picker.opened(panel):
+        panel.press_until_focused("combo box", "Configuration files (*.toml *.txt)")
+        hands.key("Down")
+        panel.tree.wait_for("text", "other.cfg")
+    with picker.opened(panel):
+        panel.tree.wait_for("text", "other.cfg")
+
+
 def test_the_chosen_row_can_be_read(panel):
     with picker.opened(panel):
         hands.park()
