@@ -18,12 +18,12 @@ Column {
     width: parent?.width ?? 0
 
     // Qt passes the property `text` to assistive technology, even for a masked field. So the
-    // field below declares its own `text`, with the displayed characters, in place of
-    // TextInput's. This alias keeps the real text reachable.
-    component Entry: TextInput {
-        id: entry
+    // field below declares its own `text`, with the displayed characters; `realText` is
+    // TextInput's.
+    component Input: TextInput {
+        id: input
 
-        property alias content: entry.text
+        property alias realText: input.text
     }
 
     Column {
@@ -46,12 +46,12 @@ Column {
         Box {
             width: parent.width
             height: input.implicitHeight
-            radius: Theme.sectionRadius
+            radius: Theme.mediumRadius
             color: Theme.white
             borderWidth: input.activeFocus ? 2 : 1
             borderColor: input.activeFocus ? Theme.blue : Theme.fieldBorder
 
-            Entry {
+            Input {
                 id: input
 
                 property string text: displayText
@@ -75,8 +75,9 @@ Column {
                 selectedTextColor: Theme.white
                 selectByMouse: true
                 activeFocusOnTab: true
-                content: field.value
-                onTextEdited: field.edited(content)
+                realText: field.value
+                // Pasted text may contain line breaks, which would end the value in the file.
+                onTextEdited: field.edited(realText.replace(/[\r\n]/g, ""))
 
                 Accessible.role: Accessible.EditableText
                 Accessible.name: field.label

@@ -17,7 +17,7 @@ ViewTest {
     }
 
     function inputOf(view) {
-        return itemOfType(view, "Entry");
+        return itemOfType(view, "Input");
     }
 
     function test_label() {
@@ -63,6 +63,17 @@ ViewTest {
         compare(edited.signalArguments[0][0], "a");
     }
 
+    function test_reportsPastedLinesAsOne() {
+        const input = inputOf(field());
+        input.forceActiveFocus();
+        clipboard.text = "a key\r\n";
+        clipboard.selectAll();
+        clipboard.copy();
+        keyClick(Qt.Key_V, Qt.ControlModifier);
+        compare(edited.count, 1);
+        compare(edited.signalArguments[0][0], "a key");
+    }
+
     function test_maskedFieldShowsDots() {
         const view = field({ value: "secret", echoMode: TextInput.Password });
         compare(inputOf(view).displayText, "\u25CF".repeat(6));
@@ -94,6 +105,10 @@ ViewTest {
         verify(!group.Accessible.ignored);
         compare(inputOf(view).Accessible.description, "Filled in");
         verify(inputOf(field()).parent.parent.Accessible.ignored);
+    }
+
+    TextInput {
+        id: clipboard
     }
 
     Component {
