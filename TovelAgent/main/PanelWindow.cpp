@@ -14,17 +14,17 @@
 namespace quillmark {
 namespace {
 
-/// Destroys `window`, but leaks Qt's own file dialog, a child of it: destroying that
-/// crashes Qt 6.4 while assistive technology is connected. The dialog is closed and
-/// takes a few hundred kilobytes.
-void destroy(QQuickWindow* window) {
+/// Later, because the window may still be being closed. Leaks Qt's own file dialog, a child
+/// of the window: destroying that crashes Qt 6.4 while assistive technology is connected.
+/// The dialog is closed and takes a few hundred kilobytes.
+void destroyLater(QQuickWindow* window) {
   const auto children = window->children();
   for (auto* const child : children) {
     if (child->inherits("QQuickPopup")) {
       child->setParent(nullptr);
     }
   }
-  delete window;
+  window->deleteLater();
 }
 
 }  // namespace
@@ -34,10 +34,10 @@ PanelWindow::PanelWindow(QQmlEngine& engine)
 
 PanelWindow::~PanelWindow() {
   // Qt warns if a component is destroyed between beginCreate() and completeCreate().
-  layOut();
+  completeCreation();
   if (window_ != nullptr) {
     window_->disconnect(this);
-    destroy(window_);
+    delete window_;
   }
 }
 
@@ -46,7 +46,7 @@ void PanelWindow::open() {
   if (window_ == nullptr) {
     qFatal("The main window cannot be built: %s", qUtf8Printable(component_.errorString()));
   }
-  isLaidOut_ = false;
+  isCreating_ = true;
   // Not in QML, whose engine would first have to load all of Qt's enumerations.
   window_->setFlags(Qt::Window | Qt::FramelessWindowHint);
   // Qt's X11 platform reads the window's role from here; other platforms have none.
@@ -55,10 +55,7 @@ void PanelWindow::open() {
   // The window is hidden only when it is closed.
   connect(window_, &QWindow::visibleChanged, this, [this](bool visible) {
     if (!visible) {
-      // Queued, because the window is still being closed.
-      QMetaObject::invokeMethod(
-          this, [closed = std::exchange(window_, nullptr)] { destroy(closed); },
-          Qt::QueuedConnection);
+      destroyLater(std::exchange(window_, nullptr));
     }
   });
 }
@@ -73,13 +70,13 @@ void PanelWindow::present() {
   window_->raise();
   window_->requestActivate();
   // Last, so that the layout runs while the desktop maps the window.
-  layOut();
+  completeCreation();
 }
 
-void PanelWindow::layOut() {
-  if (!std::exchange(isLaidOut_, true)) {
-    // On completion Qt applies the value of `visible` that was last set as a property. So
-    // far that is QML's default, false, which would hide the window again.
+void PanelWindow::completeCreation() {
+  if (std::exchange(isCreating_, false)) {
+    // completeCreate() applies the last value that was written to the property `visible`.
+    // setVisible() writes none, so without this line the window would be hidden again.
     window_->setProperty("visible", window_->isVisible());
     component_.completeCreate();
   }

@@ -20,20 +20,19 @@ class PanelWindow final : public QObject {
   explicit PanelWindow(QQmlEngine& engine);
   ~PanelWindow() override;
 
-  /// Creates the window, hidden; none may exist before. Its content is laid out when it
-  /// is presented. Ends the program if the window cannot be built.
+  /// Creates the window, hidden; call only while there is none. `present` lays out its
+  /// content. Ends the program if the window cannot be built.
   void open();
 
   /// Brings the window forward; creates it first if there is none.
   void present();
 
  private:
-  /// Lays out the content, if this has not been done yet.
-  void layOut();
+  void completeCreation();
 
   QQmlComponent component_;
   QQuickWindow* window_ = nullptr;  ///< null while the window is closed
-  bool isLaidOut_ = true;
+  bool isCreating_ = false;         ///< between beginCreate() and completeCreate()
 };
 
 }  // namespace quillmark

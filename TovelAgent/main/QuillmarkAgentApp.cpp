@@ -25,7 +25,7 @@ int QuillmarkAgentApp::run() {
   // Listing the fonts and formatting the first date are slow. Both run in parallel with
   // loading the views, which need the fonts at their first text and a date after the
   // first poll.
-  const std::jthread warmUp([] {
+  std::jthread warmUp([] {
     static_cast<void>(QFontDatabase::families());
     static_cast<void>(formatDate(QStringLiteral("2000-01-01T00:00:00Z")));
   });
@@ -47,6 +47,8 @@ int QuillmarkAgentApp::run() {
   window.open();
   appDelegate.applicationDidFinishLaunching();
   window.present();
+  // From now on, a call over the bus may change the environment, which this thread reads.
+  warmUp.join();
   return QCoreApplication::exec();
 }
 

@@ -60,6 +60,13 @@ TEST_F(PanelWindowTest, DestroysAWindowThatIsClosed) {
   EXPECT_TRUE(windows().isEmpty());
 }
 
+TEST_F(PanelWindowTest, DestroysItsWindowWhenTheProgramQuits) {
+  const QPointer<QQuickWindow> window = presented();
+  QMetaObject::invokeMethod(qGuiApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  QCoreApplication::exec();
+  EXPECT_TRUE(window.isNull());
+}
+
 TEST_F(PanelWindowTest, OpensAnotherAfterTheFirstIsClosed) {
   panel().open();
   AppDelegate().applicationDidFinishLaunching();
