@@ -29,7 +29,6 @@ bool isMenuKey(const QKeyEvent& press) {
 bool ListScroller::eventFilter(QObject* watched, QEvent* event) {
   if (watched == target() && event->type() == QEvent::MouseButtonPress) {
     moveToRowAt(static_cast<QMouseEvent*>(event)->position().y());
-    Q_EMIT movedByPointer();
   }
   if (watched == target() && event->type() == QEvent::KeyPress) {
     const auto* const press = static_cast<QKeyEvent*>(event);
@@ -52,12 +51,13 @@ void ListScroller::followFocus() {}
 bool ListScroller::handleKey(int key) {
   const bool isHandled = Scroller::handleKey(key);
   if (isHandled) {
-    Q_EMIT movedByKey();
+    Q_EMIT moved(false);
   }
   return isHandled;
 }
 
 bool ListScroller::moveToRowAt(qreal y) {
+  Q_EMIT moved(true);
   const int index = rowAt(y);
   if (index < 0) {
     return false;
@@ -70,15 +70,15 @@ bool ListScroller::moveToRowAt(qreal y) {
 }
 
 void ListScroller::copy() {
-  if (const auto* const item = row(current())) {
+  if (const auto* const item = row(currentIndex())) {
     QGuiApplication::clipboard()->setText(item->property("label").toString());
     Q_EMIT copied();
   }
 }
 
-int ListScroller::current() const { return target()->property("currentIndex").toInt(); }
+int ListScroller::currentIndex() const { return target()->property("currentIndex").toInt(); }
 
-int ListScroller::last() const { return target()->property("count").toInt() - 1; }
+int ListScroller::lastIndex() const { return target()->property("count").toInt() - 1; }
 
 /// Null if ListView has not created it: if it is neither in view nor the current one.
 QQuickItem* ListScroller::row(int index) const {
@@ -94,7 +94,7 @@ QRectF ListScroller::placeOf(int index) const {
   return item != nullptr ? item->mapRectToItem(target(), item->boundingRect()) : QRectF();
 }
 
-bool ListScroller::fillsView(int index) const {
+bool ListScroller::isHigherThanView(int index) const {
   return placeOf(index).height() > target()->height();
 }
 
@@ -115,23 +115,25 @@ int ListScroller::firstInView() const {
 }
 
 void ListScroller::moveTo(int index) {
-  const int row = std::clamp(index, 0, std::max(0, last()));
-  target()->setProperty("currentIndex", row);
-  QMetaObject::invokeMethod(target(), "positionViewAtIndex", Q_ARG(int, row), Q_ARG(int, contain));
+  const int bounded = std::clamp(index, 0, std::max(0, lastIndex()));
+  target()->setProperty("currentIndex", bounded);
+  QMetaObject::invokeMethod(target(), "positionViewAtIndex", Q_ARG(int, bounded),
+                            Q_ARG(int, contain));
 }
 
 void ListScroller::moveByLine(int direction) {
-  const auto place = placeOf(current());
+  const auto place = placeOf(currentIndex());
   const auto height = target()->height();
   const bool isInView = place.bottom() > 0 && place.top() < height;
   if (!isInView) {
     // The user has scrolled the current row out of view: continue with the rows in view.
     moveTo(direction > 0 ? firstInView() : rowAt(height - 1));
-  } else if (fillsView(current()) && (direction > 0 ? place.bottom() > height + edgeTolerance
-                                                    : place.top() < -edgeTolerance)) {
+  } else if (isHigherThanView(currentIndex()) &&
+             (direction > 0 ? place.bottom() > height + edgeTolerance
+                            : place.top() < -edgeTolerance)) {
     scrollLines(direction);
   } else {
-    moveTo(current() + direction);
+    moveTo(currentIndex() + direction);
   }
 }
 
@@ -143,17 +145,17 @@ void ListScroller::moveByPage(int direction) {
     return;
   }
   const int reached = firstInView();
-  const bool isFurther = direction > 0 ? reached > current() : reached < current();
+  const bool isFurther = direction > 0 ? reached > currentIndex() : reached < currentIndex();
   if (isFurther) {
     moveTo(reached);
-  } else if (!fillsView(current())) {
+  } else if (!isHigherThanView(currentIndex())) {
     // Every key press moves the position, except inside a row that is higher than the view.
-    moveTo(current() + direction);
+    moveTo(currentIndex() + direction);
   }
 }
 
 void ListScroller::moveToEnd(int direction) {
-  moveTo(direction > 0 ? last() : 0);
+  moveTo(direction > 0 ? lastIndex() : 0);
   if (direction > 0) {
     // ListView only estimates the height of rows that it has not created yet.
     QMetaObject::invokeMethod(target(), "positionViewAtEnd");

@@ -13,6 +13,7 @@ namespace quillmark {
 /// to a row. It is no selection. Polls and scrolling by pointer leave it where it is.
 ///
 /// A row is an item with the property `label`, its text. UI thread only.
+// Qualified, because qmllint finds the base class only under this name.
 class ListScroller : public quillmark::Scroller {
   Q_OBJECT
   QML_ELEMENT
@@ -30,8 +31,8 @@ class ListScroller : public quillmark::Scroller {
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
  Q_SIGNALS:
-  void movedByKey();
-  void movedByPointer();
+  /// The user has moved the reading position, or tried to.
+  void moved(bool byPointer);
   void copied();
   /// The Menu key or Shift+F10 was pressed.
   void menuRequested();
@@ -44,11 +45,11 @@ class ListScroller : public quillmark::Scroller {
   void moveToEnd(int direction) override;
 
  private:
-  [[nodiscard]] int current() const;
-  [[nodiscard]] int last() const;
+  [[nodiscard]] int currentIndex() const;
+  [[nodiscard]] int lastIndex() const;
   [[nodiscard]] QQuickItem* row(int index) const;
   [[nodiscard]] QRectF placeOf(int index) const;
-  [[nodiscard]] bool fillsView(int index) const;
+  [[nodiscard]] bool isHigherThanView(int index) const;
   [[nodiscard]] int rowAt(qreal y) const;
   [[nodiscard]] int firstInView() const;
   void moveTo(int index);

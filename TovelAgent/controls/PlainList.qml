@@ -51,18 +51,18 @@ ListView {
 
     // When every row in view is removed, ListView would jump to near the top.
     Connections {
-        property bool allGone: false
+        property bool removesAllInView: false
 
         // Null for a model that is only a number.
         target: list.model instanceof QtObject ? list.model : null
 
         // Rows are removed at the end: if the first one in view goes, all in view go.
         function onRowsAboutToBeRemoved(parent, first) {
-            allGone = list.indexAt(0, list.contentY) >= first;
+            removesAllInView = list.indexAt(0, list.contentY) >= first;
         }
 
         function onRowsRemoved() {
-            if (allGone)
+            if (removesAllInView)
                 goToEnd.start();
         }
     }
@@ -79,11 +79,10 @@ ListView {
         id: scroller
 
         target: list
-        onMovedByKey: {
-            ring.fromPointer = false;
+        onMoved: byPointer => {
+            ring.fromPointer = byPointer;
             list.spokenCount = list.count;
         }
-        onMovedByPointer: ring.fromPointer = true
         onCopied: list.copied()
         onMenuRequested: menu.openBelow(list.currentItem)
     }
@@ -93,7 +92,6 @@ ListView {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton
         onPressed: mouse => {
-            ring.fromPointer = true;
             list.forceActiveFocus(Qt.MouseFocusReason);
             if (scroller.moveToRowAt(mouse.y))
                 menu.openAt(mouse.x, mouse.y);

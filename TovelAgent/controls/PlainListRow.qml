@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Quillmark.Controls
 
 /// One row of a `PlainList`: adds the insets and the line below to the row's
 /// content.
@@ -33,7 +34,6 @@ Item {
     Accessible.name: label
     Accessible.description: (index + 1) + " of " + (ListView.view?.spokenCount ?? 0)
     Accessible.focusable: true
-    Accessible.focused: activeFocus
 
     Item {
         id: holder
@@ -43,17 +43,11 @@ Item {
         width: row.width - 2 * Theme.listInset
     }
 
-    Rectangle {
+    Box {
         anchors.bottom: parent.bottom
-        // Moves the edge off a pixel's middle, where rounding is unpredictable.
-        anchors.bottomMargin: row.pixel / 8
         x: Theme.listInset
         width: row.width - Theme.listInset
         height: 1
         color: Theme.separator
-        // Looks like 1, but the line no longer counts as opaque. The software renderer
-        // does not paint what is below an opaque item, not even in pixels that the item
-        // covers only partly.
-        opacity: 0.999
     }
 }

@@ -28,7 +28,7 @@ ViewTest {
         const inset = Theme.listRowInset;
         compare(row.width, 400);
         compare(row.height, rowHeight + 2 * inset);
-        const line = itemsOfType(row, "Rectangle").filter(item => item.height === 1)[0];
+        const line = itemsOfType(row, "Box")[0];
         // Except for a fraction of a pixel, which decides how it is rounded.
         fuzzyCompare(boxIn(line, row).bottom, row.height, 0.25);
         compareColor(line.color, Theme.separator);
@@ -298,9 +298,24 @@ ViewTest {
         const row = view.itemAtIndex(1);
         compare(row.Accessible.name, "row 1");
         compare(row.Accessible.description, "2 of 3");
-        verify(!row.Accessible.focused);
+        verify(!row.activeFocus);
         keyClick(Qt.Key_Down);
-        verify(row.Accessible.focused);
+        verify(row.activeFocus);
+    }
+
+    function test_saysTheNumberOfRowsAtTheLastClick_data() {
+        return [{ tag: "left", button: Qt.LeftButton }, { tag: "right", button: Qt.RightButton }];
+    }
+
+    function test_saysTheNumberOfRowsAtTheLastClick(data) {
+        rows.clear();
+        rows.append([{ text: "row" }, { text: "row" }]);
+        const view = make(component, { width: 400, height: 300, model: rows });
+        view.forceActiveFocus(Qt.TabFocusReason);
+        rows.append({ text: "row" });
+        compare(view.itemAtIndex(1).Accessible.description, "2 of 2");
+        mouseClick(view.itemAtIndex(1), 50, 10, data.button);
+        compare(view.itemAtIndex(1).Accessible.description, "2 of 3");
     }
 
     function test_tabKeyLeavesTheList() {
