@@ -28,7 +28,7 @@ FailureText textOf(HttpFailure failure) {
       return {"not connected", "no connection"};
     case HttpFailure::timedOut:
       return {"silent", "no answer"};
-    case HttpFailure::brokenOff:
+    case HttpFailure::connectionLost:
       return {"broken off", "the connection ended before the answer did"};
     case HttpFailure::malformed:
       return {"malformed", "the answer is not HTTP"};

@@ -67,7 +67,7 @@ void AnswerReader::finish() {
     parser_->put_eof(error);
   }
   if (error) {
-    failure_ = HttpFailure::brokenOff;
+    failure_ = HttpFailure::connectionLost;
   } else {
     isDone_ = true;
   }

@@ -55,7 +55,7 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
   const auto outgoing = asio::buffer(text);
   co_await asio::async_write(stream, outgoing, completion);
   if (error) {
-    co_return failureOf(error, HttpFailure::brokenOff);
+    co_return failureOf(error, HttpFailure::connectionLost);
   }
 
   AnswerReader answer(limits);
@@ -67,7 +67,7 @@ asio::awaitable<HttpResult> exchange(HttpRequest request, HttpLimits limits) {
     } else if (error == asio::error::eof) {
       answer.finish();
     } else {
-      co_return failureOf(error, HttpFailure::brokenOff);
+      co_return failureOf(error, HttpFailure::connectionLost);
     }
   }
   co_return answer.takeResult();

@@ -37,11 +37,11 @@ struct HttpAnswer {
 
 /// Why there is no answer.
 enum class HttpFailure {
-  notConnected,  ///< no connection to the address, or too few descriptors left
-  timedOut,      ///< the answer was not complete within `HttpLimits::time`
-  brokenOff,     ///< the connection ended before the answer was complete
-  malformed,     ///< not an HTTP answer, or more than 16 interim ones
-  tooLarge,      ///< the answer is larger than `HttpLimits` allows
+  notConnected,    ///< no connection to the address, or too few descriptors left
+  timedOut,        ///< the answer was not complete within `HttpLimits::time`
+  connectionLost,  ///< the connection ended before the answer was complete
+  malformed,       ///< not an HTTP answer, or more than 16 interim ones
+  tooLarge,        ///< the answer is larger than `HttpLimits` allows
 };
 
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;

@@ -19,7 +19,7 @@ Pressable {
 
     Box {
         anchors.fill: parent
-        radius: Theme.sectionRadius
+        radius: Theme.mediumRadius
         color: button.background
     }
 

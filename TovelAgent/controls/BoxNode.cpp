@@ -29,13 +29,13 @@ BoxNode::BoxNode(QQuickWindow& window) : window_(window), patch_(window.createNi
 }
 
 void BoxNode::show(QSize box, const BoxLook& look, qreal ratio) {
-  const BoxPicture picture(look, box);
-  if (picture.size != textureSize_ || !(look == look_)) {
+  const BoxPatch patch(look, box);
+  if (patch.size != textureSize_ || look != look_) {
     look_ = look;
-    draw(picture);
+    draw(patch);
   }
   ratio_ = ratio;
-  const auto reach = picture.reach;
+  const auto reach = patch.reach;
   patch_->setBounds(QRectF({}, box).adjusted(-reach, -reach, reach, reach));
   patch_->update();
 }
@@ -52,10 +52,10 @@ void BoxNode::preprocess() {
   }
 }
 
-void BoxNode::draw(const BoxPicture& picture) {
-  textureSize_ = picture.size;
-  patch_->setTexture(window_.createTextureFromImage(drawBox(look_, picture)));
-  const auto& corners = picture.corners;
+void BoxNode::draw(const BoxPatch& patch) {
+  textureSize_ = patch.size;
+  patch_->setTexture(window_.createTextureFromImage(drawBox(look_, patch)));
+  const auto& corners = patch.corners;
   patch_->setPadding(corners.left(), corners.top(), corners.right(), corners.bottom());
 }
 

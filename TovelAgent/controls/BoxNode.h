@@ -7,7 +7,7 @@
 #include <QSGNinePatchNode>
 #include <QSGTransformNode>
 
-#include "controls/BoxPicture.h"
+#include "controls/BoxPatch.h"
 
 namespace quillmark {
 
@@ -25,7 +25,7 @@ class BoxNode final : public QSGTransformNode {
   void preprocess() override;
 
  private:
-  void draw(const BoxPicture& picture);
+  void draw(const BoxPatch& patch);
 
   QQuickWindow& window_;
   QSGNinePatchNode* const patch_;  ///< owned by this node, as a child

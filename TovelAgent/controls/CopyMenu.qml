@@ -36,20 +36,23 @@ Loader {
     anchors.fill: parent
     active: false
     z: 2
+    // The component is created in another file's context, so "pragma ComponentBehavior:
+    // Bound" cannot tell qmllint what `menu` is.
+    // qmllint disable unqualified
     sourceComponent: MouseArea {
         acceptedButtons: Qt.AllButtons
         hoverEnabled: true
-        onPressed: menu.close() // qmllint disable unqualified
-        onWheel: menu.close() // qmllint disable unqualified
+        onPressed: menu.close()
+        onWheel: menu.close()
 
         Accessible.ignored: true
 
         Box {
-            x: Math.max(0, Math.min(menu.place.x, menu.width - width)) // qmllint disable unqualified
-            y: Math.max(0, Math.min(menu.place.y, menu.height - height)) // qmllint disable unqualified
+            x: Math.max(0, Math.min(menu.place.x, menu.width - width))
+            y: Math.max(0, Math.min(menu.place.y, menu.height - height))
             width: copy.width + 2 * 4
             height: copy.height + 2 * 4
-            radius: Theme.sectionRadius
+            radius: Theme.mediumRadius
             color: Theme.white
             borderWidth: 1
             borderColor: Theme.fieldBorder
@@ -67,28 +70,28 @@ Loader {
                 label: "Copy"
                 focus: true
                 onPressed: {
-                    menu.chosen(); // qmllint disable unqualified
-                    menu.close(); // qmllint disable unqualified
+                    menu.chosen();
+                    menu.close();
                 }
                 // The menu also closes when another item or window gets the focus.
                 onActiveFocusChanged: {
                     if (!activeFocus)
-                        menu.close(); // qmllint disable unqualified
+                        menu.close();
                 }
 
                 // Other keys must not reach the list below the open menu.
                 Keys.onPressed: event => {
                     event.accepted = true;
                     if (event.key === Qt.Key_Escape)
-                        menu.close(); // qmllint disable unqualified
+                        menu.close();
                 }
 
                 Accessible.role: Accessible.MenuItem
 
                 Box {
                     anchors.fill: parent
-                    radius: Theme.noticeRadius
-                    color: Theme.windowButtonHover
+                    radius: Theme.smallRadius
+                    color: Theme.hoverBackground
                     visible: copy.hovered
                 }
 

@@ -36,7 +36,9 @@ void FocusOrigin::setFromPointer(bool fromPointer) {
 bool FocusOrigin::eventFilter(QObject* watched, QEvent* event) {
   if (watched == target_ && event->type() == QEvent::FocusIn) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    setFromPointer(keepsOrigin(reason) ? fromPointer_ : reason == Qt::MouseFocusReason);
+    if (!keepsOrigin(reason)) {
+      setFromPointer(reason == Qt::MouseFocusReason);
+    }
   }
   return QObject::eventFilter(watched, event);
 }

@@ -19,7 +19,7 @@ Box {
     anchors.margins: Math.round(inset * Screen.devicePixelRatio) / Screen.devicePixelRatio
     visible: (target?.activeFocus ?? false) && !origin.fromPointer
     color: "transparent"
-    radius: Theme.focusRadius
+    radius: Theme.mediumRadius
     borderWidth: 2
     borderColor: Theme.blue
     z: 1

@@ -6,7 +6,7 @@
 namespace quillmark {
 
 QString IconUrl::of(const QString& name, const QColor& color) {
-  return name.isEmpty() ? QString() : QStringLiteral("image://icon/") + name + color.name();
+  return QStringLiteral("image://icon/") + name + color.name();
 }
 
 }  // namespace quillmark

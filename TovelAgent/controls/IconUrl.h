@@ -21,7 +21,7 @@ class IconUrl : public QObject {
  public:
   using QObject::QObject;
 
-  /// The URL of the icon `name` in `color`; empty if `name` is empty. Any thread.
+  /// The URL of the icon `name` in `color`. Any thread.
   [[nodiscard]] Q_INVOKABLE static QString of(const QString& name, const QColor& color);
 };
 

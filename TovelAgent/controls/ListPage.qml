@@ -9,16 +9,14 @@ import Quillmark.Controls
 FocusScope {
     id: page
 
-    /// The accessible name of the page.
-    required property string title
-    /// The accessible name of the list.
-    required property string label
+    /// Accessible names.
+    required property string pageName
+    required property string listName
     /// An item model that has the property `count`.
     required property var model
     required property Component delegate
     required property Component placeholder
-    /// The placeholder's text.
-    property string emptyText: ""
+    property string placeholderText: ""
     readonly property bool isEmpty: model.count === 0
 
     /// A screen reader should say `text`.
@@ -29,16 +27,14 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        // Also true while the Loader has the focus and its content has not: Qt warns if this
-        // becomes false then.
+        // Stays true while the Loader itself has the focus: Qt warns if an item with the
+        // focus sets this to false.
         activeFocusOnTab: page.isEmpty || (activeFocus && !(item?.activeFocus ?? false))
         sourceComponent: page.isEmpty ? page.placeholder : list
 
         Accessible.role: Accessible.Section
-        Accessible.name: page.title
-        Accessible.description: page.isEmpty ? page.emptyText : ""
-        Accessible.focusable: page.isEmpty
-        Accessible.focused: page.isEmpty && activeFocus
+        Accessible.name: page.pageName
+        Accessible.description: page.isEmpty ? page.placeholderText : ""
     }
 
     FocusRing {
@@ -50,10 +46,14 @@ FocusScope {
 
         PlainList {
             focus: true
-            label: page.label // qmllint disable unqualified
-            model: page.model // qmllint disable unqualified
-            delegate: page.delegate // qmllint disable unqualified
-            onCopied: page.announced("Copied") // qmllint disable unqualified
+            // Delegates of other files cannot be created in a component that uses "pragma
+            // ComponentBehavior: Bound", without which qmllint does not accept these ids.
+            // qmllint disable unqualified
+            label: page.listName
+            model: page.model
+            delegate: page.delegate
+            onCopied: page.announced("Copied")
+            // qmllint enable unqualified
         }
     }
 }

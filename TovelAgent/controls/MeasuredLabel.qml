@@ -9,7 +9,7 @@ import QtQuick
 Label {
     id: label
 
-    /// The width of its longest line, with room for the ellipsis after the last one.
+    /// The width of its longest line, plus room for an ellipsis if lines are left out.
     /// At least 1: an elided text without a width has no height either. A long text
     /// is not measured, because that takes too long; it counts as wider than any window.
     readonly property real naturalWidth: isLong ? 100000 : Math.max(1, ruler.implicitWidth + ellipsisWidth)

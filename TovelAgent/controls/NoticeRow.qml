@@ -16,7 +16,7 @@ Box {
 
     width: parent?.width ?? 0
     implicitHeight: Math.max(symbol.height, label.height) + 2 * 8
-    radius: Theme.noticeRadius
+    radius: Theme.smallRadius
     color: isGood ? Theme.successTint : Theme.errorTint
 
     Accessible.role: Accessible.AlertMessage

@@ -23,7 +23,7 @@ Item {
             pressed();
     }
 
-    // Qt reports an item with `activeFocusOnTab: true` as focusable, even if it is disabled.
+    // Qt 6.4 reports an item with `activeFocusOnTab: true` as focusable, even if it is disabled.
     activeFocusOnTab: enabled
 
     Keys.onSpacePressed: event => pressByKey(event)
@@ -32,10 +32,9 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: label
-    // Qt does not report the disabled state to assistive technology.
+    // Qt 6.4 does not report the disabled state to assistive technology.
     Accessible.description: enabled ? "" : "Unavailable"
     Accessible.focusable: enabled
-    Accessible.focused: activeFocus
     // Assistive technology can also press a disabled item.
     Accessible.onPressAction: if (enabled) pressed()
 

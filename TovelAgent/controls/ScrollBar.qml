@@ -34,8 +34,6 @@ MouseArea {
             thumb.moveTo(mouse.y - grip);
     }
     onReleased: target.returnToBounds()
-    // The item below handles the wheel.
-    onWheel: wheel => wheel.accepted = false
 
     Accessible.ignored: true
 

@@ -25,17 +25,17 @@ void Scroller::setTarget(QQuickItem* target) {
     target_->disconnect(this);
   }
   target_ = target;
-  watch(target_ ? target_->window() : nullptr);
+  followFocusIn(target_ ? target_->window() : nullptr);
   if (target_) {
     target_->installEventFilter(this);
-    connect(target_, &QQuickItem::windowChanged, this, &Scroller::watch);
+    connect(target_, &QQuickItem::windowChanged, this, &Scroller::followFocusIn);
     connect(target_, &QQuickItem::heightChanged, this, &Scroller::keepInView);
     // Connected by name, because Flickable's C++ class is not public.
     connect(target_, SIGNAL(contentHeightChanged()), this, SLOT(keepInView()));
   }
 }
 
-void Scroller::watch(QQuickWindow* window) {
+void Scroller::followFocusIn(QQuickWindow* window) {
   if (window_) {
     window_->disconnect(this);
   }
@@ -49,24 +49,24 @@ void Scroller::followFocus() {
   auto* const focus = window_->activeFocusItem();
   // Not when the focus only returns, as from the window of a dialog: something else
   // may have been revealed meanwhile.
-  if (focus != nullptr && focus != focus_) {
-    focus_ = focus;
+  if (focus != nullptr && focus != lastFocus_) {
+    lastFocus_ = focus;
     reveal(focus);
   }
 }
 
 void Scroller::reveal(QQuickItem* item) {
-  item_ = item;
+  revealed_ = item;
   keepInView();
 }
 
 void Scroller::keepInView() {
   const auto* const content =
       target_ ? target_->property("contentItem").value<QQuickItem*>() : nullptr;
-  if (content == nullptr || !item_ || !content->isAncestorOf(item_)) {
+  if (content == nullptr || !revealed_ || !content->isAncestorOf(revealed_)) {
     return;
   }
-  const auto place = item_->mapRectToItem(content, item_->boundingRect());
+  const auto place = revealed_->mapRectToItem(content, revealed_->boundingRect());
   const auto maxPosition = place.top() - margin;
   const auto minPosition = place.bottom() + margin - target_->height();
   // Not std::clamp(): of an item higher than the view, the top is shown.

@@ -11,11 +11,11 @@
 
 namespace quillmark {
 
-/// Scrolls a Flickable; for lists there is `ListScroller`. A target that has the focus
-/// scrolls by keyboard: arrows by a line, Page Up and Page Down by a page, Home and End
-/// to the ends; a click on it gives it the focus. An item inside the target that gets
-/// the focus is scrolled into view and kept there when the view or its content changes
-/// size. UI thread only.
+/// Scrolls a Flickable; for lists there is `ListScroller`. Keys scroll while the target has
+/// the focus, or an item inside it that does not use the key: arrows by a line, Page Up and
+/// Page Down by a page, Home and End to the ends. A click on the target gives it the focus.
+/// An item inside the target that gets the focus is scrolled into view and kept there when
+/// the view or its content changes size. UI thread only.
 class Scroller : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -57,14 +57,14 @@ class Scroller : public QObject {
   void keepInView();
 
  private:
-  void watch(QQuickWindow* window);
+  void followFocusIn(QQuickWindow* window);
   [[nodiscard]] qreal valueOf(const char* name) const;
   [[nodiscard]] qreal bottom() const;
 
   QPointer<QQuickItem> target_;
   QPointer<QQuickWindow> window_;
-  QPointer<QQuickItem> focus_;  ///< the last item that had the focus
-  QPointer<QQuickItem> item_;   ///< to be kept in view
+  QPointer<QQuickItem> lastFocus_;
+  QPointer<QQuickItem> revealed_;  ///< to be kept in view
 };
 
 }  // namespace quillmark

@@ -16,7 +16,7 @@ Box {
     width: parent?.width ?? 0
     implicitHeight: column.height + 2 * 12
     color: Theme.white
-    radius: Theme.sectionRadius
+    radius: Theme.mediumRadius
     borderWidth: 1
     borderColor: Theme.sectionBorder
 
@@ -45,7 +45,6 @@ Box {
                 text: card.title
                 size: 16
                 font.weight: Font.DemiBold
-                color: Theme.black
                 anchors.verticalCenter: parent.verticalCenter
             }
         }

@@ -21,8 +21,6 @@ Item {
     Accessible.role: Accessible.Section
     Accessible.name: label
     Accessible.description: description
-    Accessible.focusable: true
-    Accessible.focused: activeFocus
 
     FocusRing {
         id: ring

@@ -13,7 +13,8 @@ Image {
     property int size: Theme.bodySize
     property color color: Theme.text
 
-    // At a scale of 1, even numbers keep the drawing's straight strokes on whole pixels.
+    // About 1.2 times the text's size, and even: at a scale of 1 the straight strokes then lie
+    // on whole pixels.
     readonly property int side: 2 * Math.round(0.6 * size)
 
     width: side

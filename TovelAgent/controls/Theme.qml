@@ -29,7 +29,7 @@ QtObject {
     readonly property color separator: "#E3E5EA"
     readonly property color windowBorder: "#B9BDC6"
     readonly property color windowGlyph: gray
-    readonly property color windowButtonHover: "#E9EBEF"
+    readonly property color hoverBackground: "#E9EBEF"
     readonly property color scrollBar: "#858A94"
     readonly property color shadow: "#000000"
     readonly property real shadowOpacity: 0.33
@@ -41,10 +41,9 @@ QtObject {
     readonly property int bodySize: 13
     /// The thickness of the window's edge where a drag resizes the window.
     readonly property int resizeBorder: 5
-    readonly property int cardRadius: 8
-    readonly property int sectionRadius: 6
-    readonly property int noticeRadius: 4
-    readonly property int focusRadius: 6
+    readonly property int smallRadius: 4
+    readonly property int mediumRadius: 6
+    readonly property int largeRadius: 8
     readonly property int underlineRadius: 2
     readonly property int listInset: 20
     readonly property int listRowInset: 6

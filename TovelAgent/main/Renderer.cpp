@@ -41,7 +41,7 @@ void restartInSoftware() {
     arguments.push_back(text.data());
   }
   arguments.push_back(nullptr);
-  // The new process takes the limit that it inherits for the initial one.
+  // The new process treats the limit that it inherits as the user's.
   const InitialDescriptorLimit inheritedLimit;
   execv(programPath().c_str(), arguments.data());
   qFatal("The panel cannot start itself again: %s", std::strerror(errno));

@@ -3,8 +3,6 @@
 
 #include "main/SessionBus.h"
 
-#include <cstdlib>
-
 #include <dbus/dbus.h>
 #include <QDeadlineTimer>
 
@@ -15,11 +13,6 @@ namespace {
 
 constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
 constexpr int authenticationTimeoutMs = 2500;
-
-std::string variable(const char* name) {
-  const char* const value = std::getenv(name);
-  return value != nullptr ? value : "";
-}
 
 /// Whether the bus accepts the connection but does not answer in time, not even to
 /// authenticate this process.
@@ -45,8 +38,8 @@ bool isSilent(const std::string& address) {
 }  // namespace
 
 std::string sessionBusAddress() {
-  auto address = variable(addressVariable);
-  const auto socket = variable("XDG_RUNTIME_DIR") + "/bus";
+  auto address = qgetenv(addressVariable).toStdString();
+  const auto socket = qgetenv("XDG_RUNTIME_DIR").toStdString() + "/bus";
   if (address.empty() && access(socket.c_str(), F_OK) == 0) {
     address = "unix:path=" + socket;
   }
@@ -57,7 +50,7 @@ void avoidSilentSessionBus() {
   const auto address = sessionBusAddress();
   if (!address.empty() && isSilent(address)) {
     // No library knows a transport of this name, so connecting fails at once.
-    setenv(addressVariable, "disabled:", 1);
+    qputenv(addressVariable, "disabled:");
   }
 }
 

@@ -29,7 +29,7 @@ class SingleInstance final : public QObject {
   [[nodiscard]] static bool quitRunning();
 
  public Q_SLOTS:
-  // The methods of the desktop's interface for activatable applications.
+  // The methods of org.freedesktop.Application; their names are part of it.
   Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
   Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
   Q_SCRIPTABLE void ActivateAction(const QString& action, const QVariantList& parameter,

@@ -7,9 +7,9 @@ class QQmlEngine;
 
 namespace quillmark {
 
-/// Prepares `engine` for the panel's views: the modules' import path, the icons, no
-/// network, and no masked text for assistive technology. Call before the first
-/// component is created; UI thread.
+/// Prepares `engine` for the panel's views: the modules' import path, the icons, and no
+/// network. Also filters accessibility events of the whole process, see `hideMaskedText`.
+/// Call before the first component is created; UI thread.
 void prepareForViews(QQmlEngine& engine);
 
 }  // namespace quillmark

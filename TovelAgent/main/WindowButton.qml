@@ -17,8 +17,8 @@ Pressable {
     Box {
         anchors.fill: parent
         anchors.margins: 1
-        radius: Theme.focusRadius
-        color: Theme.windowButtonHover
+        radius: Theme.mediumRadius
+        color: Theme.hoverBackground
         visible: button.hovered
     }
 

@@ -15,7 +15,8 @@ Item {
 
     readonly property bool fillsScreen: window.visibility === Window.Maximized
                                         || window.visibility === Window.FullScreen
-    readonly property int corner: 12
+    /// The side of the square where a drag resizes two edges; the buttons stay clear of it.
+    readonly property int resizeCorner: 12
 
     function toggleMaximized() {
         if (fillsScreen)
@@ -60,16 +61,31 @@ Item {
         visible: !frame.fillsScreen
         anchors.fill: parent
         thickness: Theme.resizeBorder
-        corner: frame.corner
+        corner: frame.resizeCorner
     }
 
-    WindowControls {
+    // In the top padding of the header.
+    Row {
         anchors.top: parent.top
         anchors.right: parent.right
-        anchors.rightMargin: frame.corner
-        isMaximized: frame.fillsScreen
-        onMinimizePressed: frame.window.showMinimized()
-        onMaximizePressed: frame.toggleMaximized()
-        onClosePressed: frame.window.close()
+        anchors.rightMargin: frame.resizeCorner
+
+        WindowButton {
+            label: "Minimize"
+            icon: "window.minimize"
+            onPressed: frame.window.showMinimized()
+        }
+
+        WindowButton {
+            label: frame.fillsScreen ? "Restore" : "Maximize"
+            icon: frame.fillsScreen ? "window.restore" : "window.maximize"
+            onPressed: frame.toggleMaximized()
+        }
+
+        WindowButton {
+            label: "Close"
+            icon: "window.close"
+            onPressed: frame.window.close()
+        }
     }
 }

@@ -28,26 +28,26 @@ constexpr std::size_t minCapacity = 64;
 // would have to provide zeroed memory at every poll, which takes as long as parsing.
 constexpr std::size_t maxKeptText = std::size_t{2} << 20U;
 
-struct Parsing {
+struct ParserMemory {
   dom::parser parser;
   dom::document document;
 };
 
-Parsing& keptParsing() {
-  thread_local Parsing parsing;
-  return parsing;
+ParserMemory& memoryOfThread() {
+  thread_local ParserMemory memory;
+  return memory;
 }
 
 /// The root of the parsed text. Takes the text by value, so that its memory is free before
 /// the record is created.
-simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing) {
+simdjson::simdjson_result<dom::element> parse(std::string json, ParserMemory& memory) {
   // JSON must not begin with a byte order mark, but some versions of simdjson skip it.
   if (json.starts_with("\xEF\xBB\xBF")) {
     return simdjson::UTF8_ERROR;
   }
   static_assert(decodePadding >= simdjson::SIMDJSON_PADDING);
   json.reserve(json.size() + decodePadding);
-  auto& [parser, document] = parsing;
+  auto& [parser, document] = memory;
   // Rounded, so that a text that is a little longer does not need a new parser.
   const auto capacity = std::bit_ceil(std::max(json.size(), minCapacity));
   if (parser.capacity() < capacity) {
@@ -62,10 +62,10 @@ simdjson::simdjson_result<dom::element> parse(std::string json, Parsing& parsing
 
 template <Record R>
 Decoded<R> decode(std::string json) {
-  Parsing temporary;
-  auto& parsing = json.size() <= maxKeptText ? keptParsing() : temporary;
+  ParserMemory temporary;
+  auto& memory = json.size() <= maxKeptText ? memoryOfThread() : temporary;
   dom::element root;
-  const auto error = parse(std::move(json), parsing).get(root);
+  const auto error = parse(std::move(json), memory).get(root);
   // Frees the larger part of the memory before the record is created.
   temporary.parser = dom::parser();
   if (error == simdjson::MEMALLOC) {

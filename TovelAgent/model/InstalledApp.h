@@ -23,8 +23,8 @@ struct InstalledApp {
       std::tuple{Field{"name", &InstalledApp::name}, Field{"version", &InstalledApp::version},
                  Field{"publisher", &InstalledApp::publisher}, Field{"path", &InstalledApp::path}};
 
-  /// A new random id at every call: the agent sends none, so no two reads of a record are
-  /// known to be the same one. The panel does not use it. Any thread.
+  /// A new random id at every call, never stored: a record has no identity. The panel does
+  /// not use it. Any thread.
   [[nodiscard]] Uuid id() const { return randomUuid(); }
 
   friend bool operator==(const InstalledApp&, const InstalledApp&) = default;

@@ -63,12 +63,12 @@ void DashboardViewModel::updateData() {
 boost::asio::awaitable<void> DashboardViewModel::poll(std::shared_ptr<DashboardViewModel> self) {
   PollResult result;
   try {
-    result.status = co_await self->client_->getStatus();
-    auto alerts = co_await self->client_->getAlerts();
+    result.status = co_await self->client_.getStatus();
+    auto alerts = co_await self->client_.getAlerts();
     storeAnswer(std::move(alerts), result.alerts);
-    auto connections = co_await self->client_->getNetwork();
+    auto connections = co_await self->client_.getNetwork();
     storeAnswer(std::move(connections), result.networkConnections);
-    auto inventory = co_await self->client_->getInventory();
+    auto inventory = co_await self->client_.getInventory();
     storeAnswer(std::move(inventory), result.inventory);
   } catch (const std::bad_alloc&) {
     result = {};

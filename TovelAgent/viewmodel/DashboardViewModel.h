@@ -101,8 +101,8 @@ class DashboardViewModel final : public QObject,
   void publish(Value& field, Value& value, void (DashboardViewModel::*changed)());
 
   PollResult latest_;
-  const std::shared_ptr<const IPCClient> client_ = std::make_shared<const IPCClient>();
-  /// The latest timer. Nothing reads it, because none is ever stopped.
+  const IPCClient client_;
+  /// The newest timer: part of the model's state, but not used, because polling never stops.
   QPointer<QTimer> timer_;
 
   SnapshotListModel<ThreatAlert> alertRows_;

@@ -25,7 +25,6 @@ SectionCard {
         text: "Import config.toml"
         size: 13
         font.weight: Font.DemiBold
-        color: Theme.black
     }
 
     Label {

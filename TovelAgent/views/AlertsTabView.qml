@@ -5,20 +5,20 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first alerts of the latest poll.
+/// At most the first 100 alerts of the latest poll.
 ListPage {
     id: page
 
     required property DashboardViewModel viewModel
 
-    title: "Alerts"
-    label: "Alerts"
+    pageName: "Alerts"
+    listName: "Alerts"
     model: viewModel.alerts
-    emptyText: "No threats detected"
+    placeholderText: "No threats detected"
     placeholder: EmptyState {
         icon: "checkmark.circle"
         iconColor: Theme.green
-        text: page.emptyText // qmllint disable unqualified
+        text: page.placeholderText // qmllint disable unqualified
     }
     delegate: PlainListRow {
         id: row

@@ -13,7 +13,7 @@ Box {
 
     width: parent?.width ?? 0
     implicitHeight: column.height + 2 * 8
-    radius: Theme.noticeRadius
+    radius: Theme.smallRadius
     color: Theme.panelTint
 
     SpokenItem {
@@ -46,7 +46,6 @@ Box {
                     maximumLineCount: 1
                     elide: Text.ElideRight
                     font.weight: Font.DemiBold
-                    color: Theme.black
                     anchors.verticalCenter: parent.verticalCenter
                 }
             }

@@ -22,7 +22,7 @@ Item {
         { identifier: "settings", title: "Settings", icon: "gear", view: "SettingsTabView.qml", needsViewModel: false }
     ]
 
-    readonly property bool onScreen: Window.visibility !== Window.Hidden
+    readonly property bool isShown: Window.visibility !== Window.Hidden
 
     /// Selects a tab that the user chose. Its content gets the keyboard focus if the
     /// previous tab's content had it.
@@ -39,8 +39,8 @@ Item {
             content.item.forceActiveFocus();
     }
 
-    onOnScreenChanged: {
-        if (onScreen)
+    onIsShownChanged: {
+        if (isShown)
             viewModel.startPolling();
     }
 
@@ -52,7 +52,7 @@ Item {
         id: announcer
     }
 
-    StatusNews {
+    StatusAnnouncements {
         viewModel: root.viewModel
         isWindowActive: root.Window.active
         onAnnounced: text => announcer.announce(text)

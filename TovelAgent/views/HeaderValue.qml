@@ -10,5 +10,4 @@ MeasuredLabel {
     maximumLineCount: 3
     elide: Text.ElideRight
     font.weight: Font.DemiBold
-    color: Theme.black
 }

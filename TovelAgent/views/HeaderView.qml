@@ -45,7 +45,6 @@ Item {
                     text: "Quillmark Agent"
                     size: 20
                     font.weight: Font.Bold
-                    color: Theme.black
                 }
 
                 Label {

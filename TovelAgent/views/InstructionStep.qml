@@ -4,7 +4,7 @@
 import QtQuick
 import Quillmark.Controls
 
-/// One numbered step of a list of instructions.
+/// One numbered step of a list of instructions. No tab shows one yet.
 Item {
     id: step
 
@@ -44,7 +44,6 @@ Item {
             text: step.title
             size: 12
             font.weight: Font.DemiBold
-            color: Theme.black
         }
 
         Label {

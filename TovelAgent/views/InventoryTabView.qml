@@ -5,22 +5,22 @@ import QtQuick
 import Quillmark.Controls
 import Quillmark.ViewModel
 
-/// The first applications of the latest poll. The tab is blank until there is an inventory.
+/// At most the first 50 applications of the latest poll. Blank until there is an inventory.
 /// An inventory without applications is shown as "Loading applications...", on purpose.
 ListPage {
     id: tab
 
     required property DashboardViewModel viewModel
 
-    title: "Inventory"
-    label: "Installed applications"
+    pageName: "Inventory"
+    listName: "Installed applications"
     model: viewModel.apps
-    emptyText: viewModel.hasInventory ? "Loading applications..." : ""
+    placeholderText: viewModel.hasInventory ? "Loading applications..." : ""
     placeholder: Item {
         Label {
             visible: text.length > 0
             anchors.centerIn: parent
-            text: tab.emptyText // qmllint disable unqualified
+            text: tab.placeholderText // qmllint disable unqualified
             color: Theme.gray
         }
     }

@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 
 /// Lists places where the agent may look for a configuration, on any system. The panel
-/// writes only the first one. Which files it reads is another list: `configSearchPaths()`.
+/// writes only the first one, and reads other files: `configSearchPaths()`.
 SectionCard {
     icon: "folder"
     title: "Config File Locations"

@@ -11,14 +11,14 @@ ListPage {
 
     required property DashboardViewModel viewModel
 
-    title: "Network"
-    label: "Network connections"
+    pageName: "Network"
+    listName: "Network connections"
     model: viewModel.networkConnections
-    emptyText: "No network connections detected"
+    placeholderText: "No network connections detected"
     placeholder: EmptyState {
         icon: "network"
         iconColor: Theme.gray
-        text: page.emptyText // qmllint disable unqualified
+        text: page.placeholderText // qmllint disable unqualified
     }
     delegate: PlainListRow {
         id: row

@@ -16,12 +16,12 @@ Item {
 
     SoftShadow {
         anchors.fill: parent
-        radius: Theme.cardRadius
+        radius: Theme.largeRadius
     }
 
     Box {
         anchors.fill: parent
-        radius: Theme.cardRadius
+        radius: Theme.largeRadius
         color: Theme.white
     }
 

@@ -51,7 +51,7 @@ TEST_F(Failure, IsNotConnectedWhenTooFewDescriptorsAreLeft) {
 TEST_F(Failure, IsBrokenOffForAnIncompleteAnswer) {
   for (const std::string answer :
        {"", "HTTP/1.1 200 OK\r\nContent-Le", "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nbody"}) {
-    EXPECT_EQ(resultFor(answer).error(), HttpFailure::brokenOff) << answer;
+    EXPECT_EQ(resultFor(answer).error(), HttpFailure::connectionLost) << answer;
   }
 }
 

@@ -80,7 +80,7 @@ PressableTest {
         view.Accessible.pressAction();
         compare(pressed.count, 0);
         verify(!view.activeFocus);
-        verify(!view.Accessible.focusable);
+        verify(!view.activeFocusOnTab);
         compare(view.Accessible.description, "Unavailable");
     }
 
@@ -88,7 +88,7 @@ PressableTest {
         const view = pressable();
         compare(view.Accessible.role, Accessible.Button);
         compare(view.Accessible.name, "press");
-        verify(view.Accessible.focusable);
+        verify(view.activeFocusOnTab);
         view.Accessible.pressAction();
         compare(pressed.count, 1);
     }

@@ -33,11 +33,6 @@ ViewTest {
             verify(sides[index] >= size && sides[index] <= 1.4 * size, sides[index] + " for " + size);
     }
 
-    function test_drawsNothingWithoutAName() {
-        const icon = make(component, { name: "" });
-        compare(icon.status, Image.Null);
-    }
-
     Component {
         id: component
 

@@ -54,7 +54,7 @@ ViewTest {
         const item = labelOf(view, "Recent Alerts").parent.parent;
         compare(item.Accessible.name, "Recent Alerts: 1234");
         item.forceActiveFocus(Qt.TabFocusReason);
-        verify(item.Accessible.focused);
+        verify(item.activeFocus);
         compare(itemsOfType(view, "FocusRing").length, 1);
     }
 

@@ -68,7 +68,7 @@ ViewTest {
         const item = accessibleItemOf(view);
         compare(item.Accessible.name, "Status: OK");
         compare(item.Accessible.description, data.description);
-        verify(item.Accessible.focusable);
+        verify(item.activeFocusOnTab);
         view.value = "OFFLINE";
         compare(item.Accessible.name, "Status: OFFLINE");
     }

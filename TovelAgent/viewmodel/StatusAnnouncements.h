@@ -17,7 +17,7 @@ namespace quillmark {
 
 /// Announces changes of the header to screen readers: each announcement says how the
 /// header differs from the one announced before. UI thread only.
-class StatusNews : public QObject {
+class StatusAnnouncements : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(quillmark::DashboardViewModel* viewModel MEMBER viewModel_ WRITE setViewModel REQUIRED)
@@ -44,9 +44,9 @@ class StatusNews : public QObject {
   std::optional<StatusPresentation> announced_;  ///< the header announced last, if any
 };
 
-/// The announcement of the change from `before`, which has no value at first, to `now`.
+/// Tells the change from `before`, which has no value for the first announcement, to `now`.
 /// Empty if there is nothing to announce.
-[[nodiscard]] QString newsBetween(const std::optional<StatusPresentation>& before,
-                                  const StatusPresentation& now);
+[[nodiscard]] QString announcementFor(const std::optional<StatusPresentation>& before,
+                                      const StatusPresentation& now);
 
 }  // namespace quillmark

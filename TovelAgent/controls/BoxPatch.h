@@ -21,17 +21,17 @@ struct BoxLook {
   bool operator==(const BoxLook&) const = default;
 };
 
-/// The dimensions of the smallest nine-patch image of a box: stretching the part between
-/// its corners gives any larger size. All lengths are device pixels.
-struct BoxPicture {
-  BoxPicture(const BoxLook& look, QSize box);
+/// The dimensions of the smallest image of a box that can be drawn as a nine-patch: the
+/// part between its corners is stretched to any size. All lengths are device pixels.
+struct BoxPatch {
+  BoxPatch(const BoxLook& look, QSize box);
 
   QSize size;
   QMargins corners;  ///< the parts that must not be stretched
-  int reach = 0;     ///< how far the picture extends beyond the box on each side
+  int reach = 0;     ///< how far the image extends beyond the box on each side
 };
 
-/// Draws the image whose dimensions are `picture`. Any thread.
-[[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPicture& picture);
+/// The image. Any thread.
+[[nodiscard]] QImage drawBox(const BoxLook& look, const BoxPatch& patch);
 
 }  // namespace quillmark

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "viewmodel/StatusNews.h"
+#include "viewmodel/StatusAnnouncements.h"
 
 #include <QStringList>
 
 namespace quillmark {
 
-QString newsBetween(const std::optional<StatusPresentation>& before,
-                    const StatusPresentation& now) {
+QString announcementFor(const std::optional<StatusPresentation>& before,
+                        const StatusPresentation& now) {
   // Only a status that was received has a last scan.
   const bool wasConnected = before && before->hasLastScan;
   if (!now.hasLastScan) {
@@ -31,7 +31,7 @@ QString newsBetween(const std::optional<StatusPresentation>& before,
   return parts.join(QStringLiteral(". "));
 }
 
-void StatusNews::setViewModel(DashboardViewModel* viewModel) {
+void StatusAnnouncements::setViewModel(DashboardViewModel* viewModel) {
   if (viewModel_) {
     viewModel_->disconnect(this);
   }
@@ -44,20 +44,20 @@ void StatusNews::setViewModel(DashboardViewModel* viewModel) {
   }
 }
 
-void StatusNews::setWindowActive(bool isWindowActive) {
+void StatusAnnouncements::setWindowActive(bool isWindowActive) {
   isWindowActive_ = isWindowActive;
   announceChange();
 }
 
-void StatusNews::announceChange() {
+void StatusAnnouncements::announceChange() {
   if (!isWindowActive_ || !hasPolled_ || !viewModel_) {
     return;
   }
   const auto now = viewModel_->statusPresentation();
-  const auto news = newsBetween(announced_, now);
+  const auto announcement = announcementFor(announced_, now);
   announced_ = now;
-  if (!news.isEmpty()) {
-    Q_EMIT announced(news);
+  if (!announcement.isEmpty()) {
+    Q_EMIT announced(announcement);
   }
 }
 

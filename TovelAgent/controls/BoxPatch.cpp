@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "controls/BoxPicture.h"
+#include "controls/BoxPatch.h"
 
 #include <algorithm>
 #include <array>
@@ -45,7 +45,7 @@ void drawPlain(QPainter& painter, const BoxLook& look, const QRectF& box) {
 
 }  // namespace
 
-BoxPicture::BoxPicture(const BoxLook& look, QSize box)
+BoxPatch::BoxPatch(const BoxLook& look, QSize box)
     : reach(static_cast<int>(std::ceil(spread(look, shadowSteps.size() - 1)))) {
   const int corner =
       reach + static_cast<int>(std::ceil(std::max<qreal>(look.radius, look.borderWidth)));
@@ -58,13 +58,13 @@ BoxPicture::BoxPicture(const BoxLook& look, QSize box)
   corners.setBottom(std::min(corner, size.height() - corners.top()));
 }
 
-QImage drawBox(const BoxLook& look, const BoxPicture& picture) {
-  QImage image(picture.size, QImage::Format_ARGB32_Premultiplied);
+QImage drawBox(const BoxLook& look, const BoxPatch& patch) {
+  QImage image(patch.size, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  const auto reach = picture.reach;
+  const auto reach = patch.reach;
   const auto box = QRectF(image.rect()).adjusted(reach, reach, -reach, -reach);
   if (look.shadowBlur > 0) {
     drawShadow(painter, look, box);
