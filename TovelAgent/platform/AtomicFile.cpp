@@ -99,14 +99,14 @@ class TemporaryFile final {
   bool mustRemove_ = isOpen();
 };
 
-error_code syncFolder(const std::string& path) {
+/// Flushes the names in a folder: a power loss could undo what was just created or renamed
+/// there. Errors are ignored, because some file systems do not support this.
+void syncFolder(const std::string& path) {
   const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) {
-    return lastSystemError();
+  if (descriptor >= 0) {
+    fsync(descriptor);
+    close(descriptor);
   }
-  const auto error = fsync(descriptor) == 0 ? error_code{} : lastSystemError();
-  close(descriptor);
-  return error;
 }
 
 }  // namespace
@@ -115,10 +115,7 @@ error_code createPrivateFolders(const std::string& path) {
   for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const auto folder = path.substr(0, end);
     if (mkdir(folder.c_str(), privateFolder) == 0) {
-      // Without this flush, a power loss could remove the folder and its content.
-      if (const auto error = syncFolder(folderOf(folder))) {
-        return error;
-      }
+      syncFolder(folderOf(folder));
     } else if (errno != EEXIST) {
       return lastSystemError();
     }
@@ -150,8 +147,7 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
     return lastSystemError();
   }
   file.markMoved();
-  // Not an error: the new file is in place, and only a power loss could undo that.
-  static_cast<void>(syncFolder(folderOf(target.path)));
+  syncFolder(folderOf(target.path));
   return {};
 }
 

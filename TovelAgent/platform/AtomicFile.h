@@ -11,7 +11,8 @@
 namespace quillmark {
 
 /// Creates the folder `path` and all missing folders above it, accessible only
-/// to the user (mode 0700). Existing folders are left as they are. Any thread.
+/// to the user (mode 0700). Existing folders are left as they are. A folder that cannot
+/// be flushed afterwards is not an error. Any thread.
 [[nodiscard]] boost::system::error_code createPrivateFolders(const std::string& path);
 
 /// Replaces the content of the file at `path` with `text`, or creates the file.

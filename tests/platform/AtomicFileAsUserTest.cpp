@@ -67,5 +67,11 @@ TEST_F(AtomicFileAsUser, GetsFoldersBelowReadOnlyFolders) {
   EXPECT_TRUE(std::filesystem::is_directory(locked + "/open/new"));
 }
 
+TEST_F(AtomicFileAsUser, GetsFoldersInAFolderThatMayNotBeRead) {
+  ASSERT_EQ(chmod(locked.c_str(), 0300), 0);
+  EXPECT_FALSE(createPrivateFolders(locked + "/a/b"));
+  EXPECT_EQ(modeOf(locked + "/a/b"), 0700U);
+}
+
 }  // namespace
 }  // namespace quillmark::test
