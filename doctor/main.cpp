@@ -13,6 +13,7 @@
 #include "Examination.h"
 #include "Output.h"
 #include "platform/CommandLine.h"
+#include "platform/ProcessLimits.h"
 #include "platform/StandardStreams.h"
 
 namespace {
@@ -90,6 +91,7 @@ int run(const quillmark::CommandLine& line) {
 
 int main(int argc, char** argv) {
   quillmark::openClosedStandardStreams();
+  quillmark::disableCoreDumps();
   try {
     const int code = run(quillmark::readCommandLine(argc, argv, commandLineRules));
     return std::cout.flush() ? code : somethingWrong;

@@ -28,10 +28,12 @@ def test_the_panel_leaves_no_core_dump(launch_alone):
 
 
 @pytest.mark.usefixtures("fresh_home")
-def test_the_sample_agent_leaves_no_core_dump():
-    with subprocess.Popen([*ALLOWED, PROGRAMS / AGENT], stdout=subprocess.DEVNULL) as agent:
-        until(lambda: core_limits(agent.pid) == NONE, "no core dumps")
-        agent.kill()
+@pytest.mark.parametrize("command", [[AGENT], ["quillmark-doctor", "--watch"]])
+def test_the_other_programs_leave_no_core_dump(command):
+    with subprocess.Popen([*ALLOWED, PROGRAMS / command[0], *command[1:]],
+                          stdout=subprocess.DEVNULL) as program:
+        until(lambda: core_limits(program.pid) == NONE, "no core dumps")
+        program.kill()
 
 
 def test_not_even_where_no_limit_may_be_set(launch_alone):
