@@ -43,6 +43,13 @@ bool isNewer(const std::string& path, Seconds than) {
   return written > than;
 }
 
+/// Panels of other users read other tokens.
+bool isOfThisUser(int pid) {
+  struct stat status {};
+  const auto folder = procRoot + ('/' + std::to_string(pid));
+  return stat(folder.c_str(), &status) == 0 && status.st_uid == geteuid();
+}
+
 Finding judge(const Process& panel, const TokenInUse& inUse) {
   Finding finding;
   finding.check = "panel";
@@ -67,7 +74,8 @@ Finding judge(const Process& panel, const TokenInUse& inUse) {
 void checkPanels(Findings& findings, const TokenInUse& inUse) {
   const auto before = findings.size();
   for (const auto& process : readProcesses(procRoot)) {
-    if (programName(readProcessCommand(procRoot, process.pid)) == panelFileName) {
+    if (isOfThisUser(process.pid) &&
+        programName(readProcessCommand(procRoot, process.pid)) == panelFileName) {
       findings.push_back(judge(process, inUse));
     }
   }

@@ -8,7 +8,7 @@
 
 namespace quillmark::doctor {
 
-/// Checks for panels that were started before the token's file was written. A
+/// Checks for panels of this user that were started before the token's file was written. A
 /// panel reads the token only when a window opens.
 void checkPanels(Findings& findings, const TokenInUse& inUse);
 

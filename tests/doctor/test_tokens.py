@@ -3,6 +3,8 @@
 """Faults of the token's files."""
 
 import os
+import tempfile
+from pathlib import Path
 
 import pytest
 
@@ -115,11 +117,13 @@ def test_system_wide_token_that_others_may_read(backend):
     assert found.code == 0
 
 
+def panel_in(folder):
+    """A program with the panel's name."""
+    return write(folder / "quillmark-agent", Path("/bin/sleep").read_bytes(), mode=0o755)
+
+
 def test_written_after_the_panel_was_started(backend, tmp_path):
-    panel = tmp_path / "quillmark-agent"
-    panel.write_bytes(open("/bin/sleep", "rb").read())
-    panel.chmod(0o700)
-    with scene.process(panel, "60") as running:
+    with scene.process(panel_in(tmp_path), "60") as running:
         os.utime(HOME_TOKEN, (1, 1))
         assert look().of("panel") == [line("ok", "panel", f"process {running.pid}")]
         os.utime(HOME_TOKEN, (2**31, 2**31))
@@ -129,3 +133,11 @@ def test_written_after_the_panel_was_started(backend, tmp_path):
                               "and reads it only when a window opens")]
     assert found.step == "Start the panel again, so that it reads the token."
     tokens.remove(HOME_TOKEN)
+
+
+@pytest.mark.skipif(os.geteuid() != 0, reason="only root can run a program as another user")
+def test_panel_of_another_user(backend):
+    with tempfile.TemporaryDirectory() as folder:
+        os.chmod(folder, 0o755)
+        with scene.process(panel_in(Path(folder)), "60", user=1000):
+            assert look().of("panel") == [line("ok", "panel", "not running")]
