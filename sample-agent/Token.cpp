@@ -6,17 +6,21 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <string_view>
 
+#include <boost/algorithm/hex.hpp>
 #include <boost/scope_exit.hpp>
 #include <boost/system/errc.hpp>
 
 #include <fcntl.h>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "PrivateFile.h"
+#include "platform/AtomicFile.h"
+#include "platform/SystemError.h"
 #include "platform/Utf8.h"
 
 namespace quillmark::sample {
@@ -32,9 +36,7 @@ Failure failure(const std::string& path, const error_code& error) {
   return {path + ": " + error.message()};
 }
 
-Failure lastError(const std::string& path) {
-  return failure(path, {errno, boost::system::system_category()});
-}
+Failure lastError(const std::string& path) { return failure(path, lastSystemError()); }
 
 bool isToken(std::string_view text) {
   return text.size() == 2 * tokenBytes &&
@@ -86,10 +88,31 @@ std::optional<TokenResult> readToken(const std::string& path) {
                    "move it away to have a new one made"};
   }
   // The administrator may let a group read it: that of the panel's users.
-  if ((status.st_mode & ALLPERMS & ~(ownerOnly | S_IRGRP)) != 0) {
+  constexpr mode_t allowed = S_IRUSR | S_IWUSR | S_IRGRP;
+  if ((status.st_mode & ALLPERMS & ~allowed) != 0) {
     return unlink(path.c_str()) == 0 ? std::nullopt : std::optional<TokenResult>(lastError(path));
   }
   return TokenResult(boost::system::in_place_value, token);
+}
+
+std::string newToken() {
+  std::array<unsigned char, tokenBytes> bytes{};
+  // The system returns so few bytes all at once. Only while the machine boots, a signal
+  // may interrupt the call before it returns any.
+  while (getrandom(bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
+  }
+  std::string text;
+  boost::algorithm::hex_lower(bytes, std::back_inserter(text));
+  return text;
+}
+
+/// Creates a file with a new token, and its folder if that is missing.
+error_code makeTokenFile(const std::string& path) {
+  const std::string folder = path.substr(0, path.rfind('/'));
+  if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
+    return lastSystemError();
+  }
+  return createFileAtomically(path, newToken());
 }
 
 }  // namespace
@@ -102,7 +125,7 @@ TokenResult loadOrMakeToken(const std::string& path) {
   if (auto token = readToken(path)) {
     return std::move(*token);
   }
-  const auto error = makePrivateFile(path, randomHex(tokenBytes));
+  const auto error = makeTokenFile(path);
   if (error && error != errc::file_exists) {
     return failure(path, error);
   }

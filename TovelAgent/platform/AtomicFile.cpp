@@ -53,11 +53,11 @@ error_code resolveTarget(const std::string& path, Target& target) {
   return {};
 }
 
-/// A file next to the target; the destructor removes it unless it was moved away.
+/// A file next to `target`; the destructor removes it unless it was moved away.
 class TemporaryFile final {
  public:
-  explicit TemporaryFile(const Target& target)
-      : path_(target.path + ".XXXXXX"), descriptor_(mkostemp(path_.data(), O_CLOEXEC)) {}
+  explicit TemporaryFile(const std::string& target)
+      : path_(target + ".XXXXXX"), descriptor_(mkostemp(path_.data(), O_CLOEXEC)) {}
   ~TemporaryFile() {
     if (isOpen()) {
       close(descriptor_);
@@ -136,7 +136,7 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
   if (const auto error = resolveTarget(path, target)) {
     return error;
   }
-  TemporaryFile file(target);
+  TemporaryFile file(target.path);
   if (!file.isOpen()) {
     return lastSystemError();
   }
@@ -148,6 +148,22 @@ error_code writeFileAtomically(const std::string& path, std::string_view text) {
   }
   file.markMoved();
   syncFolder(folderOf(target.path));
+  return {};
+}
+
+error_code createFileAtomically(const std::string& path, std::string_view text) {
+  TemporaryFile file(path);
+  if (!file.isOpen()) {
+    return lastSystemError();
+  }
+  if (const auto error = file.fill(text, privateFile)) {
+    return error;
+  }
+  // link(), unlike rename(), does not replace an existing file.
+  if (link(file.path(), path.c_str()) != 0) {
+    return lastSystemError();
+  }
+  syncFolder(folderOf(path));
   return {};
 }
 

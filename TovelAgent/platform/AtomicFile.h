@@ -27,4 +27,9 @@ namespace quillmark {
 [[nodiscard]] boost::system::error_code writeFileAtomically(const std::string& path,
                                                             std::string_view text);
 
+/// Like `writeFileAtomically`, but never replaces a file: if there is one at `path`, even a
+/// symbolic link, the error is `file_exists`. Any thread; waits for the disk.
+[[nodiscard]] boost::system::error_code createFileAtomically(const std::string& path,
+                                                             std::string_view text);
+
 }  // namespace quillmark

@@ -8,6 +8,7 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <boost/system/errc.hpp>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -78,6 +79,14 @@ TEST_P(AtomicFile, ContainsEveryByte) {
                            std::string("short again")}) {
     expectWritten(text);
   }
+}
+
+TEST_P(AtomicFile, IsCreatedOnlyWhereThereIsNone) {
+  EXPECT_FALSE(createFileAtomically(path, "old"));
+  EXPECT_EQ(modeOf(path), 0600U);
+  EXPECT_EQ(createFileAtomically(path, "new"), boost::system::errc::file_exists);
+  EXPECT_EQ(contentOf(path), "old");
+  EXPECT_EQ(namesIn(folder.path()), Names{"file"});
 }
 
 TEST_P(AtomicFile, KeepsAStricterMode) {

@@ -13,7 +13,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "PrivateFile.h"
 #include "procfs/SystemFile.h"
 #include "sample-agent/FixtureTree.h"
 
@@ -174,20 +173,6 @@ TEST(LoadOrMakeToken, GivesOneTokenToAllThatStartAtTheSameTime) {
     EXPECT_EQ(readSystemFile(tree.path("quillmark/token")), tokens[0]);
     EXPECT_EQ(namesIn(tree.path("quillmark")).size(), 1U);
   }
-}
-
-TEST(MakePrivateFile, ReplacesNoOtherFile) {
-  const FixtureTree tree;
-  const auto path = tree.write("file", "old");
-  EXPECT_EQ(makePrivateFile(path, "new"), boost::system::errc::file_exists);
-  EXPECT_EQ(readSystemFile(path), "old");
-  EXPECT_EQ(namesIn(tree.root()).size(), 1U);
-}
-
-TEST(RandomHex, HasTwoDigitsPerByte) {
-  EXPECT_EQ(randomHex(0), "");
-  EXPECT_EQ(randomHex(32).size(), 64U);
-  EXPECT_NE(randomHex(32), randomHex(32));
 }
 
 }  // namespace
