@@ -15,7 +15,6 @@
 #include <boost/system/errc.hpp>
 
 #include <fcntl.h>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -95,24 +94,19 @@ std::optional<TokenResult> readToken(const std::string& path) {
   return TokenResult(boost::system::in_place_value, token);
 }
 
-std::string newToken() {
-  std::array<unsigned char, tokenBytes> bytes{};
-  // The system returns so few bytes all at once. Only while the machine boots, a signal
-  // may interrupt the call before it returns any.
-  while (getrandom(bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
-  }
-  std::string text;
-  boost::algorithm::hex_lower(bytes, std::back_inserter(text));
-  return text;
-}
-
 /// Creates a file with a new token, and its folder if that is missing.
 error_code makeTokenFile(const std::string& path) {
+  std::array<unsigned char, tokenBytes> bytes{};
+  if (getentropy(bytes.data(), bytes.size()) != 0) {
+    return lastSystemError();
+  }
+  std::string token;
+  boost::algorithm::hex_lower(bytes, std::back_inserter(token));
   const std::string folder = path.substr(0, path.rfind('/'));
   if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
     return lastSystemError();
   }
-  return createFileAtomically(path, newToken());
+  return createFileAtomically(path, token);
 }
 
 }  // namespace

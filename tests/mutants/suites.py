@@ -98,7 +98,8 @@ TABLE = [
     ("doctor/*.cpp doctor/*.h", doctor("well", "config", "tokens", "endpoints", "output", "port",
                                        "probe", "start", "watch", "modes_as_user")),
     ("sample-agent/*", [program("sample-agent/sample_agent_tests"),
-                        program("sample-agent/sample_agent_program_tests", "sample_agent")]),
+                        program("sample-agent/sample_agent_program_tests", "sample_agent"),
+                        script("faults", "fault_random", targets=("sample_agent",))]),
     ("*procfs/*", doctor("well", "port", "probe")),
 ]
 
