@@ -16,12 +16,15 @@ namespace {
 constexpr std::string_view deletedSuffix = " (deleted)";
 constexpr std::string_view memoryFilePrefix = "/memfd:";
 
-/// Whether `path` exists in the file system that the process sees, which may be a
-/// container's.
-bool existsFor(const Process& process, const std::string& path, const std::string& procRoot) {
-  const std::string seen = procRoot + '/' + std::to_string(process.pid) + "/root" + path;
+/// The processes of one executable that was removed.
+struct Removed {
+  bool isReplaced = false;  ///< another file has its path
+  std::vector<const Process*> processes;
+};
+
+bool exists(const std::string& path) {
   struct stat status {};
-  return lstat(seen.c_str(), &status) == 0;
+  return lstat(path.c_str(), &status) == 0;
 }
 
 std::string describe(const std::vector<const Process*>& processes) {
@@ -34,8 +37,8 @@ std::string describe(const std::vector<const Process*>& processes) {
   return text;
 }
 
-ThreatAlert alertOn(const std::string& path, const std::vector<const Process*>& processes,
-                    const std::string& procRoot) {
+ThreatAlert alertOn(const std::string& path, const Removed& removed) {
+  const auto& processes = removed.processes;
   const std::string shown = asUtf8(path);
   const std::string verb = processes.size() == 1 ? " runs" : " run";
   ThreatAlert alert;
@@ -46,7 +49,7 @@ ThreatAlert alertOn(const std::string& path, const std::vector<const Process*>& 
     alert.severity = "high";
     alert.title = "A program runs from memory only: " + shown;
     alert.description = describe(processes) + verb + " from memory, with no file behind it.";
-  } else if (existsFor(*processes.front(), path, procRoot)) {
+  } else if (removed.isReplaced) {
     alert.severity = "low";
     alert.title = "A replaced program still runs: " + shown;
     alert.description = describe(processes) + verb + " an older version of " + shown +
@@ -63,19 +66,28 @@ ThreatAlert alertOn(const std::string& path, const std::vector<const Process*>& 
 
 std::vector<ThreatAlert> deletedExecutables(const std::vector<Process>& processes,
                                             const std::string& procRoot) {
-  std::map<std::string, std::vector<const Process*>> byPath;
+  std::map<std::string, Removed> byPath;
   for (const auto& process : processes) {
     const std::string& link = process.executable;
-    // A file's real name may end in " (deleted)", too.
-    if (link.ends_with(deletedSuffix) && !existsFor(process, link, procRoot)) {
-      byPath[link.substr(0, link.size() - deletedSuffix.size())].push_back(&process);
+    if (!link.ends_with(deletedSuffix)) {
+      continue;
+    }
+    const std::string path = link.substr(0, link.size() - deletedSuffix.size());
+    // The file system that the process sees, which may be a container's. With the slash at
+    // the end lstat() follows the link.
+    const std::string root = procRoot + '/' + std::to_string(process.pid) + "/root/";
+    const bool isReplaced = exists(root + path);
+    // A file's real name may end in " (deleted)", too. The root is checked last: if it is
+    // gone, the process has ended, and what was found of its files means nothing.
+    if (!exists(root + link) && exists(root)) {
+      byPath.try_emplace(path, Removed{isReplaced, {}}).first->second.processes.push_back(&process);
     }
   }
 
   std::vector<ThreatAlert> alerts;
   alerts.reserve(byPath.size());
-  for (const auto& [path, runners] : byPath) {
-    alerts.push_back(alertOn(path, runners, procRoot));
+  for (const auto& [path, removed] : byPath) {
+    alerts.push_back(alertOn(path, removed));
   }
   return alerts;
 }

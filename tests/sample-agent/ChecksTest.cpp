@@ -49,8 +49,19 @@ TEST(DeletedExecutables, IsLowIfAnotherFileHasReplacedIt) {
   EXPECT_EQ(alerts[0].title, "A replaced program still runs: /usr/bin/server");
 }
 
+TEST(DeletedExecutables, IgnoresAProcessThatHasEndedMeanwhile) {
+  const FixtureTree tree;
+  // The link of a zombie leads nowhere.
+  tree.link("12/root", "nowhere");
+  EXPECT_TRUE(deletedExecutables({running(11, "server", "/usr/bin/server (deleted)"),
+                                  running(12, "server", "/usr/bin/server (deleted)")},
+                                 tree.root())
+                  .empty());
+}
+
 TEST(DeletedExecutables, IsHighForAProgramThatNeverWasAFile) {
   const FixtureTree tree;
+  tree.folder("12/root");
   const auto alerts = deletedExecutables({running(12, "x", "/memfd:x (deleted)")}, tree.root());
   ASSERT_EQ(alerts.size(), 1U);
   EXPECT_EQ(alerts[0].alert_type, "Fileless program");
@@ -60,6 +71,9 @@ TEST(DeletedExecutables, IsHighForAProgramThatNeverWasAFile) {
 
 TEST(DeletedExecutables, ReportsAnExecutableOnceForAllItsProcesses) {
   const FixtureTree tree;
+  for (const auto* root : {"5/root", "6/root", "7/root"}) {
+    tree.folder(root);
+  }
   auto alerts = deletedExecutables(
       {running(5, "a", "/opt/a (deleted)"), running(6, "a", "/opt/a (deleted)")}, tree.root());
   ASSERT_EQ(alerts.size(), 1U);
