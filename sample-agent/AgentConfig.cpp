@@ -18,7 +18,8 @@ namespace {
 
 namespace errc = boost::system::errc;
 
-constexpr std::size_t maxConfigBytes = std::size_t{1} << 20;
+// As much as the panel imports.
+constexpr std::size_t maxConfigBytes = std::size_t{64} << 20;
 
 std::string placeText(const std::string& path, const toml::source_region& region) {
   std::ostringstream text;
