@@ -53,7 +53,7 @@ std::optional<Failure> unsafety(const struct stat& status, const std::string& pa
   return std::nullopt;
 }
 
-/// No value if the file does not exist, or was removed because others may have read it.
+/// No value if the file does not exist, or was removed because its mode allowed too much.
 std::optional<TokenResult> readToken(const std::string& path) {
   const int descriptor =
       open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);

@@ -22,7 +22,7 @@ namespace quillmark::sample {
 /// A missing file is created, with its folder, readable by this user only; if two
 /// agents create it at once, both get the same token. An existing file is a failure
 /// unless it is a regular file of this user with a token in it, because another program
-/// may have created it. If every user may read the token, a new one replaces it.
+/// may have created it. If its mode allows more than 0640, a new token replaces it.
 [[nodiscard]] boost::system::result<std::string, Failure> loadOrMakeToken(const std::string& path);
 
 }  // namespace quillmark::sample
