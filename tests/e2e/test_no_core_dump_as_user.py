@@ -32,8 +32,10 @@ def test_the_panel_leaves_no_core_dump(launch_alone):
 def test_the_other_programs_leave_no_core_dump(command):
     with subprocess.Popen([*ALLOWED, PROGRAMS / command[0], *command[1:]],
                           stdout=subprocess.DEVNULL) as program:
-        until(lambda: core_limits(program.pid) == NONE, "no core dumps")
-        program.kill()
+        try:
+            until(lambda: core_limits(program.pid) == NONE, "no core dumps")
+        finally:
+            program.kill()
 
 
 def test_not_even_where_no_limit_may_be_set(launch_alone):
