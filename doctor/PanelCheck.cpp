@@ -46,7 +46,7 @@ bool isNewer(const std::string& path, Seconds than) {
 /// Panels of other users read other tokens.
 bool isOfThisUser(int pid) {
   struct stat status {};
-  const auto folder = procRoot + ('/' + std::to_string(pid));
+  const auto folder = std::string(procRoot) + '/' + std::to_string(pid);
   return stat(folder.c_str(), &status) == 0 && status.st_uid == geteuid();
 }
 

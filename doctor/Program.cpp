@@ -27,7 +27,7 @@ std::string starterText() {
 }  // namespace
 
 std::string programName(const ProcessCommand& process) {
-  auto path = readLink(pathIn(procRoot, std::to_string(process.pid)) + "/exe");
+  auto path = readLink(std::string(procRoot) + '/' + std::to_string(process.pid) + "/exe");
   if (!path) {
     return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
   }

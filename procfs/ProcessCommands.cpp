@@ -11,7 +11,7 @@
 namespace quillmark {
 
 ProcessCommand readProcessCommand(const std::string& procRoot, int pid) {
-  const std::string folder = pathIn(procRoot, std::to_string(pid));
+  const std::string folder = procRoot + '/' + std::to_string(pid);
   ProcessCommand command{pid, readSystemFile(folder + "/cmdline").value_or("")};
   if (command.text.empty()) {
     command.arguments = ProcessCommand::Arguments::none;

@@ -8,6 +8,7 @@
 #include <climits>
 #include <cstddef>
 #include <memory>
+#include <string_view>
 
 #include <boost/scope_exit.hpp>
 
@@ -74,13 +75,6 @@ std::vector<std::string> namesIn(const std::string& folder) {
     }
   }
   return names;
-}
-
-std::string pathIn(const std::string& folder, std::string_view name) {
-  std::string path = folder;
-  path += '/';
-  path += name;
-  return path;
 }
 
 }  // namespace quillmark

@@ -5,7 +5,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace quillmark {
@@ -21,8 +20,5 @@ namespace quillmark {
 
 /// The names in a folder, without "." and "..", in no particular order.
 [[nodiscard]] std::vector<std::string> namesIn(const std::string& folder);
-
-/// The path of the file called `name` in `folder`.
-[[nodiscard]] std::string pathIn(const std::string& folder, std::string_view name);
 
 }  // namespace quillmark

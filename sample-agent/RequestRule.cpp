@@ -6,18 +6,18 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <locale>
+
+#include <boost/algorithm/string/predicate.hpp>
 
 #include "AgentAddress.h"
 
 namespace quillmark::sample {
 namespace {
 
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 bool isAgentHost(std::string_view host) {
   return std::any_of(std::begin(agentHosts), std::end(agentHosts), [&](std::string_view own) {
-    return std::equal(host.begin(), host.end(), own.begin(), own.end(),
-                      [](char a, char b) { return lowerCase(a) == b; });
+    return boost::algorithm::iequals(host, own, std::locale::classic());
   });
 }
 

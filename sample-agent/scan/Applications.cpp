@@ -105,7 +105,7 @@ void ApplicationReader::addPackage(const Package& package) {
   for (const auto& listed : files.desktopEntries) {
     const std::string entryName(leafOf(listed));
     packaged_.entryNames.insert(entryName);
-    if (const auto entry = readEntry(pathIn(packagedApplications_, entryName))) {
+    if (const auto entry = readEntry(packagedApplications_ + '/' + entryName)) {
       packaged_.menu.push_back({entry->name, version, publisher, pathOf(*entry, files.programs)});
       inMenu = true;
     }
@@ -121,7 +121,7 @@ void ApplicationReader::addUnpackaged(const std::string& folder, Found& found) {
     if (!name.ends_with(".desktop") || !found.entryNames.insert(name).second) {
       continue;
     }
-    if (const auto entry = readEntry(pathIn(folder, name))) {
+    if (const auto entry = readEntry(folder + '/' + name)) {
       found.menu.push_back({entry->name, std::nullopt, std::nullopt, pathOf(*entry, {})});
     }
   }
