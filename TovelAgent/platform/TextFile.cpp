@@ -31,7 +31,7 @@ error_code checkRegular(int descriptor) {
 
 }  // namespace
 
-boost::system::result<std::string> readTextFile(const std::string& path, std::size_t maxBytes) {
+boost::system::result<std::string> readRegularFile(const std::string& path, std::size_t maxBytes) {
   const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
   if (descriptor < 0) {
     return lastSystemError();
@@ -41,25 +41,25 @@ boost::system::result<std::string> readTextFile(const std::string& path, std::si
     return error;
   }
 
-  std::string text;
-  std::array<char, 4096> block{};
-  for (;;) {
-    const ssize_t count = read(descriptor, block.data(), block.size());
-    if (count == 0) {
-      break;
-    }
-    if (count < 0) {
-      if (errno == EINTR) {
-        continue;
-      }
+  std::string bytes;
+  // Large, because a table of /proc/net may change between two reads.
+  std::array<char, std::size_t{32} * 1024> block;
+  while (const ssize_t count = read(descriptor, block.data(), block.size())) {
+    if (count > 0) {
+      bytes.append(block.data(), static_cast<std::size_t>(count));
+    } else if (errno != EINTR) {
       return lastSystemError();
     }
-    text.append(block.data(), static_cast<std::size_t>(count));
-    if (text.size() > maxBytes) {
+    if (bytes.size() > maxBytes) {
       return make_error_code(FileError::tooLarge);
     }
   }
-  if (!isUtf8(text)) {
+  return bytes;
+}
+
+boost::system::result<std::string> readTextFile(const std::string& path, std::size_t maxBytes) {
+  auto text = readRegularFile(path, maxBytes);
+  if (text && !isUtf8(*text)) {
     return make_error_code(FileError::notUtf8);
   }
   return text;

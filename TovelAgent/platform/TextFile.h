@@ -10,11 +10,15 @@
 
 namespace quillmark {
 
-/// Reads the whole file at `path`; it must be UTF-8 and at most `maxBytes` long.
+/// Reads the whole file at `path`, of at most `maxBytes`.
 ///
 /// Only regular files are read. Opening never blocks: a FIFO or a device at that
 /// path is an error. Errors are those of the system and of `FileError`. Any
 /// thread; waits for the disk.
+[[nodiscard]] boost::system::result<std::string> readRegularFile(const std::string& path,
+                                                                 std::size_t maxBytes);
+
+/// Like `readRegularFile`, for a file that must be UTF-8.
 [[nodiscard]] boost::system::result<std::string> readTextFile(const std::string& path,
                                                               std::size_t maxBytes);
 

@@ -12,8 +12,8 @@ import scene
 import traced
 
 # Long enough for several reads: a part of a text must not be taken for the whole.
-FIRST = "a" * 10000
-SECOND = "b" * 10000
+FIRST = "a" * 70000
+SECOND = "b" * 70000
 # The calls without which a file is unreadable; the others are repeated or not needed.
 DECIDING = ("openat", "newfstatat", "fstat", "read")
 
