@@ -10,7 +10,7 @@
 #include <boost/algorithm/string/replace.hpp>
 #include <boost/locale/utf.hpp>
 
-#include "procfs/Text.h"
+#include "platform/Utf8.h"
 
 namespace quillmark::doctor {
 namespace {

@@ -3,19 +3,11 @@
 
 #pragma once
 
-#include <chrono>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quillmark {
-
-/// `bytes` as UTF-8: each byte that belongs to no character becomes U+FFFD.
-/// File and program names are bytes to the system, but text in JSON.
-[[nodiscard]] std::string asUtf8(std::string_view bytes);
-
-/// `time` in UTC by RFC 3339, whole seconds: "2026-01-31T08:05:00Z".
-[[nodiscard]] std::string rfc3339(std::chrono::system_clock::time_point time);
 
 /// The parts of `text` between separators, empty ones included; views into it.
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, char separator);

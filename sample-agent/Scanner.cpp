@@ -11,7 +11,6 @@
 #include "checks/DeletedExecutables.h"
 #include "checks/WritableProgramFolders.h"
 #include "model/Codec.h"
-#include "procfs/Text.h"
 #include "scan/Capabilities.h"
 #include "scan/Connections.h"
 #include "scan/Interfaces.h"

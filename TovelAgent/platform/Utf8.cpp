@@ -48,6 +48,23 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
+std::string asUtf8(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const auto* at = bytes.begin(); at != bytes.end();) {
+    const auto* next = at;
+    if (utf::is_valid_codepoint(Utf8::decode(next, bytes.end()))) {
+      text.append(at, next);
+      at = next;
+    } else {
+      // Skip one byte only: what an incomplete character consumed may be valid text.
+      text += "\uFFFD";
+      ++at;
+    }
+  }
+  return text;
+}
+
 std::string_view trimmed(std::string_view text) { return trimEnds(isWhiteSpace, text); }
 
 std::string_view trimmedInLine(std::string_view text) { return trimEnds(isLineSpace, text); }

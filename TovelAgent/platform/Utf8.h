@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace quillmark {
@@ -10,6 +11,10 @@ namespace quillmark {
 /// Whether `bytes` are well-formed UTF-8: no overlong form, no surrogate, no
 /// value beyond U+10FFFF. Any thread.
 [[nodiscard]] bool isUtf8(std::string_view bytes);
+
+/// `bytes` as UTF-8: each byte that belongs to no character becomes U+FFFD.
+/// File and program names are bytes to the system, but text in JSON. Any thread.
+[[nodiscard]] std::string asUtf8(std::string_view bytes);
 
 /// `text`, which must be UTF-8, without the white space at both of its ends:
 /// every character with the Unicode property White_Space, line breaks included.

@@ -5,9 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 #include <string_view>
-
-#include "procfs/Text.h"
 
 namespace quillmark::sample {
 namespace {
@@ -38,6 +37,15 @@ std::vector<ThreatAlert> AlertHistory::dated(std::vector<ThreatAlert> findings, 
                                       : severityRank(a) < severityRank(b);
   });
   return findings;
+}
+
+std::string rfc3339(std::chrono::system_clock::time_point time) {
+  const std::time_t seconds =
+      std::chrono::floor<std::chrono::seconds>(time).time_since_epoch().count();
+  std::tm parts{};
+  gmtime_r(&seconds, &parts);
+  std::array<char, 32> text{};
+  return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
 }
 
 bool isThreat(const ThreatAlert& alert) {

@@ -30,6 +30,9 @@ class AlertHistory final {
   std::map<Key, Time> firstSeen_;
 };
 
+/// `time` in UTC by RFC 3339, whole seconds: "2026-01-31T08:05:00Z".
+[[nodiscard]] std::string rfc3339(std::chrono::system_clock::time_point time);
+
 /// Whether an alert counts as a threat: severity "critical" or "high".
 [[nodiscard]] bool isThreat(const ThreatAlert& alert);
 

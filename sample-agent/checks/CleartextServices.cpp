@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "procfs/Text.h"
+#include "platform/Utf8.h"
 #include "scan/Risk.h"
 
 namespace quillmark::sample {

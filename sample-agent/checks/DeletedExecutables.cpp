@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-#include "procfs/Text.h"
+#include "platform/Utf8.h"
 
 namespace quillmark::sample {
 namespace {

@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "procfs/Text.h"
+#include "platform/Utf8.h"
 
 namespace quillmark::sample {
 namespace {

@@ -10,6 +10,7 @@
 
 #include <sys/stat.h>
 
+#include "platform/Utf8.h"
 #include "procfs/Text.h"
 
 namespace quillmark::sample {

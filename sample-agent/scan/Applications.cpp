@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 
 #include "platform/TextFile.h"
+#include "platform/Utf8.h"
 #include "procfs/SystemFile.h"
 #include "procfs/Text.h"
 #include "scan/DesktopEntry.h"

@@ -5,6 +5,7 @@
 
 #include <string_view>
 
+#include "platform/Utf8.h"
 #include "procfs/SystemFile.h"
 #include "procfs/Text.h"
 

@@ -8,7 +8,7 @@
 #include <set>
 #include <unordered_set>
 
-#include "procfs/Text.h"
+#include "platform/Utf8.h"
 
 namespace quillmark::sample {
 namespace {

@@ -72,5 +72,35 @@ TEST(Utf8, RefusesOneContinuationTooMany) {
   }
 }
 
+TEST(AsUtf8, KeepsValidText) {
+  const std::string text = "plain, żółć, 漢字, \U0001F600, \n\t\x01";
+  EXPECT_EQ(asUtf8(text), text);
+  EXPECT_EQ(asUtf8(""), "");
+}
+
+TEST(AsUtf8, ReplacesEachByteThatIsNoCharacter) {
+  EXPECT_EQ(asUtf8("a\xFF"
+                   "b"),
+            "a\uFFFDb");
+  EXPECT_EQ(asUtf8("\xC0\xAF"), "\uFFFD\uFFFD");
+  EXPECT_EQ(asUtf8("\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD") << "a lone surrogate";
+  EXPECT_EQ(asUtf8("\xF5\x80\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD") << "beyond the last character";
+}
+
+TEST(AsUtf8, KeepsWhatFollowsAnIncompleteCharacter) {
+  EXPECT_EQ(asUtf8("\xC3(x)"), "\uFFFD(x)");
+  EXPECT_EQ(asUtf8("\xE2\x82"), "\uFFFD\uFFFD");
+  EXPECT_EQ(asUtf8("\xE2\x82\xC3\xA9"), "\uFFFD\uFFFD\u00E9");
+}
+
+TEST(AsUtf8, MakesValidTextOfAnyTwoBytes) {
+  for (int first = 0; first < 256; ++first) {
+    for (int second = 0; second < 256; ++second) {
+      const std::string bytes{static_cast<char>(first), static_cast<char>(second)};
+      EXPECT_TRUE(isUtf8(asUtf8(bytes))) << first << ' ' << second;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quillmark::test

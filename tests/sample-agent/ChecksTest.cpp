@@ -200,6 +200,12 @@ TEST(AlertHistory, ListsTheNewestFirstAndThenTheMostSevere) {
             (Lines{"new 00:02", "critical 00:01"}));
 }
 
+TEST(Rfc3339, IsInUtcAndWholeSeconds) {
+  const std::chrono::system_clock::time_point time{std::chrono::milliseconds(1767225599999)};
+  EXPECT_EQ(rfc3339(time), "2025-12-31T23:59:59Z");
+  EXPECT_EQ(rfc3339({}), "1970-01-01T00:00:00Z");
+}
+
 TEST(IsThreat, CountsHighAndCritical) {
   EXPECT_TRUE(isThreat(finding("", "critical")));
   EXPECT_TRUE(isThreat(finding("", "high")));
