@@ -15,6 +15,7 @@
 #include "FileAccess.h"
 #include "agentctl/ConfigFile.h"
 #include "agentctl/ConfigReadBack.h"
+#include "platform/SystemError.h"
 #include "platform/TextFile.h"
 
 namespace quillmark::doctor {

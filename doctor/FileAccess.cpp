@@ -6,8 +6,6 @@
 #include <array>
 #include <cstdio>
 
-#include <boost/system/errc.hpp>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,11 +26,6 @@ std::string modeText(mode_t mode) {
   std::array<char, 8> text{};
   std::snprintf(text.data(), text.size(), "%04o", static_cast<unsigned>(mode & ALLPERMS));
   return text.data();
-}
-
-bool meansMissing(const boost::system::error_code& error) {
-  namespace errc = boost::system::errc;
-  return error == errc::no_such_file_or_directory || error == errc::not_a_directory;
 }
 
 bool mayAccess(const std::string& path, int rights) {

@@ -6,8 +6,6 @@
 #include <optional>
 #include <string>
 
-#include <boost/system/error_code.hpp>
-
 #include <sys/types.h>
 
 namespace quillmark::doctor {
@@ -21,9 +19,6 @@ namespace quillmark::doctor {
 
 /// The permission bits in octal: "0644".
 [[nodiscard]] std::string modeText(mode_t mode);
-
-/// Whether `error` means that nothing exists at the path.
-[[nodiscard]] bool meansMissing(const boost::system::error_code& error);
 
 /// Whether this user has all of `rights` (`W_OK`, `X_OK`) at `path`.
 [[nodiscard]] bool mayAccess(const std::string& path, int rights);

@@ -29,6 +29,10 @@ std::string nameOf(Mark mark) {
   return "wrong";
 }
 
+boost::json::value textOrNull(const std::string& text) {
+  return text.empty() ? boost::json::value(nullptr) : boost::json::value(text);
+}
+
 std::string counted(std::size_t count, const std::string& noun) {
   return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }

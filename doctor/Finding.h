@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <boost/json/object.hpp>
+#include <boost/json/value.hpp>
 
 namespace quillmark::doctor {
 
@@ -47,6 +48,9 @@ struct Report {
 
 [[nodiscard]] bool isWrong(const Finding& finding);
 [[nodiscard]] std::string nameOf(Mark mark);
+
+/// `text` as JSON; null if it is empty.
+[[nodiscard]] boost::json::value textOrNull(const std::string& text);
 
 /// "1 alert", "2 alerts".
 [[nodiscard]] std::string counted(std::size_t count, const std::string& noun);

@@ -46,10 +46,6 @@ std::string line(const Finding& finding, Colour colour) {
          padded(finding.check, checkWidth) + "  " + finding.text + '\n';
 }
 
-boost::json::value textOrNull(const std::string& text) {
-  return text.empty() ? boost::json::value(nullptr) : boost::json::value(text);
-}
-
 boost::json::object asJson(const Finding& finding) {
   return {{"check", finding.check},
           {"mark", nameOf(finding.mark)},

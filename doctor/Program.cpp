@@ -8,6 +8,7 @@
 #include "agentctl/AgentProcess.h"
 #include "platform/BundlePath.h"
 #include "platform/HomeDirectory.h"
+#include "procfs/Processes.h"
 #include "procfs/SystemFile.h"
 #include "procfs/Text.h"
 
@@ -31,10 +32,8 @@ std::string programName(const ProcessCommand& process) {
   if (!path) {
     return std::string(leafOf(std::string_view(process.text).substr(0, process.text.find(' '))));
   }
-  // The kernel's mark for a removed file: after an update the old program still runs.
-  constexpr std::string_view deleted = " (deleted)";
-  if (path->ends_with(deleted)) {
-    path->resize(path->size() - deleted.size());
+  if (path->ends_with(deletedSuffix)) {
+    path->resize(path->size() - deletedSuffix.size());
   }
   return std::string(leafOf(*path));
 }

@@ -10,6 +10,7 @@
 
 #include "FileAccess.h"
 #include "client/AccessToken.h"
+#include "platform/SystemError.h"
 
 namespace quillmark::doctor {
 namespace {
@@ -51,15 +52,15 @@ void sayMode(Finding& finding, const TokenPlace& place, const std::string& shown
 }
 
 std::string sayContents(Finding& finding, const std::string& token, const std::string& shownPath) {
+  const auto step = "Remove " + shownPath + " and start the agent again, which makes a new token.";
   if (token.empty()) {
-    finding.say(Mark::wrong, "blank, so the panel sends an empty token and looks no further",
-                "Remove " + shownPath + " and start the agent again, which makes a new token.");
+    finding.say(Mark::wrong, "blank, so the panel sends an empty token and looks no further", step);
     return "blank";
   }
   if (!fitsHeaderField(token)) {
     finding.say(Mark::wrong,
                 "holds a control character, which no request can carry, so the panel asks nothing",
-                "Remove " + shownPath + " and start the agent again, which makes a new token.");
+                step);
     return "unfit";
   }
   return "usable";
@@ -127,7 +128,7 @@ Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
   } else {
     finding.say(Mark::ok, "the panel uses that of " + sanitize(inUse.path));
   }
-  finding.facts["path"] = inUse.path.empty() ? boost::json::value() : sanitize(inUse.path).c_str();
+  finding.facts["path"] = textOrNull(sanitize(inUse.path));
   return finding;
 }
 

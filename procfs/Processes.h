@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -22,6 +23,9 @@ struct Process {
   std::string executable;              ///< the link /proc/PID/exe; empty where it cannot be read
   std::vector<std::uint64_t> sockets;  ///< inodes of its open sockets
 };
+
+/// How `executable` ends if the file was removed, as by an update.
+inline constexpr std::string_view deletedSuffix = " (deleted)";
 
 /// All processes under `procRoot` except kernel threads and zombies, ascending by
 /// pid.

@@ -9,14 +9,12 @@
 #include <string_view>
 
 #include <toml++/toml.h>
-#include <boost/system/errc.hpp>
 
+#include "platform/SystemError.h"
 #include "platform/TextFile.h"
 
 namespace quillmark::sample {
 namespace {
-
-namespace errc = boost::system::errc;
 
 // As much as the panel imports.
 constexpr std::size_t maxConfigBytes = std::size_t{64} << 20;
@@ -82,7 +80,7 @@ boost::system::result<AgentConfig, Failure> loadConfig(const std::vector<std::st
     if (text) {
       return parseConfig(*text, path);
     }
-    if (text.error() != errc::no_such_file_or_directory && text.error() != errc::not_a_directory) {
+    if (!meansMissing(text.error())) {
       return Failure{path + ": " + text.error().message()};
     }
   }

@@ -13,7 +13,6 @@
 namespace quillmark::sample {
 namespace {
 
-constexpr std::string_view deletedSuffix = " (deleted)";
 constexpr std::string_view memoryFilePrefix = "/memfd:";
 
 /// The processes of one executable that was removed.
