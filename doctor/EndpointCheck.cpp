@@ -22,18 +22,22 @@ constexpr Endpoint endpoints[] = {{"status", statusPath, readStatus, "status"},
 
 Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& port,
                      const TextSanitizer& sanitize) {
+  if (!inUse.token) {
+    for (const auto& endpoint : endpoints) {
+      findings.push_back(notAsked(endpoint, inUse.refusal));
+    }
+    return {.status = std::nullopt, .offlineBecause = inUse.refusal, .failedParts = {}};
+  }
   std::vector<std::string_view> paths;
   for (const auto& endpoint : endpoints) {
     paths.push_back(endpoint.path);
   }
-  const auto all =
-      inUse.token ? queryAgent(*inUse.token, paths) : std::vector<QueryResult>(paths.size());
+  const auto all = queryAgent(*inUse.token, paths);
 
   Shown shown;
   for (std::size_t i = 0; i < paths.size(); ++i) {
     const auto& endpoint = endpoints[i];
-    auto verdict =
-        inUse.token ? judge(endpoint, all[i], port, sanitize) : notAsked(endpoint, inUse.refusal);
+    auto verdict = judge(endpoint, all[i], port, sanitize);
     if (endpoint.path == statusPath) {
       shown.status = verdict.status;
       shown.offlineBecause = verdict.reason;

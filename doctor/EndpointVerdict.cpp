@@ -143,11 +143,10 @@ class EndpointJudge final {
 
 }  // namespace
 
-Verdict notAsked(const Endpoint& endpoint, const std::string& why) {
-  auto verdict = newVerdict(endpoint);
-  verdict.finding.say(Mark::note, "not asked, because " + why);
-  verdict.reason = why;
-  return verdict;
+Finding notAsked(const Endpoint& endpoint, const std::string& why) {
+  auto finding = newVerdict(endpoint).finding;
+  finding.say(Mark::note, "not asked, because " + why);
+  return finding;
 }
 
 Verdict judge(const Endpoint& endpoint, const QueryResult& query, const Port& port,

@@ -30,8 +30,8 @@ struct Verdict {
   std::string reason;  ///< why the panel shows nothing of the answer, as a clause; else empty
 };
 
-/// The verdict on an endpoint to which no request was sent. `why` is a clause.
-[[nodiscard]] Verdict notAsked(const Endpoint& endpoint, const std::string& why);
+/// What to report of an endpoint to which no request was sent. `why` is a clause.
+[[nodiscard]] Finding notAsked(const Endpoint& endpoint, const std::string& why);
 /// Judges the answer to a request as the panel would: what it shows, or why nothing.
 [[nodiscard]] Verdict judge(const Endpoint& endpoint, const QueryResult& query, const Port& port,
                             const TextSanitizer& sanitize);
