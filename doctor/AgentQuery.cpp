@@ -27,7 +27,7 @@ std::vector<QueryResult> queryAgent(const std::string& token,
     request.token = token;
     auto store = [&query = all.emplace_back(), start](const std::exception_ptr& failure,
                                                       HttpResult result) {
-      query.took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+      query.duration = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
       if (failure) {
         std::rethrow_exception(failure);
       }

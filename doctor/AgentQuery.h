@@ -15,8 +15,8 @@ namespace quillmark::doctor {
 
 /// How one query ended.
 struct QueryResult {
-  std::optional<HttpResult> result;  ///< no value: timed out
-  std::chrono::milliseconds took{};  ///< duration of the exchange
+  std::optional<HttpResult> result;      ///< no value: timed out
+  std::chrono::milliseconds duration{};  ///< of the exchange
 };
 
 /// How long to wait for the agent. The panel waits longer; a person at a terminal does not.

@@ -21,17 +21,17 @@ void judgeBundle(Findings& findings, const std::string& bundle, const TextSaniti
   finding.facts["path"] = sanitize(bundle);
   finding.text = sanitize(bundle) + ": ";
   if (!isQuotable(bundle)) {
-    finding.say(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
+    finding.add(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
                 "Move the application to a path without an apostrophe.");
   }
   if (bundle.find(agentFileName) != std::string::npos) {
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 "holds the agent's file name, so the panel takes itself for an agent, and Stop "
                 "Agent ends it",
                 "Move the application to a path without " + std::string(agentFileName) + ".");
   }
   if (finding.mark == Mark::ok) {
-    finding.say(Mark::ok, "fit for Start Agent");
+    finding.add(Mark::ok, "fit for Start Agent");
   }
   findings.push_back(std::move(finding));
 }
@@ -45,13 +45,13 @@ void judgeProgram(Findings& findings, const std::string& bundle, const TextSanit
   finding.text = sanitize(path) + ": ";
   const auto mode = modeOf(path);
   if (!mode) {
-    finding.say(Mark::wrong, "not there, so Start Agent starts nothing",
+    finding.add(Mark::wrong, "not there, so Start Agent starts nothing",
                 "Install the agent as " + sanitize(path) + ".");
   } else if (!S_ISREG(*mode) || !mayAccess(path, X_OK)) {
-    finding.say(Mark::wrong, "not executable, so Start Agent starts nothing",
+    finding.add(Mark::wrong, "not executable, so Start Agent starts nothing",
                 "Make " + sanitize(path) + " an executable program.");
   } else {
-    finding.say(Mark::ok, "executable");
+    finding.add(Mark::ok, "executable");
   }
   findings.push_back(std::move(finding));
 }
@@ -63,7 +63,7 @@ void checkBundle(Findings& findings, const TextSanitizer& sanitize) {
   if (bundle.empty()) {
     Finding finding;
     finding.check = "bundle";
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 "the system does not tell where programs are, so Start Agent starts "
                 "nothing",
                 "Mount /proc.");

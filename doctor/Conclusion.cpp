@@ -46,19 +46,19 @@ std::string chooseStep(const Findings& findings, const Port& port) {
 
 }  // namespace
 
-Conclusion conclude(const Findings& findings, const Shown& shown, const Port& port) {
+Conclusion conclude(const Findings& findings, const PanelData& data, const Port& port) {
   Conclusion conclusion;
-  conclusion.isOnline = shown.status.has_value();
+  conclusion.isOnline = data.status.has_value();
   conclusion.step = chooseStep(findings, port);
-  if (!shown.status) {
+  if (!data.status) {
     conclusion.text = "OFFLINE because " +
-                      (port.isOpen ? shown.offlineBecause : "nothing listens on the agent's port") +
+                      (port.isOpen ? data.offlineBecause : "nothing listens on the agent's port") +
                       '.';
     return conclusion;
   }
-  conclusion.text = "ONLINE: the panel shows the agent's status, \"" + *shown.status + '"';
-  if (!shown.failedParts.empty()) {
-    conclusion.text += ", but no " + boost::algorithm::join(shown.failedParts, ", no ");
+  conclusion.text = "ONLINE: the panel shows the agent's status, \"" + *data.status + '"';
+  if (!data.failedParts.empty()) {
+    conclusion.text += ", but no " + boost::algorithm::join(data.failedParts, ", no ");
   }
   conclusion.text += '.';
   return conclusion;

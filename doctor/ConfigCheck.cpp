@@ -10,8 +10,8 @@
 
 #include <boost/system/result.hpp>
 
+#include "ConfigContentCheck.h"
 #include "ConfigToml.h"
-#include "ConfigValues.h"
 #include "FileAccess.h"
 #include "agentctl/ConfigFile.h"
 #include "agentctl/ConfigReadBack.h"
@@ -27,21 +27,22 @@ struct ConfigCandidate {
   ConfigToml toml;  ///< of the text, if there is one
 };
 
-Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
+Finding judge(const ConfigCandidate& candidate, const char* check, bool isShadowed,
               const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = check;
-  const auto path = sanitize(place.path);
+  const auto path = sanitize(candidate.path);
   finding.facts["path"] = path;
   finding.text = path + ": ";
-  if (!place.text && meansMissing(place.text.error())) {
+  if (!candidate.text && meansMissing(candidate.text.error())) {
     finding.facts["state"] = "missing";
     finding.text += "not there";
     return finding;
   }
-  if (!place.text) {
+  if (!candidate.text) {
     finding.facts["state"] = "unreadable";
-    finding.text += "cannot be read (" + place.text.error().message() + "), the panel ignores it";
+    finding.text +=
+        "cannot be read (" + candidate.text.error().message() + "), the panel ignores it";
     finding.mark = Mark::wrong;
     finding.step = "Make " + path + " a file that the panel's user can read, or remove it.";
   } else if (isShadowed) {
@@ -53,10 +54,10 @@ Finding judge(const ConfigCandidate& place, const char* check, bool isShadowed,
     finding.facts["state"] = "read";
     finding.text += "read";
   }
-  if (const auto mode = modeOf(place.path)) {
+  if (const auto mode = modeOf(candidate.path)) {
     finding.facts["mode"] = modeText(*mode);
     if (othersMayRead(*mode)) {
-      finding.say(Mark::wrong, "mode " + modeText(*mode) + " lets every user read it, with the key",
+      finding.add(Mark::wrong, "mode " + modeText(*mode) + " lets every user read it, with the key",
                   "Close " + path + " to others (mode 0600).");
     }
   }
@@ -85,24 +86,24 @@ void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sani
 
 void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"config", "config-old"};
-  std::vector<ConfigCandidate> places;
+  std::vector<ConfigCandidate> candidates;
   for (const auto& path : configSearchPaths()) {
-    auto& place = places.emplace_back(
+    auto& candidate = candidates.emplace_back(
         ConfigCandidate{path, readTextFile(path, maxConfigBytes), ConfigToml{}});
-    if (place.text) {
-      place.toml = readToml(*place.text);
-      hideKeys(*place.text, place.toml, sanitize);
+    if (candidate.text) {
+      candidate.toml = readToml(*candidate.text);
+      hideKeys(*candidate.text, candidate.toml, sanitize);
     }
   }
   const ConfigCandidate* chosen = nullptr;
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    findings.push_back(judge(places[i], checks.at(i), chosen != nullptr, sanitize));
-    if (chosen == nullptr && places[i].text) {
-      chosen = &places[i];
+  for (std::size_t i = 0; i < candidates.size(); ++i) {
+    findings.push_back(judge(candidates[i], checks.at(i), chosen != nullptr, sanitize));
+    if (chosen == nullptr && candidates[i].text) {
+      chosen = &candidates[i];
     }
   }
   if (chosen == nullptr) {
-    findings.back().say(Mark::note, "so this machine is not enrolled", enrolStep);
+    findings.back().add(Mark::note, "so this machine is not enrolled", enrolStep);
     return;
   }
   const auto& toml = chosen->toml;

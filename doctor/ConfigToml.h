@@ -12,12 +12,12 @@ namespace quillmark::doctor {
 
 /// What a TOML parser finds in a configuration.
 struct ConfigToml {
-  struct Place {
+  struct Position {
     std::uint32_t line = 0;
     std::uint32_t column = 0;
   };
-  std::optional<Place> error;  ///< of the syntax error, if any; then the rest is empty
-  bool hasAgent = false;       ///< whether there is a section [agent]
+  std::optional<Position> error;  ///< of the syntax error, if any; then the rest is empty
+  bool hasAgent = false;          ///< whether there is a section [agent]
   std::optional<std::string> apiKey;
   std::optional<std::string> serverUrl;
 };

@@ -20,33 +20,33 @@ constexpr Endpoint endpoints[] = {{"status", statusPath, readStatus, "status"},
 
 }  // namespace
 
-Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& port,
-                     const TextSanitizer& sanitize) {
-  if (!inUse.token) {
+PanelData checkEndpoints(Findings& findings, const TokenInUse& token, const Port& port,
+                         const TextSanitizer& sanitize) {
+  if (!token.value) {
     for (const auto& endpoint : endpoints) {
-      findings.push_back(notAsked(endpoint, inUse.refusal));
+      findings.push_back(notAsked(endpoint, token.whyNotSent));
     }
-    return {.status = std::nullopt, .offlineBecause = inUse.refusal, .failedParts = {}};
+    return {.status = std::nullopt, .offlineBecause = token.whyNotSent, .failedParts = {}};
   }
   std::vector<std::string_view> paths;
   for (const auto& endpoint : endpoints) {
     paths.push_back(endpoint.path);
   }
-  const auto all = queryAgent(*inUse.token, paths);
+  const auto all = queryAgent(*token.value, paths);
 
-  Shown shown;
+  PanelData data;
   for (std::size_t i = 0; i < paths.size(); ++i) {
     const auto& endpoint = endpoints[i];
     auto verdict = judge(endpoint, all[i], port, sanitize);
     if (endpoint.path == statusPath) {
-      shown.status = verdict.status;
-      shown.offlineBecause = verdict.reason;
+      data.status = verdict.status;
+      data.offlineBecause = verdict.reason;
     } else if (!verdict.reason.empty()) {
-      shown.failedParts.emplace_back(endpoint.shownAs);
+      data.failedParts.emplace_back(endpoint.shownName);
     }
     findings.push_back(std::move(verdict.finding));
   }
-  return shown;
+  return data;
 }
 
 }  // namespace quillmark::doctor

@@ -15,14 +15,14 @@
 namespace quillmark::doctor {
 
 /// What the panel shows of the agent's answers.
-struct Shown {
+struct PanelData {
   std::optional<std::string> status;     ///< the agent's status text, sanitized; no value: OFFLINE
   std::string offlineBecause;            ///< the reason, as a clause
   std::vector<std::string> failedParts;  ///< what else it cannot show, such as "alerts"
 };
 
 /// Sends the panel's requests to the agent, with the same token; none without a token.
-[[nodiscard]] Shown checkEndpoints(Findings& findings, const TokenInUse& inUse, const Port& port,
-                                   const TextSanitizer& sanitize);
+[[nodiscard]] PanelData checkEndpoints(Findings& findings, const TokenInUse& token,
+                                       const Port& port, const TextSanitizer& sanitize);
 
 }  // namespace quillmark::doctor

@@ -38,13 +38,6 @@ FailureText textOf(HttpFailure failure) {
   return {"too large", "the answer is larger than the panel takes"};
 }
 
-/// The step after a bad answer: `step`, unless a process that is no agent holds the port.
-std::string stepUnlessStranger(const Port& port, const std::string& step) {
-  return port.stranger ? "End process " + std::to_string(*port.stranger) +
-                             ", which holds the agent's port, and start the agent."
-                       : step;
-}
-
 Verdict newVerdict(const Endpoint& endpoint) {
   Verdict verdict;
   verdict.finding.check = endpoint.check;
@@ -59,29 +52,35 @@ class EndpointJudge final {
       : endpoint_(endpoint), port_(port), sanitize_(sanitize), verdict_(newVerdict(endpoint)) {}
 
   [[nodiscard]] Verdict operator()(const QueryResult& query) {
-    verdict_.finding.facts["milliseconds"] = query.took.count();
+    verdict_.finding.facts["milliseconds"] = query.duration.count();
     if (!query.result) {
-      const auto patience = std::chrono::duration_cast<std::chrono::seconds>(HttpLimits().time);
+      const auto panelLimit = std::chrono::duration_cast<std::chrono::seconds>(HttpLimits().time);
       verdict_.finding.facts["milliseconds"] = nullptr;
       fail("silent",
            "no whole answer within " + std::to_string(queryTimeout.count()) +
-               " s; the panel would wait for " + std::to_string(patience.count()) + " s",
-           stepUnlessStranger(port_, "Look into the agent's log (" +
-                                         sanitize_(homeDirectory() + std::string(agentLogInHome)) +
-                                         ") and start the agent again."));
+               " s; the panel would wait for " + std::to_string(panelLimit.count()) + " s",
+           stepForAnswer("Look into the agent's log (" +
+                         sanitize_(homeDirectory() + std::string(agentLogInHome)) +
+                         ") and start the agent again."));
     } else if (!*query.result) {
       const auto [fact, words] = textOf(query.result->error());
       const bool isDown = query.result->error() == HttpFailure::notConnected;
       fail(fact, words,
-           isDown ? startAgentStep
-                  : stepUnlessStranger(port_, "Fix or replace the agent: see its log."));
+           isDown ? startAgentStep : stepForAnswer("Fix or replace the agent: see its log."));
     } else {
-      judgeAnswer(**query.result, query.took);
+      judgeAnswer(**query.result, query.duration);
     }
     return std::move(verdict_);
   }
 
  private:
+  /// The step after a bad answer: `step`, unless another program holds the port.
+  [[nodiscard]] std::string stepForAnswer(const std::string& step) const {
+    return port_.otherProgram ? "End process " + std::to_string(*port_.otherProgram) +
+                                    ", which holds the agent's port, and start the agent."
+                              : step;
+  }
+
   void fail(std::string_view fact, const std::string& words, const std::string& step) {
     verdict_.finding.facts["failure"] = fact;
     verdict_.finding.text += words;
@@ -90,12 +89,12 @@ class EndpointJudge final {
     verdict_.reason = std::string(endpoint_.path) + " gives nothing to show (" + words + ')';
   }
 
-  void judgeAnswer(const HttpAnswer& answer, std::chrono::milliseconds took) {
+  void judgeAnswer(const HttpAnswer& answer, std::chrono::milliseconds duration) {
     verdict_.finding.facts["http_status"] = answer.status;
     verdict_.finding.facts["bytes"] = answer.body.size();
     verdict_.finding.text += "HTTP " + std::to_string(answer.status) + ", " +
                              counted(answer.body.size(), "byte") + ", " +
-                             std::to_string(took.count()) + " ms: ";
+                             std::to_string(duration.count()) + " ms: ";
     const auto contents = endpoint_.read(answer.body, sanitize_);
     if (contents.error) {
       judgeDecodeError(*contents.error, answer.status);
@@ -106,7 +105,7 @@ class EndpointJudge final {
     verdict_.finding.mark = contents.mark;
     verdict_.finding.text += contents.summary;
     if (answer.status != httpOk) {
-      verdict_.finding.say(Mark::note, "shown anyway, the panel does not look at the HTTP status");
+      verdict_.finding.add(Mark::note, "shown anyway, the panel does not look at the HTTP status");
     }
   }
 
@@ -126,13 +125,12 @@ class EndpointJudge final {
 
   [[nodiscard]] std::string stepAfter(unsigned httpStatus, const std::string& fault) const {
     if (httpStatus == httpUnauthorized || httpStatus == httpForbidden) {
-      return stepUnlessStranger(
-          port_,
+      return stepForAnswer(
           "The agent refuses this token: run the agent as this user, or put its token "
           "where the panel looks; then start the panel again.");
     }
-    return stepUnlessStranger(
-        port_, "Fix the agent's answer to " + std::string(endpoint_.path) + ": " + fault + ".");
+    return stepForAnswer("Fix the agent's answer to " + std::string(endpoint_.path) + ": " + fault +
+                         ".");
   }
 
   const Endpoint& endpoint_;
@@ -145,7 +143,7 @@ class EndpointJudge final {
 
 Finding notAsked(const Endpoint& endpoint, const std::string& why) {
   auto finding = newVerdict(endpoint).finding;
-  finding.say(Mark::note, "not asked, because " + why);
+  finding.add(Mark::note, "not asked, because " + why);
   return finding;
 }
 

@@ -20,7 +20,7 @@ struct Endpoint {
   const char* check;
   std::string_view path;
   Contents (*read)(std::string_view body, const TextSanitizer& sanitize);
-  const char* shownAs;  ///< name of what the panel shows from it
+  const char* shownName;  ///< name of what the panel shows from it
 };
 
 /// The result of one request.

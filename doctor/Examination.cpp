@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "BundleCheck.h"
-#include "Conclusion.h"
 #include "ConfigCheck.h"
 #include "EndpointCheck.h"
 #include "FolderCheck.h"
@@ -24,21 +23,21 @@ Report examine() {
   Report report;
   auto& findings = report.findings;
   TextSanitizer sanitize;
-  const auto inUse = checkTokens(findings, sanitize);
+  const auto token = checkTokens(findings, sanitize);
   // Reported later, but its keys must be hidden before any command line is shown.
   Findings config;
   checkConfig(config, sanitize);
 
   const auto port = checkPort(findings, sanitize);
-  const auto shown = checkEndpoints(findings, inUse, port, sanitize);
+  const auto data = checkEndpoints(findings, token, port, sanitize);
   findings.insert(findings.end(), std::make_move_iterator(config.begin()),
                   std::make_move_iterator(config.end()));
   checkFolders(findings, sanitize);
   checkBundle(findings, sanitize);
   checkTools(findings);
   checkProbe(findings, port, sanitize);
-  checkPanels(findings, inUse);
-  report.conclusion = conclude(findings, shown, port);
+  checkPanels(findings, token);
+  report.conclusion = conclude(findings, data, port);
   return report;
 }
 

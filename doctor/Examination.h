@@ -3,9 +3,15 @@
 
 #pragma once
 
+#include "Conclusion.h"
 #include "Finding.h"
 
 namespace quillmark::doctor {
+
+struct Report {
+  Findings findings;
+  Conclusion conclusion;
+};
 
 /// Runs every check once; takes little longer than `queryTimeout` at most.
 /// Changes nothing and starts nothing.

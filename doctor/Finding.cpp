@@ -7,12 +7,12 @@
 
 namespace quillmark::doctor {
 
-void Finding::say(Mark how, const std::string& sentence, const std::string& whatToDo) {
-  text += (text.empty() || text.ends_with(": ") ? "" : "; ") + sentence;
-  if (how > mark || step.empty()) {
-    step = whatToDo;
+void Finding::add(Mark clauseMark, const std::string& clause, const std::string& clauseStep) {
+  text += (text.empty() || text.ends_with(": ") ? "" : "; ") + clause;
+  if (clauseMark > mark || step.empty()) {
+    step = clauseStep;
   }
-  mark = std::max(mark, how);
+  mark = std::max(mark, clauseMark);
 }
 
 bool isWrong(const Finding& finding) { return finding.mark == Mark::wrong; }

@@ -27,24 +27,12 @@ struct Finding {
   std::string step;  ///< what to do about it; empty when there is nothing to do
   boost::json::object facts;
 
-  /// Appends a sentence to `text`, which may be only "subject: " so far. `mark` becomes the worse
-  /// of both marks; `step` is the step of the worst sentence so far.
-  void say(Mark how, const std::string& sentence, const std::string& whatToDo = {});
+  /// Appends a clause to `text`, which may be only "subject: " so far. `mark` becomes the worse
+  /// of both marks; `step` is the step of the worst clause so far.
+  void add(Mark clauseMark, const std::string& clause, const std::string& clauseStep = {});
 };
 
 using Findings = std::vector<Finding>;
-
-/// The summary of all findings.
-struct Conclusion {
-  bool isOnline = false;  ///< whether a panel that starts now shows a status
-  std::string text;
-  std::string step;  ///< the one thing to do first; empty when there is nothing to do
-};
-
-struct Report {
-  Findings findings;
-  Conclusion conclusion;
-};
 
 [[nodiscard]] bool isWrong(const Finding& finding);
 [[nodiscard]] std::string nameOf(Mark mark);

@@ -52,13 +52,13 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
   const auto odd =
       std::find_if(home.begin(), home.end(), containsCommand(home) ? isOfCommand : isShellSpecial);
   if (odd != home.end()) {
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 "holds \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),
                 startByService);
   } else if (!home.starts_with('/') && !home.empty()) {
-    finding.say(Mark::wrong, "is not an absolute path", "Set HOME to an absolute path.");
+    finding.add(Mark::wrong, "is not an absolute path", "Set HOME to an absolute path.");
   } else {
-    finding.say(Mark::ok, "fit for Start Agent");
+    finding.add(Mark::ok, "fit for Start Agent");
   }
   findings.push_back(std::move(finding));
 }
@@ -72,19 +72,19 @@ void judgeLogs(Findings& findings, const std::string& home, const TextSanitizer&
   finding.text = sanitize(folder) + ": ";
   const auto mode = modeOf(folder);
   if (!mode) {
-    finding.say(Mark::wrong, "not there, and without it Start Agent starts nothing",
+    finding.add(Mark::wrong, "not there, and without it Start Agent starts nothing",
                 "Make the folder " + sanitize(folder) + ".");
   } else if (!S_ISDIR(*mode)) {
-    finding.say(Mark::wrong, "not a folder, so Start Agent starts nothing",
+    finding.add(Mark::wrong, "not a folder, so Start Agent starts nothing",
                 "Put a folder in place of " + sanitize(folder) + ".");
   } else if (!mayAccess(folder, W_OK | X_OK)) {
-    finding.say(Mark::wrong, "not writable, so Start Agent starts nothing",
+    finding.add(Mark::wrong, "not writable, so Start Agent starts nothing",
                 "Let the panel's user write to " + sanitize(folder) + ".");
   } else if (modeOf(file) && !mayAccess(file, W_OK)) {
-    finding.say(Mark::wrong, "the log in it is not writable, so Start Agent starts nothing",
+    finding.add(Mark::wrong, "the log in it is not writable, so Start Agent starts nothing",
                 "Let the panel's user write to " + sanitize(file) + ", or remove it.");
   } else {
-    finding.say(Mark::ok, "writable");
+    finding.add(Mark::ok, "writable");
   }
   findings.push_back(std::move(finding));
 }

@@ -79,7 +79,7 @@ std::string asJson(const Report& report) {
 }
 
 int exitCode(const Report& report) {
-  return std::any_of(report.findings.begin(), report.findings.end(), isWrong) ? 1 : 0;
+  return std::any_of(report.findings.begin(), report.findings.end(), isWrong) ? somethingWrong : 0;
 }
 
 }  // namespace quillmark::doctor

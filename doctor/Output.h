@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "Finding.h"
+#include "Examination.h"
 
 namespace quillmark::doctor {
 
@@ -17,7 +17,10 @@ enum class Colour { none, terminal };
 /// For a program: one JSON object on one line. docs/doctor.md describes it.
 [[nodiscard]] std::string asJson(const Report& report);
 
-/// 0 when nothing is wrong, else 1.
+/// Exit code if something is wrong or the program cannot do its work.
+inline constexpr int somethingWrong = 1;
+
+/// 0 when nothing is wrong, else `somethingWrong`.
 [[nodiscard]] int exitCode(const Report& report);
 
 }  // namespace quillmark::doctor

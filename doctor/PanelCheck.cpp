@@ -50,39 +50,39 @@ bool isOfThisUser(int pid) {
   return stat(folder.c_str(), &status) == 0 && status.st_uid == geteuid();
 }
 
-Finding judge(const Process& panel, const TokenInUse& inUse) {
+Finding judge(const Process& panel, const TokenInUse& token) {
   Finding finding;
   finding.check = "panel";
   finding.facts["pid"] = panel.pid;
   const auto who = "process " + std::to_string(panel.pid);
-  const bool isOlder = !inUse.path.empty() && isNewer(inUse.path, startOf(panel));
+  const bool isOlder = !token.path.empty() && isNewer(token.path, startOf(panel));
   finding.facts["older_than_token"] = isOlder;
   if (isOlder) {
-    finding.say(Mark::note,
+    finding.add(Mark::note,
                 who +
                     " was started before this token was written, and reads it only when a "
                     "window opens",
                 "Start the panel again, so that it reads the token.");
   } else {
-    finding.say(Mark::ok, who);
+    finding.add(Mark::ok, who);
   }
   return finding;
 }
 
 }  // namespace
 
-void checkPanels(Findings& findings, const TokenInUse& inUse) {
+void checkPanels(Findings& findings, const TokenInUse& token) {
   const auto before = findings.size();
   for (const auto& process : readProcesses(procRoot)) {
     if (isOfThisUser(process.pid) &&
         programName(readProcessCommand(procRoot, process.pid)) == panelFileName) {
-      findings.push_back(judge(process, inUse));
+      findings.push_back(judge(process, token));
     }
   }
   if (findings.size() == before) {
     Finding finding;
     finding.check = "panel";
-    finding.say(Mark::ok, "not running");
+    finding.add(Mark::ok, "not running");
     findings.push_back(std::move(finding));
   }
 }

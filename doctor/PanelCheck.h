@@ -10,6 +10,6 @@ namespace quillmark::doctor {
 
 /// Checks for panels of this user that were started before the token's file was written. A
 /// panel reads the token only when a window opens.
-void checkPanels(Findings& findings, const TokenInUse& inUse);
+void checkPanels(Findings& findings, const TokenInUse& token);
 
 }  // namespace quillmark::doctor

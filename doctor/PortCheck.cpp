@@ -24,18 +24,18 @@ bool answersAt(const Socket& socket, const boost::asio::ip::tcp::endpoint& serve
           reachOf(socket) == Reach::allInterfaces);
 }
 
-void sayOwner(Finding& finding, Port& port, const Process& owner, const TextSanitizer& sanitize) {
+void addOwner(Finding& finding, Port& port, const Process& owner, const TextSanitizer& sanitize) {
   const auto process = readProcessCommand(procRoot, owner.pid);
   const auto command = sanitize(process.text);
   finding.facts["pid"] = owner.pid;
   finding.facts["command"] = command;
   const auto who = "process " + std::to_string(owner.pid);
   if (kindOf(process) == Kind::agent) {
-    finding.say(Mark::ok, who + " has it: " + command);
+    finding.add(Mark::ok, who + " has it: " + command);
     return;
   }
-  port.stranger = owner.pid;
-  finding.say(Mark::note,
+  port.otherProgram = owner.pid;
+  finding.add(Mark::note,
               who + " has it, which is no agent by its name, and gets the token: " + command);
 }
 
@@ -54,7 +54,7 @@ Port checkPort(Findings& findings, const TextSanitizer& sanitize) {
   port.isOpen = socket != sockets.end();
   finding.facts["open"] = port.isOpen;
   if (!port.isOpen) {
-    finding.say(Mark::wrong, place + ": nothing listens", startAgentStep);
+    finding.add(Mark::wrong, place + ": nothing listens", startAgentStep);
     findings.push_back(std::move(finding));
     return port;
   }
@@ -63,12 +63,12 @@ Port checkPort(Findings& findings, const TextSanitizer& sanitize) {
   const auto processes = readProcesses(procRoot);
   const auto owners = socketOwners(processes);
   if (const auto owner = owners.find(socket->inode); owner != owners.end()) {
-    sayOwner(finding, port, *owner->second, sanitize);
+    addOwner(finding, port, *owner->second, sanitize);
   } else {
-    finding.say(Mark::note, "only root or its owner may see which process has it");
+    finding.add(Mark::note, "only root or its owner may see which process has it");
   }
   if (reachOf(*socket) == Reach::allInterfaces) {
-    finding.say(Mark::note, "other machines can reach it, too",
+    finding.add(Mark::note, "other machines can reach it, too",
                 "Let the agent listen on " + server.address().to_string() + " alone.");
   }
   findings.push_back(std::move(finding));

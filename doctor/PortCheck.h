@@ -14,7 +14,7 @@ namespace quillmark::doctor {
 /// Which process, if any, receives the panel's requests.
 struct Port {
   bool isOpen = false;
-  std::optional<int> stranger;  ///< the process that holds the port and is no agent
+  std::optional<int> otherProgram;  ///< the process that holds the port, if it is no agent
 };
 
 /// The step when nothing listens on the port.

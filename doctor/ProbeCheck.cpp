@@ -26,7 +26,7 @@ std::vector<ProcessCommand> matches() {
 Finding noMatch(const Port& port) {
   Finding finding;
   finding.check = "probe";
-  finding.say(Mark::note, std::string("finds no agent, so the Settings tab says \"not running\"") +
+  finding.add(Mark::note, std::string("finds no agent, so the Settings tab says \"not running\"") +
                               (port.isOpen ? ", though something answers" : ""));
   return finding;
 }
@@ -60,18 +60,18 @@ class ProcessJudge final {
     finding.facts["command"] = command;
     finding.facts["kind"] = factOf(kind);
     if (kind == Kind::agent && ++agents_ > 1) {
-      finding.say(Mark::note, who + " is one more agent: " + command,
+      finding.add(Mark::note, who + " is one more agent: " + command,
                   "End process " + std::to_string(process.pid) + ": one agent is enough.");
     } else if (kind == Kind::agent) {
-      finding.say(Mark::ok, who + " is an agent: " + command);
+      finding.add(Mark::ok, who + " is an agent: " + command);
     } else if (kind == Kind::starter) {
-      finding.say(Mark::ok, who + " is the shell in which Start Agent started one: " + command);
+      finding.add(Mark::ok, who + " is the shell in which Start Agent started one: " + command);
     } else if (kind == Kind::ended) {
-      finding.say(falseMatchMark(), who + " has ended and still counts as an agent: " + command,
+      finding.add(falseMatchMark(), who + " has ended and still counts as an agent: " + command,
                   "End the program that started process " + std::to_string(process.pid) +
                       " and does not wait for it.");
     } else {
-      finding.say(falseMatchMark(),
+      finding.add(falseMatchMark(),
                   who + " is no agent, but counts as one and Stop Agent would end it: " + command,
                   "Close process " + std::to_string(process.pid) +
                       ", or take the agent's name off its command line.");

@@ -15,10 +15,10 @@
 namespace quillmark::doctor {
 namespace {
 
-struct TokenPlace {
+struct TokenFile {
   std::string path;
   boost::system::result<std::string> token;
-  enum class Owner { system, user } owner;
+  bool isSystemWide = false;
 };
 
 /// What a panel that starts now does with a token file.
@@ -31,8 +31,8 @@ enum class FileUse {
 constexpr auto makeTokenStep =
     "Start the agent, which makes its token, then start the panel again.";
 
-void sayMode(Finding& finding, const TokenPlace& place, const std::string& shownPath) {
-  const auto mode = modeOf(place.path);
+void addMode(Finding& finding, const TokenFile& file, const std::string& shownPath) {
+  const auto mode = modeOf(file.path);
   if (!mode) {
     return;
   }
@@ -43,22 +43,22 @@ void sayMode(Finding& finding, const TokenPlace& place, const std::string& shown
   const auto fault = "mode " + modeText(*mode) + " lets every user read it";
   // Root's agent may have to let the panel's user read its token; a user's own token needs no
   // other reader.
-  if (place.owner == TokenPlace::Owner::system) {
-    finding.say(Mark::note, fault,
+  if (file.isSystemWide) {
+    finding.add(Mark::note, fault,
                 "Open " + shownPath + " to the panel's user alone, by a group (mode 0640).");
   } else {
-    finding.say(Mark::wrong, fault, "Close " + shownPath + " to others (mode 0600).");
+    finding.add(Mark::wrong, fault, "Close " + shownPath + " to others (mode 0600).");
   }
 }
 
-std::string sayContents(Finding& finding, const std::string& token, const std::string& shownPath) {
+std::string addContents(Finding& finding, const std::string& token, const std::string& shownPath) {
   const auto step = "Remove " + shownPath + " and start the agent again, which makes a new token.";
   if (token.empty()) {
-    finding.say(Mark::wrong, "blank, so the panel sends an empty token and looks no further", step);
+    finding.add(Mark::wrong, "blank, so the panel sends an empty token and looks no further", step);
     return "blank";
   }
   if (!fitsHeaderField(token)) {
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 "holds a control character, which no request can carry, so the panel asks nothing",
                 step);
     return "unfit";
@@ -66,69 +66,69 @@ std::string sayContents(Finding& finding, const std::string& token, const std::s
   return "usable";
 }
 
-Finding judge(const TokenPlace& place, FileUse use, const char* check,
+Finding judge(const TokenFile& file, FileUse use, const char* check,
               const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = check;
-  const std::string path = sanitize(place.path);
+  const std::string path = sanitize(file.path);
   finding.facts["path"] = path;
   finding.text = path + ": ";
-  if (!place.token) {
-    const bool isMissing = meansMissing(place.token.error());
+  if (!file.token) {
+    const bool isMissing = meansMissing(file.token.error());
     finding.facts["state"] = isMissing ? "missing" : "unreadable";
     if (isMissing) {
       finding.text += "not there";
     } else {
-      finding.text += "cannot be read (" + place.token.error().message() + ")";
+      finding.text += "cannot be read (" + file.token.error().message() + ")";
       finding.mark = use == FileUse::noneReadable ? Mark::wrong : Mark::note;
       finding.step = "Let the panel's user read " + path + ", then start the panel again.";
-      sayMode(finding, place, path);
+      addMode(finding, file, path);
     }
     return finding;
   }
-  finding.text += counted(place.token->size(), "byte");
-  finding.facts["length"] = place.token->size();
+  finding.text += counted(file.token->size(), "byte");
+  finding.facts["length"] = file.token->size();
   if (use == FileUse::notReached) {
     finding.facts["state"] = "not read";
-    finding.say(Mark::ok, "not read, the system-wide one comes first");
+    finding.add(Mark::ok, "not read, the system-wide one comes first");
   } else {
-    finding.facts["state"] = sayContents(finding, *place.token, path);
+    finding.facts["state"] = addContents(finding, *file.token, path);
   }
-  sayMode(finding, place, path);
+  addMode(finding, file, path);
   return finding;
 }
 
-TokenInUse choose(const std::vector<TokenPlace>& places) {
-  for (const auto& place : places) {
-    if (!place.token) {
+TokenInUse choose(const std::vector<TokenFile>& files) {
+  for (const auto& file : files) {
+    if (!file.token) {
       continue;
     }
-    if (!fitsHeaderField(*place.token)) {
-      return {std::nullopt, place.path, "the token holds a control character"};
+    if (!fitsHeaderField(*file.token)) {
+      return {std::nullopt, file.path, "the token holds a control character"};
     }
-    return {*place.token, place.path, {}};
+    return {*file.token, file.path, {}};
   }
   return {std::nullopt, {}, "there is no token that the panel can read"};
 }
 
-Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
+Finding summary(const TokenInUse& token, const std::vector<TokenFile>& files,
                 const TextSanitizer& sanitize) {
   Finding finding;
   finding.check = "token";
-  if (inUse.path.empty()) {
+  if (token.path.empty()) {
     bool allMissing = true;
-    for (const auto& place : places) {
-      allMissing = allMissing && meansMissing(place.token.error());
+    for (const auto& file : files) {
+      allMissing = allMissing && meansMissing(file.token.error());
     }
-    finding.say(Mark::wrong, "none that can be read, so the panel asks the agent nothing",
+    finding.add(Mark::wrong, "none that can be read, so the panel asks the agent nothing",
                 allMissing ? makeTokenStep : "");
-  } else if (!inUse.token) {
-    finding.say(Mark::wrong,
-                "the panel takes that of " + sanitize(inUse.path) + " and cannot send it");
+  } else if (!token.value) {
+    finding.add(Mark::wrong,
+                "the panel takes that of " + sanitize(token.path) + " and cannot send it");
   } else {
-    finding.say(Mark::ok, "the panel uses that of " + sanitize(inUse.path));
+    finding.add(Mark::ok, "the panel uses that of " + sanitize(token.path));
   }
-  finding.facts["path"] = textOrNull(sanitize(inUse.path));
+  finding.facts["path"] = textOrNull(sanitize(token.path));
   return finding;
 }
 
@@ -136,26 +136,25 @@ Finding summary(const TokenInUse& inUse, const std::vector<TokenPlace>& places,
 
 TokenInUse checkTokens(Findings& findings, TextSanitizer& sanitize) {
   static constexpr std::array checks = {"token-system", "token-home"};
-  std::vector<TokenPlace> places;
+  std::vector<TokenFile> files;
   for (const auto& path : accessTokenPaths()) {
-    places.push_back({path, readTokenFile(path),
-                      places.empty() ? TokenPlace::Owner::system : TokenPlace::Owner::user});
-    if (places.back().token) {
-      sanitize.hide(*places.back().token);
+    files.push_back({path, readTokenFile(path), files.empty()});
+    if (files.back().token) {
+      sanitize.hide(*files.back().token);
     }
   }
 
-  auto inUse = choose(places);
+  auto token = choose(files);
   bool isChosen = false;
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    const auto use = inUse.path.empty() ? FileUse::noneReadable
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const auto use = token.path.empty() ? FileUse::noneReadable
                      : isChosen         ? FileUse::notReached
                                         : FileUse::tried;
-    findings.push_back(judge(places[i], use, checks.at(i), sanitize));
-    isChosen = isChosen || places[i].path == inUse.path;
+    findings.push_back(judge(files[i], use, checks.at(i), sanitize));
+    isChosen = isChosen || files[i].path == token.path;
   }
-  findings.push_back(summary(inUse, places, sanitize));
-  return inUse;
+  findings.push_back(summary(token, files, sanitize));
+  return token;
 }
 
 }  // namespace quillmark::doctor

@@ -13,9 +13,9 @@ namespace quillmark::doctor {
 
 /// The token that a panel started now would use.
 struct TokenInUse {
-  std::optional<std::string> token;  ///< no value: the panel sends no requests
+  std::optional<std::string> value;  ///< no value: the panel sends no requests
   std::string path;                  ///< the file that it comes from; empty if none can be read
-  std::string refusal;               ///< why no token can be sent, as a clause
+  std::string whyNotSent;            ///< why no token can be sent, as a clause
 };
 
 /// Checks every token file, and lets `sanitize` hide the tokens in them.

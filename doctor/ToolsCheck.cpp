@@ -50,9 +50,9 @@ void checkTools(Findings& findings) {
   finding.check = "tools";
   const auto names = boost::algorithm::join(missing, ", ");
   if (missing.empty()) {
-    finding.say(Mark::ok, boost::algorithm::join(tools, ", "));
+    finding.add(Mark::ok, boost::algorithm::join(tools, ", "));
   } else {
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 names + " not there, so the Settings tab cannot start, stop or find an agent",
                 "Install the package that has " + names + ".");
   }

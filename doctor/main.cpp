@@ -20,7 +20,6 @@ namespace {
 
 using namespace quillmark::doctor;
 
-enum ExitCode : int { somethingWrong = 1 };
 enum class Format { text, json };
 
 constexpr auto jsonFlag = "json";

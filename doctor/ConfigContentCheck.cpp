@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "ConfigValues.h"
+#include "ConfigContentCheck.h"
 
 #include <optional>
 
@@ -20,7 +20,7 @@ std::string causeOf(const std::string& written, const std::optional<std::string>
 }
 
 /// Compares the value in the file with the value that the Settings tab reads from it.
-void sayReadBack(Finding& finding, const std::optional<std::string>& written,
+void addReadBack(Finding& finding, const std::optional<std::string>& written,
                  const std::optional<std::string>& readBack) {
   if (readBack) {
     finding.facts["read_back_length"] = readBack->size();
@@ -30,14 +30,14 @@ void sayReadBack(Finding& finding, const std::optional<std::string>& written,
   }
   if (!written) {
     // The file is not valid TOML, or the line is outside the section [agent].
-    finding.say(Mark::ok, counted(readBack->size(), "byte") + ", as the Settings tab reads it");
+    finding.add(Mark::ok, counted(readBack->size(), "byte") + ", as the Settings tab reads it");
     return;
   }
   if (written == readBack) {
-    finding.say(Mark::ok, counted(written->size(), "byte") + ", read back as written");
+    finding.add(Mark::ok, counted(written->size(), "byte") + ", read back as written");
     return;
   }
-  finding.say(Mark::note,
+  finding.add(Mark::note,
               counted(written->size(), "byte") + ", but the Settings tab reads back " +
                   std::to_string(readBack ? readBack->size() : 0) + ": " +
                   causeOf(*written, readBack),
@@ -53,14 +53,14 @@ Finding judgeToml(const ConfigToml& toml, const std::string& path) {
     const auto line = std::to_string(toml.error->line);
     finding.facts["line"] = toml.error->line;
     finding.facts["column"] = toml.error->column;
-    finding.say(Mark::wrong,
+    finding.add(Mark::wrong,
                 "not valid TOML: line " + line + ", column " + std::to_string(toml.error->column),
                 "Fix line " + line + " of " + path + ": the agent may refuse to start with it.");
   } else if (!toml.hasAgent) {
-    finding.say(Mark::wrong, "no section [agent]",
+    finding.add(Mark::wrong, "no section [agent]",
                 "Add the section [agent] to " + path + ", or write it again with Save & Connect.");
   } else {
-    finding.say(Mark::ok, "TOML, with a section [agent]");
+    finding.add(Mark::ok, "TOML, with a section [agent]");
   }
   return finding;
 }
@@ -69,11 +69,11 @@ Finding judgeKey(const ConfigToml& toml, const ConfigEntries& entries) {
   Finding finding;
   finding.check = "config-key";
   if (toml.apiKey && isPlaceholderKey(*toml.apiKey)) {
-    finding.say(Mark::wrong, "a placeholder, not a key", enrolStep);
+    finding.add(Mark::wrong, "a placeholder, not a key", enrolStep);
   } else if (toml.apiKey ? toml.apiKey->empty() : !entries.apiKey) {
-    finding.say(Mark::wrong, toml.apiKey ? "empty" : "none", enrolStep);
+    finding.add(Mark::wrong, toml.apiKey ? "empty" : "none", enrolStep);
   } else {
-    sayReadBack(finding, toml.apiKey, entries.apiKey);
+    addReadBack(finding, toml.apiKey, entries.apiKey);
   }
   return finding;
 }
@@ -82,9 +82,9 @@ Finding judgeUrl(const ConfigToml& toml, const ConfigEntries& entries) {
   Finding finding;
   finding.check = "config-url";
   if (toml.serverUrl ? toml.serverUrl->empty() : !entries.serverUrl) {
-    finding.say(Mark::note, "none, the Settings tab shows its own default", enrolStep);
+    finding.add(Mark::note, "none, the Settings tab shows its own default", enrolStep);
   } else {
-    sayReadBack(finding, toml.serverUrl, entries.serverUrl);
+    addReadBack(finding, toml.serverUrl, entries.serverUrl);
   }
   return finding;
 }
