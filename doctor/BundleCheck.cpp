@@ -21,17 +21,17 @@ void judgeBundle(Findings& findings, const std::string& bundle, const TextSaniti
   finding.facts["path"] = sanitize(bundle);
   finding.text = sanitize(bundle) + ": ";
   if (!isQuotable(bundle)) {
-    finding.add(Mark::wrong, "holds an apostrophe, so Start Agent does nothing",
+    finding.add(Mark::wrong, "contains an apostrophe, so Start Agent does nothing",
                 "Move the application to a path without an apostrophe.");
   }
   if (bundle.find(agentFileName) != std::string::npos) {
     finding.add(Mark::wrong,
-                "holds the agent's file name, so the panel takes itself for an agent, and Stop "
+                "contains the agent's file name, so the panel takes itself for an agent, and Stop "
                 "Agent ends it",
                 "Move the application to a path without " + std::string(agentFileName) + ".");
   }
   if (finding.mark == Mark::ok) {
-    finding.add(Mark::ok, "fit for Start Agent");
+    finding.add(Mark::ok, "suitable for Start Agent");
   }
   findings.push_back(std::move(finding));
 }
@@ -63,9 +63,7 @@ void checkBundle(Findings& findings, const TextSanitizer& sanitize) {
   if (bundle.empty()) {
     Finding finding;
     finding.check = "bundle";
-    finding.add(Mark::wrong,
-                "the system does not tell where programs are, so Start Agent starts "
-                "nothing",
+    finding.add(Mark::wrong, "the path of this program is unknown, so Start Agent starts nothing",
                 "Mount /proc.");
     findings.push_back(std::move(finding));
     return;

@@ -53,12 +53,12 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
       std::find_if(home.begin(), home.end(), containsCommand(home) ? isOfCommand : isShellSpecial);
   if (odd != home.end()) {
     finding.add(Mark::wrong,
-                "holds \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),
+                "contains \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),
                 startByService);
   } else if (!home.starts_with('/') && !home.empty()) {
     finding.add(Mark::wrong, "is not an absolute path", "Set HOME to an absolute path.");
   } else {
-    finding.add(Mark::ok, "fit for Start Agent");
+    finding.add(Mark::ok, "suitable for Start Agent");
   }
   findings.push_back(std::move(finding));
 }

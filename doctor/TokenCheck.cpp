@@ -58,9 +58,10 @@ std::string addContents(Finding& finding, const std::string& token, const std::s
     return "blank";
   }
   if (!fitsHeaderField(token)) {
-    finding.add(Mark::wrong,
-                "holds a control character, which no request can carry, so the panel asks nothing",
-                step);
+    finding.add(
+        Mark::wrong,
+        "contains a control character, which no request can carry, so the panel asks nothing",
+        step);
     return "unfit";
   }
   return "usable";
@@ -104,7 +105,7 @@ TokenInUse choose(const std::vector<TokenFile>& files) {
       continue;
     }
     if (!fitsHeaderField(*file.token)) {
-      return {std::nullopt, file.path, "the token holds a control character"};
+      return {std::nullopt, file.path, "the token contains a control character"};
     }
     return {*file.token, file.path, {}};
   }

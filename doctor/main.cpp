@@ -32,14 +32,14 @@ const quillmark::CommandLineRules commandLineRules{
         "Usage: quillmark-doctor [--json] [--watch]\n"
         "\n"
         "Tells what the Quillmark Agent panel would show on this machine, and why.\n"
-        "Looks only; changes nothing. Run it as the user who runs the panel.\n"
+        "Only reads; changes nothing. Run it as the user who runs the panel.\n"
         "\n"
         "      --json      one JSON object for each round instead of text\n"
         "      --watch     look again every 5 seconds until interrupted\n"
         "  -h, --help      print this and end\n"
         "  -V, --version   print the version and end\n"
         "\n"
-        "Ends with 0 when all is well, 1 when something is wrong, 2 for a wrong option.\n",
+        "Exits with 0 if nothing is wrong, 1 if something is wrong, 2 for a wrong option.\n",
     .flags = {jsonFlag, watchFlag},
     .valueOptions = {}};
 

@@ -41,8 +41,8 @@ const quillmark::CommandLineRules commandLineRules{
     .help =
         "Usage: tovel-agent [OPTION]\n"
         "\n"
-        "Serves what it sees on this machine to the Quillmark control panel, until ended.\n"
-        "A sample, not the product's agent: it only looks.\n"
+        "Serves what it sees on this machine to the Quillmark control panel until it is\n"
+        "stopped. A sample, not the product's agent: it only reads.\n"
         "\n"
         "  -h, --help      print this and end\n"
         "  -V, --version   print the version and end\n",

@@ -44,7 +44,7 @@ REFUSED = "so Start Agent does nothing: a shell could run a part of the path as 
 def test_home_path_with_special_characters(name, shown, odd, effect):
     found = look(HOME=f"{HOME}/{name}")
     assert found.of("home") == [
-        line("wrong", "home", f'{HOME}/{shown}: holds "{odd}", {effect}')]
+        line("wrong", "home", f'{HOME}/{shown}: contains "{odd}", {effect}')]
     assert found.step == OTHERWISE
 
 
@@ -60,7 +60,7 @@ def test_no_agent_in_the_bundle(tmp_path):
     agent.unlink()
     found = look(program)
     assert found.of("bundle") == [
-        line("ok", "bundle", f"{tmp_path}/Q.app: fit for Start Agent")]
+        line("ok", "bundle", f"{tmp_path}/Q.app: suitable for Start Agent")]
     assert found.of("program") == [
         line("wrong", "program", f"{agent}: not there, so Start Agent starts nothing")]
     assert found.step == f"Install the agent as {agent}."
@@ -79,30 +79,30 @@ def test_agent_that_is_not_executable(tmp_path):
 def test_bundle_path_with_an_apostrophe(tmp_path):
     found = look(scene.bundle_at(tmp_path / "Ann's.app"))
     assert found.of("bundle") == [
-        line("wrong", "bundle", f"{tmp_path}/Ann's.app: holds an apostrophe, so Start Agent does "
-                                "nothing")]
+        line("wrong", "bundle", f"{tmp_path}/Ann's.app: contains an apostrophe, so Start Agent "
+                                "does nothing")]
     assert found.step == "Move the application to a path without an apostrophe."
 
 
 def test_bundle_with_a_control_character(tmp_path):
     found = look(scene.bundle_at(tmp_path / "a\tb.app"))
     assert found.of("bundle") == [
-        line("ok", "bundle", rf"{tmp_path}/a\x09b.app: fit for Start Agent")]
+        line("ok", "bundle", rf"{tmp_path}/a\x09b.app: suitable for Start Agent")]
 
 
 def test_bundle_with_the_agents_name(tmp_path):
     found = look(scene.bundle_at(tmp_path / f"my-{scene.AGENT}.app"))
     assert found.of("bundle") == [
-        line("wrong", "bundle", f"{tmp_path}/my-{scene.AGENT}.app: holds the agent's file name, so "
-                                "the panel takes itself for an agent, and Stop Agent ends it")]
+        line("wrong", "bundle", f"{tmp_path}/my-{scene.AGENT}.app: contains the agent's file name, "
+                                "so the panel takes itself for an agent, and Stop Agent ends it")]
     assert found.step == f"Move the application to a path without {scene.AGENT}."
 
 
 def test_system_without_proc():
     found = look("/usr/bin/bwrap", "--dev-bind", "/", "/", "--tmpfs", "/proc", scene.DOCTOR)
     assert found.of("bundle") == [
-        line("wrong", "bundle", "the system does not tell where programs are, so Start Agent "
-                                "starts nothing")]
+        line("wrong", "bundle", "the path of this program is unknown, so Start Agent starts "
+                                "nothing")]
     assert found.of("program") == []
     assert found.step == "Mount /proc."
 

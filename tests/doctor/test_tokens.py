@@ -61,11 +61,11 @@ def test_control_character(backend, odd):
     found = look()
     assert found.of("token-home") == [
         line("wrong", "token-home",
-             f"{HOME_TOKEN}: {44 + len(odd)} bytes; holds a control character, which no request "
+             f"{HOME_TOKEN}: {44 + len(odd)} bytes; contains a control character, which no request "
              "can carry, so the panel asks nothing")]
     assert found.of("token") == [
         line("wrong", "token", f"the panel takes that of {HOME_TOKEN} and cannot send it")]
-    assert found.conclusion == "OFFLINE because the token holds a control character."
+    assert found.conclusion == "OFFLINE because the token contains a control character."
     assert found.step == f"Remove {HOME_TOKEN} and {NEW_TOKEN}"
     assert backend.connections == 0
 
