@@ -23,19 +23,19 @@ constexpr auto startByService =
 /// Whether a shell ends an unquoted word at `c`.
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
-bool isOfCommand(char c) { return containsCommand({&c, 1}); }
+bool isShellOperator(char c) { return hasShellOperator({&c, 1}); }
 
 /// Whether a shell does not take an unquoted `c` literally.
 bool isShellSpecial(char c) {
   constexpr std::string_view special = "\\\"'*?[]{}";
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || isBlank(c) || isOfCommand(c) ||
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || isBlank(c) || isShellOperator(c) ||
          special.find(c) != std::string_view::npos;
 }
 
 /// What Start Agent does in a home path with the special character `odd`.
 std::string effectOf(const std::string& home, std::string::const_iterator odd,
                      const TextSanitizer& sanitize) {
-  if (isOfCommand(*odd)) {
+  if (isShellOperator(*odd)) {
     return "so Start Agent does nothing: a shell could run a part of the path as a command";
   }
   if (isBlank(*odd)) {
@@ -49,8 +49,8 @@ void judgeHome(Findings& findings, const std::string& home, const TextSanitizer&
   finding.check = "home";
   finding.facts["path"] = sanitize(home);
   finding.text = (home.empty() ? "/" : sanitize(home)) + ": ";
-  const auto odd =
-      std::find_if(home.begin(), home.end(), containsCommand(home) ? isOfCommand : isShellSpecial);
+  const auto odd = std::find_if(home.begin(), home.end(),
+                                hasShellOperator(home) ? isShellOperator : isShellSpecial);
   if (odd != home.end()) {
     finding.add(Mark::wrong,
                 "contains \"" + sanitize({&*odd, 1}) + "\", " + effectOf(home, odd, sanitize),

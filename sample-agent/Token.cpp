@@ -80,7 +80,7 @@ std::optional<TokenResult> readToken(const std::string& path) {
     return lastError(path);
   }
   const std::string_view text(buffer.data(), static_cast<std::size_t>(count));
-  const auto token = isUtf8(text) ? trimmed(text) : text;
+  const auto token = isUtf8(text) ? trimWhiteSpace(text) : text;
   if (!isToken(token) || text.size() == buffer.size()) {
     return Failure{path +
                    ": holds no token of this agent (64 hexadecimal digits); "

@@ -18,7 +18,7 @@ constexpr auto shell = "/bin/bash";
 
 bool isQuotable(std::string_view path) { return path.find('\'') == std::string_view::npos; }
 
-bool containsCommand(std::string_view path) {
+bool hasShellOperator(std::string_view path) {
   return path.find_first_of("$`;&|<>()\n") != std::string_view::npos;
 }
 
@@ -41,8 +41,8 @@ boost::system::error_code startAgentProcess() {
     return FileError::unquotablePath;
   }
   const auto home = homeDirectory();
-  if (containsCommand(home)) {
-    return FileError::commandInPath;
+  if (hasShellOperator(home)) {
+    return FileError::shellOperatorInPath;
   }
   return startDetached(startCommand(bundle, home));
 }

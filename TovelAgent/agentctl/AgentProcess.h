@@ -23,11 +23,11 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 
 /// Whether `path` contains a character that can make a shell that reads it without quotes
 /// run a command or redirect to another file.
-[[nodiscard]] bool containsCommand(std::string_view path);
+[[nodiscard]] bool hasShellOperator(std::string_view path);
 
 /// The command that starts the agent of the bundle at `bundle` in the background, with its
 /// output in the log file under `home`. The command line is fixed: the home path is in it
-/// without quotes, so check it with `containsCommand` first. The log's folder is not
+/// without quotes, so check it with `hasShellOperator` first. The log's folder is not
 /// created; without it the agent does not start.
 [[nodiscard]] Command startCommand(const std::string& bundle, const std::string& home);
 
@@ -41,7 +41,7 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 
 /// Starts the agent of this program's bundle and does not wait for it, so an agent that
 /// fails to start is not an error. Returns `unquotablePath` when the bundle's path
-/// contains a single quote, `commandInPath` when the shell could run a part of the home
+/// contains a single quote, `shellOperatorInPath` when the shell could run a part of the home
 /// path, and the system's error when the shell cannot be started. Any thread, as long as
 /// no thread changes the environment at the same time.
 [[nodiscard]] boost::system::error_code startAgentProcess();

@@ -21,7 +21,7 @@ std::string valueOf(std::string_view line) {
     return {};
   }
   line.remove_prefix(start + 1);
-  const auto value = trimmedInLine(line.substr(0, line.find('=')));
+  const auto value = trimSpacesAndTabs(line.substr(0, line.find('=')));
   constexpr auto quotes = "\"'";
   const auto first = value.find_first_not_of(quotes);
   if (first == std::string_view::npos) {
@@ -44,7 +44,7 @@ ConfigEntries readEntries(std::string_view text) {
   ConfigEntries entries;
   while (!text.empty()) {
     const auto end = text.find('\n');
-    const auto line = trimmedInLine(text.substr(0, end));
+    const auto line = trimSpacesAndTabs(text.substr(0, end));
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
 
     const bool isApiKey = line.starts_with("api_key");

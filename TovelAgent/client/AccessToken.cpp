@@ -32,7 +32,7 @@ boost::system::result<std::string> readTokenFile(const std::string& path) {
   if (!text) {
     return text.error();
   }
-  return std::string(trimmed(*text));
+  return std::string(trimWhiteSpace(*text));
 }
 
 std::optional<std::string> readAccessToken() {

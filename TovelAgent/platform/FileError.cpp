@@ -24,7 +24,7 @@ class Category final : public boost::system::error_category {
         return "The file is not UTF-8 text";
       case FileError::unquotablePath:
         return "The application's path contains an apostrophe";
-      case FileError::commandInPath:
+      case FileError::shellOperatorInPath:
         return "The home path contains a character that would make the shell run a command";
     }
     return "Unknown error";

@@ -12,8 +12,8 @@ enum class FileError {
   notRegular = 1,  ///< a folder, FIFO, device or socket
   tooLarge,        ///< more bytes than the reader accepts
   notUtf8,
-  unquotablePath,  ///< cannot be put in a shell's single quotes
-  commandInPath,   ///< a shell would run a part of it as a command
+  unquotablePath,       ///< cannot be put in a shell's single quotes
+  shellOperatorInPath,  ///< a shell could run a part of it as a command
 };
 
 /// The error as a code with a message for the user.

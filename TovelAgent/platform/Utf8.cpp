@@ -65,8 +65,8 @@ std::string asUtf8(std::string_view bytes) {
   return text;
 }
 
-std::string_view trimmed(std::string_view text) { return trimEnds(isWhiteSpace, text); }
+std::string_view trimWhiteSpace(std::string_view text) { return trimEnds(isWhiteSpace, text); }
 
-std::string_view trimmedInLine(std::string_view text) { return trimEnds(isLineSpace, text); }
+std::string_view trimSpacesAndTabs(std::string_view text) { return trimEnds(isLineSpace, text); }
 
 }  // namespace quillmark

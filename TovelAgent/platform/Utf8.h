@@ -19,10 +19,10 @@ namespace quillmark {
 /// `text`, which must be UTF-8, without the white space at both of its ends:
 /// every character with the Unicode property White_Space, line breaks included.
 /// A view into `text`. Any thread.
-[[nodiscard]] std::string_view trimmed(std::string_view text);
+[[nodiscard]] std::string_view trimWhiteSpace(std::string_view text);
 
-/// Like `trimmed`, but removes only spaces of all kinds and tabs, not line
+/// Like `trimWhiteSpace`, but removes only spaces of all kinds and tabs, not line
 /// breaks. Any thread.
-[[nodiscard]] std::string_view trimmedInLine(std::string_view text);
+[[nodiscard]] std::string_view trimSpacesAndTabs(std::string_view text);
 
 }  // namespace quillmark

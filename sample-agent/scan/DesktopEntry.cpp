@@ -20,11 +20,11 @@ std::map<std::string_view, std::string_view> mainKeys(std::string_view text) {
   bool inMainGroup = false;
   for (const auto line : split(text, '\n')) {
     if (line.starts_with('[')) {
-      inMainGroup = trimmed(line) == mainGroup;
+      inMainGroup = trimWhiteSpace(line) == mainGroup;
     }
     const std::size_t equals = line.find('=');
     if (inMainGroup && equals != std::string_view::npos && !line.starts_with('#')) {
-      keys.emplace(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
+      keys.emplace(trimWhiteSpace(line.substr(0, equals)), trimWhiteSpace(line.substr(equals + 1)));
     }
   }
   return keys;

@@ -38,8 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!isUtf8(file)) {
     return 0;
   }
-  const std::string token(trimmed(file));
-  require(trimmed(token) == token, "white space is removed completely");
+  const std::string token(trimWhiteSpace(file));
+  require(trimWhiteSpace(token) == token, "white space is removed completely");
   require(file.find(token) != std::string_view::npos, "a token is a part of its file");
   if (fitsHeaderField(token)) {
     requireOneRequest(requestText({{}, "127.0.0.1:7823", "GET", "/api/status", token}), token);

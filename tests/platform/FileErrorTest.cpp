@@ -19,7 +19,7 @@ TEST(FileErrors, HaveMessagesForTheUser) {
   EXPECT_EQ(error_code(FileError::notUtf8).message(), "The file is not UTF-8 text");
   EXPECT_EQ(error_code(FileError::unquotablePath).message(),
             "The application's path contains an apostrophe");
-  EXPECT_EQ(error_code(FileError::commandInPath).message(),
+  EXPECT_EQ(error_code(FileError::shellOperatorInPath).message(),
             "The home path contains a character that would make the shell run a command");
 }
 
@@ -31,7 +31,7 @@ TEST(FileErrors, OfUnknownNumbersHaveAMessage) {
 
 TEST(FileErrors, AreErrorsAndDifferFromOneAnother) {
   const std::set<error_code> all{FileError::notRegular, FileError::tooLarge, FileError::notUtf8,
-                                 FileError::unquotablePath, FileError::commandInPath};
+                                 FileError::unquotablePath, FileError::shellOperatorInPath};
   EXPECT_EQ(all.size(), 5U);
   for (const auto& error : all) {
     EXPECT_TRUE(error);

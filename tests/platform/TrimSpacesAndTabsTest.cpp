@@ -22,30 +22,32 @@ bool isLineSpace(char32_t c) {
   return std::find(lineSpace.begin(), lineSpace.end(), c) != lineSpace.end();
 }
 
-TEST(TrimmedInLine, DropsEverySpaceAndNothingElse) {
+TEST(TrimSpacesAndTabs, DropsEverySpaceAndNothingElse) {
   for (char32_t c = 0; c <= lastCodePoint; ++c) {
     if (!isSurrogate(c)) {
       const std::string text = utf8(c);
-      ASSERT_EQ(trimmedInLine(text), isLineSpace(c) ? "" : text) << std::hex << std::uint32_t{c};
+      ASSERT_EQ(trimSpacesAndTabs(text), isLineSpace(c) ? "" : text)
+          << std::hex << std::uint32_t{c};
     }
   }
 }
 
-TEST(TrimmedInLine, DropsThemAtBothEndsOnly) {
+TEST(TrimSpacesAndTabs, DropsThemAtBothEndsOnly) {
   for (const char32_t c : lineSpace) {
     const std::string space = utf8(c);
     const std::string inner = "a" + space + "b";
-    EXPECT_EQ(trimmedInLine(space + space + inner + space), inner) << std::hex << std::uint32_t{c};
+    EXPECT_EQ(trimSpacesAndTabs(space + space + inner + space), inner)
+        << std::hex << std::uint32_t{c};
   }
 }
 
-TEST(TrimmedInLine, StopsAtLineBreaks) {
+TEST(TrimSpacesAndTabs, StopsAtLineBreaks) {
   for (const std::string end : {"\n", "\r", "\r\n", "\f", "\v", "\u0085", "\u2028", "\u2029"}) {
-    EXPECT_EQ(trimmedInLine(" \t" + end + "a" + end + " \t"), end + "a" + end);
+    EXPECT_EQ(trimSpacesAndTabs(" \t" + end + "a" + end + " \t"), end + "a" + end);
   }
 }
 
-TEST(TrimmedInLine, KeepsAnEmptyText) { EXPECT_EQ(trimmedInLine(""), ""); }
+TEST(TrimSpacesAndTabs, KeepsAnEmptyText) { EXPECT_EQ(trimSpacesAndTabs(""), ""); }
 
 }  // namespace
 }  // namespace quillmark::test

@@ -26,59 +26,59 @@ bool isWhiteSpace(char32_t c) {
   return std::find(whiteSpace.begin(), whiteSpace.end(), c) != whiteSpace.end();
 }
 
-TEST(Trimmed, DropsEveryWhiteSpaceAndNothingElse) {
+TEST(TrimWhiteSpace, DropsEveryWhiteSpaceAndNothingElse) {
   for (char32_t c = 0; c <= lastCodePoint; ++c) {
     if (!isSurrogate(c)) {
       const std::string text = utf8(c);
-      ASSERT_EQ(trimmed(text), isWhiteSpace(c) ? "" : text) << std::hex << std::uint32_t{c};
+      ASSERT_EQ(trimWhiteSpace(text), isWhiteSpace(c) ? "" : text) << std::hex << std::uint32_t{c};
     }
   }
 }
 
-TEST(Trimmed, DropsItAtBothEndsOnly) {
+TEST(TrimWhiteSpace, DropsItAtBothEndsOnly) {
   for (const char32_t c : whiteSpace) {
     const std::string space = utf8(c);
     const std::string inner = "to" + space + "ken";
-    EXPECT_EQ(trimmed(space + inner), inner) << std::hex << std::uint32_t{c};
-    EXPECT_EQ(trimmed(inner + space), inner) << std::hex << std::uint32_t{c};
-    EXPECT_EQ(trimmed(space + space + inner + space + space), inner)
+    EXPECT_EQ(trimWhiteSpace(space + inner), inner) << std::hex << std::uint32_t{c};
+    EXPECT_EQ(trimWhiteSpace(inner + space), inner) << std::hex << std::uint32_t{c};
+    EXPECT_EQ(trimWhiteSpace(space + space + inner + space + space), inner)
         << std::hex << std::uint32_t{c};
   }
 }
 
-TEST(Trimmed, DropsMixedRuns) {
+TEST(TrimWhiteSpace, DropsMixedRuns) {
   std::string all;
   for (const char32_t c : whiteSpace) {
     all += utf8(c);
   }
-  EXPECT_EQ(trimmed(all + "token" + all), "token");
-  EXPECT_EQ(trimmed(all), "");
+  EXPECT_EQ(trimWhiteSpace(all + "token" + all), "token");
+  EXPECT_EQ(trimWhiteSpace(all), "");
 }
 
-TEST(Trimmed, KeepsInvisibleCharacters) {
+TEST(TrimWhiteSpace, KeepsInvisibleCharacters) {
   for (const char32_t c : invisible) {
     const std::string text = utf8(c) + "token" + utf8(c);
-    EXPECT_EQ(trimmed(" " + text + "\n"), text) << std::hex << std::uint32_t{c};
+    EXPECT_EQ(trimWhiteSpace(" " + text + "\n"), text) << std::hex << std::uint32_t{c};
   }
 }
 
-TEST(Trimmed, KeepsCharactersOfEveryLengthAtTheEnds) {
+TEST(TrimWhiteSpace, KeepsCharactersOfEveryLengthAtTheEnds) {
   for (const char32_t c : oneOfEachLength) {
     const std::string text = utf8(c) + " " + utf8(c);
-    EXPECT_EQ(trimmed("\t" + text + "\r\n"), text);
+    EXPECT_EQ(trimWhiteSpace("\t" + text + "\r\n"), text);
   }
 }
 
-TEST(Trimmed, KeepsNulCharacters) {
+TEST(TrimWhiteSpace, KeepsNulCharacters) {
   const std::string text("\0a\0", 3);
-  EXPECT_EQ(trimmed(" " + text + " "), text);
+  EXPECT_EQ(trimWhiteSpace(" " + text + " "), text);
 }
 
-TEST(Trimmed, KeepsAnEmptyText) { EXPECT_EQ(trimmed(""), ""); }
+TEST(TrimWhiteSpace, KeepsAnEmptyText) { EXPECT_EQ(trimWhiteSpace(""), ""); }
 
-TEST(Trimmed, IsAViewOfItsArgument) {
+TEST(TrimWhiteSpace, IsAViewOfItsArgument) {
   const std::string text = "  token ";
-  EXPECT_EQ(trimmed(text).data(), text.data() + 2);
+  EXPECT_EQ(trimWhiteSpace(text).data(), text.data() + 2);
 }
 
 }  // namespace
