@@ -39,7 +39,7 @@ std::string programName(const ProcessCommand& process) {
 }
 
 Kind kindOf(const ProcessCommand& process) {
-  if (process.arguments == ProcessCommand::Arguments::none) {
+  if (!process.hasArguments) {
     return Kind::ended;
   }
   if (programName(process) == agentFileName) {

@@ -14,7 +14,7 @@ ProcessCommand readProcessCommand(const std::string& procRoot, int pid) {
   const std::string folder = procRoot + '/' + std::to_string(pid);
   ProcessCommand command{pid, readSystemFile(folder + "/cmdline").value_or("")};
   if (command.text.empty()) {
-    command.arguments = ProcessCommand::Arguments::none;
+    command.hasArguments = false;
     command.text = readSystemFile(folder + "/comm").value_or("");
     command.text.erase(command.text.find_last_not_of('\n') + 1);
     return command;

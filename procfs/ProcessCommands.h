@@ -14,7 +14,7 @@ struct ProcessCommand {
   /// The arguments as bytes, joined by spaces; the program's name for a process
   /// without arguments: a kernel thread or a zombie.
   std::string text;
-  enum class Arguments { present, none } arguments = Arguments::present;
+  bool hasArguments = true;
 };
 
 /// The command lines of all processes under `procRoot`, ascending by pid.

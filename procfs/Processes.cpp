@@ -22,8 +22,7 @@ constexpr std::size_t maxNameLength = 15;
 constexpr unsigned long kernelThreadFlag = 0x00200000;
 
 /// Fills the fields from /proc/PID/stat; false if the process is not to be listed.
-/// The name is in parentheses and may contain any byte, even a parenthesis. `fields`
-/// begins after it, with the state: `fields[0]` is field 3 of proc(5).
+/// The name is in parentheses and may contain any byte, even a parenthesis.
 bool readStat(const std::string& folder, Process& process) {
   const auto text = readSystemFile(folder + "/stat");
   if (!text) {
@@ -36,18 +35,19 @@ bool readStat(const std::string& folder, Process& process) {
   }
   process.name = text->substr(open + 1, close - open - 1);
 
+  // The fields after the name: `state` is field 3 of proc(5).
+  enum StatField : std::size_t { state, parent, session = 3, terminal, flags = 6, startTime = 19 };
   const auto fields = words(std::string_view(*text).substr(close + 1));
-  if (fields.size() < 7 || fields[0] == "Z") {
+  if (fields.size() <= flags || fields[state] == "Z") {
     return false;
   }
-  process.parent = parseNumber<int>(fields[1]).value_or(0);
-  process.session = parseNumber<int>(fields[3]).value_or(0);
-  process.terminal = parseNumber<int>(fields[4]).value_or(0);
-  constexpr std::size_t start = 19;
-  if (fields.size() > start) {
-    process.startTicks = parseNumber<std::uint64_t>(fields[start]).value_or(0);
+  process.parent = parseNumber<int>(fields[parent]).value_or(0);
+  process.session = parseNumber<int>(fields[session]).value_or(0);
+  process.terminal = parseNumber<int>(fields[terminal]).value_or(0);
+  if (fields.size() > startTime) {
+    process.startTicks = parseNumber<std::uint64_t>(fields[startTime]).value_or(0);
   }
-  return (parseNumber<unsigned long>(fields[6]).value_or(0) & kernelThreadFlag) == 0;
+  return (parseNumber<unsigned long>(fields[flags]).value_or(0) & kernelThreadFlag) == 0;
 }
 
 /// The full name, from the command line, if the kernel truncated it; else `kept`.

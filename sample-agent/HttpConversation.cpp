@@ -47,13 +47,12 @@ std::vector<std::string_view> valuesOf(const Message& message, std::string_view 
 
 Request requestOf(const Parser& parser) {
   const Message& message = parser.get();
-  const bool hasBody = parser.chunked() || parser.content_length().value_or(0) > 0;
   Request request;
   request.method = toStandard(message.method_string());
   request.target = toStandard(message.target());
   request.hosts = valuesOf(message, "Host");
   request.tokens = valuesOf(message, "X-Agent-Token");
-  request.body = hasBody ? Request::Body::present : Request::Body::absent;
+  request.hasBody = parser.chunked() || parser.content_length().value_or(0) > 0;
   return request;
 }
 
@@ -100,7 +99,8 @@ asio::awaitable<void> drain(tcp::socket& socket) {
 
 }  // namespace
 
-asio::awaitable<void> converse(tcp::socket& socket, std::uint32_t headerBytes, AnswerRule rule) {
+asio::awaitable<void> serveRequest(tcp::socket& socket, std::uint32_t headerBytes,
+                                   AnswerRule rule) {
   ErrorCode error;
   // Named, because GCC 12 may destroy a temporary argument inside a co_await twice.
   auto completion = asio::redirect_error(asio::use_awaitable, error);

@@ -21,7 +21,7 @@ using AnswerRule = std::function<Answer(const Request&)>;
 /// header; a request that exceeds the limit or violates the protocol is answered
 /// without calling `rule`. Ends early, without an error, if the socket is closed
 /// meanwhile, by the client or by the caller's time limit.
-[[nodiscard]] boost::asio::awaitable<void> converse(boost::asio::ip::tcp::socket& socket,
-                                                    std::uint32_t headerBytes, AnswerRule rule);
+[[nodiscard]] boost::asio::awaitable<void> serveRequest(boost::asio::ip::tcp::socket& socket,
+                                                        std::uint32_t headerBytes, AnswerRule rule);
 
 }  // namespace quillmark::sample

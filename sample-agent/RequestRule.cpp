@@ -34,23 +34,23 @@ bool equalInConstantTime(std::string_view a, std::string_view b) {
 }
 
 /// The body for `target`, or null.
-const std::string* bodyOf(std::string_view target, const Snapshot& snapshot) {
+const std::string* bodyOf(std::string_view target, const AnswerBodies& bodies) {
   const auto path = target.substr(0, target.find('?'));
   if (path == "/api/status") {
-    return &snapshot.status;
+    return &bodies.status;
   }
   if (path == "/api/alerts") {
-    return &snapshot.alerts;
+    return &bodies.alerts;
   }
   if (path == "/api/network") {
-    return &snapshot.network;
+    return &bodies.network;
   }
-  return path == "/api/inventory" ? &snapshot.inventory : nullptr;
+  return path == "/api/inventory" ? &bodies.inventory : nullptr;
 }
 
 }  // namespace
 
-Answer answerTo(const Request& request, std::string_view token, const Snapshot& snapshot) {
+Answer answerTo(const Request& request, std::string_view token, const AnswerBodies& bodies) {
   if (request.hosts.size() != 1) {
     return malformedAnswer();
   }
@@ -61,14 +61,14 @@ Answer answerTo(const Request& request, std::string_view token, const Snapshot& 
     return {401, R"({"error":"the access token is missing or wrong"})", "WWW-Authenticate",
             "X-Agent-Token"};
   }
-  const std::string* const body = bodyOf(request.target, snapshot);
+  const std::string* const body = bodyOf(request.target, bodies);
   if (body == nullptr) {
     return {404, R"({"error":"there is nothing at this path"})", {}, {}};
   }
   if (request.method != "GET") {
     return {405, R"({"error":"only GET is served"})", "Allow", "GET"};
   }
-  if (request.body == Request::Body::present) {
+  if (request.hasBody) {
     return {413, R"({"error":"a request must have no body"})", {}, {}};
   }
   return {200, *body, {}, {}};

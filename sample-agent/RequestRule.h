@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Snapshot.h"
+#include "AnswerBodies.h"
 
 namespace quillmark::sample {
 
@@ -16,10 +16,10 @@ struct Request {
   std::string_view target;
   std::vector<std::string_view> hosts;   ///< every Host field
   std::vector<std::string_view> tokens;  ///< every X-Agent-Token field
-  enum class Body { absent, present } body = Body::absent;
+  bool hasBody = false;
 };
 
-/// An answer; its strings are literals or point into the snapshot.
+/// An answer; its strings are literals or point into the bodies.
 struct Answer {
   unsigned status = 200;
   std::string_view body;       ///< JSON
@@ -37,7 +37,7 @@ struct Answer {
 /// name cannot even learn whether its token is right. The time of the token's
 /// comparison depends only on the token's length.
 [[nodiscard]] Answer answerTo(const Request& request, std::string_view token,
-                              const Snapshot& snapshot);
+                              const AnswerBodies& bodies);
 
 // The answers to bytes that are no valid request.
 [[nodiscard]] Answer malformedAnswer();

@@ -32,11 +32,11 @@ void ScanLoop::scanOnce(const std::stop_token& stop) {
   try {
     auto result = scanner_.scan(std::chrono::system_clock::now(), stop);
     if (!stop.stop_requested()) {
-      publish_(std::move(result.snapshot));
+      publish_(std::move(result.bodies));
       report(std::move(result.notes));
     }
   } catch (const std::exception& error) {
-    // Clients still get the last snapshot; its last_scan shows its age.
+    // Clients still get the last bodies, whose last_scan shows their age.
     report({std::string("scan failed: ") + error.what()});
   }
 }

@@ -12,8 +12,8 @@
 #include <thread>
 #include <vector>
 
+#include "AnswerBodies.h"
 #include "Scanner.h"
-#include "Snapshot.h"
 
 namespace quillmark::sample {
 
@@ -21,8 +21,8 @@ namespace quillmark::sample {
 /// destructor stops a running scan and waits for the thread.
 class ScanLoop final {
  public:
-  /// Receives each new snapshot; called on the scanning thread.
-  using Publish = std::function<void(std::shared_ptr<const Snapshot>)>;
+  /// Receives the bodies of each scan; called on the scanning thread.
+  using Publish = std::function<void(std::shared_ptr<const AnswerBodies>)>;
 
   /// Writes what scans could not do to `log`, one line each.
   ScanLoop(Scanner& scanner, std::chrono::milliseconds interval, Publish publish,

@@ -38,7 +38,7 @@ ScanResult Scanner::scan(std::chrono::system_clock::time_point now, const std::s
   if (config_.detection) {
     findings = runChecks(processes, sockets, stop, result.notes);
   }
-  AlertsResponse alerts{history_.dated(std::move(findings), now)};
+  AlertsResponse alerts{history_.withFirstSeen(std::move(findings), now)};
 
   InventoryData inventory;
   inventory.apps = applications_.read();
@@ -48,9 +48,9 @@ ScanResult Scanner::scan(std::chrono::system_clock::time_point now, const std::s
   inventory.network_interfaces = networkInterfaces(paths_.proc);
   inventory.permissions = effectiveCapabilities(paths_.proc);
 
-  result.snapshot = std::make_shared<const Snapshot>(
-      Snapshot{encodedStatus(alerts.alerts, now), encode(alerts),
-               encode(NetworkResponse{connectionsOf(sockets, processes)}), encode(inventory)});
+  result.bodies = std::make_shared<const AnswerBodies>(
+      AnswerBodies{encodedStatus(alerts.alerts, now), encode(alerts),
+                   encode(NetworkResponse{connectionsOf(sockets, processes)}), encode(inventory)});
   return result;
 }
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "AgentConfig.h"
-#include "Snapshot.h"
+#include "AnswerBodies.h"
 #include "checks/AlertHistory.h"
 #include "checks/SetUidFiles.h"
 #include "model/ThreatAlert.h"
@@ -22,7 +22,7 @@
 namespace quillmark::sample {
 
 struct ScanResult {
-  std::shared_ptr<const Snapshot> snapshot;
+  std::shared_ptr<const AnswerBodies> bodies;
   std::vector<std::string> notes;  ///< what the scan could not do, for the log
 };
 

@@ -38,7 +38,7 @@ std::size_t connectionsWithinDescriptors() {
   return limit.rlim_cur > reserved ? limit.rlim_cur - reserved : 1;
 }
 
-void hangUp(tcp::socket& socket) {
+void closeSocket(tcp::socket& socket) {
   ErrorCode ignored;
   socket.close(ignored);
 }
@@ -54,9 +54,9 @@ struct Server::State {
   tcp::acceptor acceptor;
   const std::string token;
   ServerLimits limits;
-  std::shared_ptr<const Snapshot> snapshot;
+  std::shared_ptr<const AnswerBodies> bodies;
   Connections connections;
-  std::uint64_t connectionCount = 0;
+  std::uint64_t lastNumber = 0;
 
   static asio::awaitable<void> acceptClients(std::shared_ptr<State> state);
   static asio::awaitable<void> serve(std::shared_ptr<State> state,
@@ -66,7 +66,7 @@ struct Server::State {
   /// its answer slowly is the oldest.
   void makeRoom() {
     while (connections.size() >= limits.connections) {
-      hangUp(*connections.begin()->second);
+      closeSocket(*connections.begin()->second);
       connections.erase(connections.begin());
     }
   }
@@ -95,22 +95,22 @@ asio::awaitable<void> Server::State::acceptClients(std::shared_ptr<State> state)
 
 asio::awaitable<void> Server::State::serve(std::shared_ptr<State> state,
                                            std::shared_ptr<tcp::socket> socket) {
-  const std::uint64_t number = ++state->connectionCount;
+  const std::uint64_t number = ++state->lastNumber;
   state->connections.emplace(number, socket);
   BOOST_SCOPE_EXIT_ALL(&state, number) { state->connections.erase(number); };
   asio::steady_timer deadline(socket->get_executor(), state->limits.deadline);
   deadline.async_wait([socket](const ErrorCode& cancelled) {
     if (!cancelled) {
-      hangUp(*socket);
+      closeSocket(*socket);
     }
   });
 
-  // Keeps the snapshot alive: the answer points into it until all of it is sent.
-  const auto snapshot = state->snapshot;
+  // Keeps the bodies alive: the answer points into them until all of it is sent.
+  const auto bodies = state->bodies;
   AnswerRule rule = [&](const Request& request) {
-    return answerTo(request, state->token, *snapshot);
+    return answerTo(request, state->token, *bodies);
   };
-  auto conversation = converse(*socket, state->limits.headerBytes, std::move(rule));
+  auto conversation = serveRequest(*socket, state->limits.headerBytes, std::move(rule));
   co_await std::move(conversation);
 }
 
@@ -122,9 +122,9 @@ Server::~Server() {
   state_->acceptor.close(ignored);
 }
 
-void Server::publish(std::shared_ptr<const Snapshot> snapshot) {
-  const bool isFirst = state_->snapshot == nullptr;
-  state_->snapshot = std::move(snapshot);
+void Server::publish(std::shared_ptr<const AnswerBodies> bodies) {
+  const bool isFirst = state_->bodies == nullptr;
+  state_->bodies = std::move(bodies);
   if (isFirst) {
     asio::co_spawn(state_->acceptor.get_executor(), State::acceptClients(state_), asio::detached);
   }

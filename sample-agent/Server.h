@@ -13,7 +13,7 @@
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/system/result.hpp>
 
-#include "Snapshot.h"
+#include "AnswerBodies.h"
 
 namespace quillmark::sample {
 
@@ -28,8 +28,8 @@ struct ServerLimits {
 [[nodiscard]] boost::system::result<boost::asio::ip::tcp::acceptor> listenForClients(
     boost::asio::io_context& context);
 
-/// Answers HTTP requests from the last published snapshot, one request per
-/// connection. Clients that connect before the first snapshot wait for it. For use
+/// Answers HTTP requests with the last published bodies, one request per
+/// connection. Clients that connect before the first ones wait for them. For use
 /// on the one thread that runs the acceptor's context.
 class Server final {
  public:
@@ -38,8 +38,8 @@ class Server final {
   Server(const Server&) = delete;
   Server& operator=(const Server&) = delete;
 
-  /// From now on requests are answered from `snapshot`.
-  void publish(std::shared_ptr<const Snapshot> snapshot);
+  /// From now on requests are answered with `bodies`.
+  void publish(std::shared_ptr<const AnswerBodies> bodies);
 
  private:
   struct State;

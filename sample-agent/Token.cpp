@@ -42,8 +42,8 @@ bool isToken(std::string_view text) {
          text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
 }
 
-/// Why the open file is no safe place for a secret, if so.
-std::optional<Failure> unsafety(const struct stat& status, const std::string& path) {
+/// Why the open file cannot be trusted with a secret; no value if it can.
+std::optional<Failure> whyUnsafe(const struct stat& status, const std::string& path) {
   if (!S_ISREG(status.st_mode)) {
     return Failure{path + ": not a regular file"};
   }
@@ -68,7 +68,7 @@ std::optional<TokenResult> readToken(const std::string& path) {
   if (fstat(descriptor, &status) != 0) {
     return lastError(path);
   }
-  if (auto reason = unsafety(status, path)) {
+  if (auto reason = whyUnsafe(status, path)) {
     return std::move(*reason);
   }
 

@@ -81,8 +81,8 @@ int run() {
 
   Server server(std::move(*acceptor), std::move(*token));
   Scanner scanner(systemPaths(home), *config);
-  auto publish = [&](const std::shared_ptr<const Snapshot>& snapshot) {
-    boost::asio::post(context, [&server, snapshot] { server.publish(snapshot); });
+  auto publish = [&](const std::shared_ptr<const AnswerBodies>& bodies) {
+    boost::asio::post(context, [&server, bodies] { server.publish(bodies); });
   };
   const ScanLoop scanLoop(scanner, scanInterval, std::move(publish), std::cerr);
   context.run();

@@ -27,7 +27,7 @@ void inheritStandardStreamsOnly(posix_spawn_file_actions_t& actions) {
 }
 
 bool endsWithin(pid_t child, std::chrono::milliseconds limit) {
-  // The header of glibc 2.36 that declares `pidfd_open` is not for C++.
+  // glibc 2.36's <sys/pidfd.h> lacks extern "C", so its `pidfd_open` does not link.
   const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, child, 0));
   if (descriptor < 0) {
     // For example, no descriptor is free. The caller then waits without a limit.

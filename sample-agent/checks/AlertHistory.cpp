@@ -20,7 +20,7 @@ auto severityRank(const ThreatAlert& alert) {
 
 }  // namespace
 
-std::vector<ThreatAlert> AlertHistory::dated(std::vector<ThreatAlert> findings, Time now) {
+std::vector<ThreatAlert> AlertHistory::withFirstSeen(std::vector<ThreatAlert> findings, Time now) {
   std::map<Key, Time> seen;
   for (auto& alert : findings) {
     const Key key{alert.alert_type, alert.title.value_or("")};

@@ -22,7 +22,7 @@ class AlertHistory final {
   /// The findings of the scan at `now`, each with the time of the first scan that
   /// had it; newest first, then most severe first. A finding that is missing is
   /// forgotten, and is new when it returns.
-  [[nodiscard]] std::vector<ThreatAlert> dated(std::vector<ThreatAlert> findings, Time now);
+  [[nodiscard]] std::vector<ThreatAlert> withFirstSeen(std::vector<ThreatAlert> findings, Time now);
 
  private:
   using Key = std::pair<std::string, std::string>;

@@ -12,8 +12,8 @@ namespace quillmark::sample {
 struct SystemPaths {
   std::string proc = "/proc";
   std::string dpkg = "/var/lib/dpkg";
-  /// The folder of the packages' desktop entries; dpkg's file lists always call it by
-  /// this default.
+  /// The folder with the packages' desktop entries. Tests use another one; dpkg's lists
+  /// name this one all the same.
   std::string packagedApplications = "/usr/share/applications";
   std::vector<std::string> otherApplications;  ///< folders of desktop entries, the first one wins
   std::vector<std::string> setUidRoots = {"/tmp", "/var/tmp", "/home"};

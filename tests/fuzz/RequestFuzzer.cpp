@@ -26,8 +26,8 @@ namespace http = boost::beast::http;
 using asio::ip::tcp;
 
 constexpr std::string_view token = "0123456789abcdef";
-const Snapshot snapshot{R"({"of":"status"})", R"({"of":"alerts"})", R"({"of":"network"})",
-                        R"({"of":"inventory"})"};
+const AnswerBodies bodies{R"({"of":"status"})", R"({"of":"alerts"})", R"({"of":"network"})",
+                          R"({"of":"inventory"})"};
 
 /// Everything that the server sends to a client that sends `bytes` and waits.
 std::string answersTo(std::string_view bytes) {
@@ -44,8 +44,8 @@ std::string answersTo(std::string_view bytes) {
   tcp::socket server(context, tcp::v4(), ends[0]);
   asio::co_spawn(
       context,
-      converse(server, 512,
-               [](const Request& request) { return answerTo(request, token, snapshot); }),
+      serveRequest(server, 512,
+                   [](const Request& request) { return answerTo(request, token, bodies); }),
       asio::detached);
   context.run();
   server.close();

@@ -15,13 +15,12 @@ namespace {
 
 using namespace std::string_literals;
 using test::FixtureTree;
-using Arguments = ProcessCommand::Arguments;
 
 TEST(ProcessCommands, AreTheArgumentsJoinedBySpaces) {
   const FixtureTree tree;
   tree.write("proc/7/cmdline", "program\0--option\0two words\0"s);
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "program --option two words");
-  EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::present);
+  EXPECT_TRUE(readProcessCommand(tree.path("proc"), 7).hasArguments);
 }
 
 TEST(ProcessCommands, EndBeforeThePaddingOfATitle) {
@@ -41,7 +40,7 @@ TEST(ProcessCommands, AreTheNameIfThereAreNoArguments) {
   tree.write("proc/7/cmdline", "");
   tree.write("proc/7/comm", "ended\n");
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "ended");
-  EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::none);
+  EXPECT_FALSE(readProcessCommand(tree.path("proc"), 7).hasArguments);
 }
 
 TEST(ProcessCommands, AreEmptyIfTheOnlyArgumentIsEmpty) {
@@ -49,7 +48,7 @@ TEST(ProcessCommands, AreEmptyIfTheOnlyArgumentIsEmpty) {
   tree.write("proc/7/cmdline", "\0"s);
   tree.write("proc/7/comm", "nameless\n");
   EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).text, "");
-  EXPECT_EQ(readProcessCommand(tree.path("proc"), 7).arguments, Arguments::present);
+  EXPECT_TRUE(readProcessCommand(tree.path("proc"), 7).hasArguments);
 }
 
 TEST(ProcessCommands, AreEmptyForAProcessThatHasEnded) {

@@ -178,25 +178,26 @@ using Lines = std::vector<std::string>;
 
 TEST(AlertHistory, KeepsTheTimeOfTheFirstScanThatFoundIt) {
   AlertHistory history;
-  EXPECT_EQ(summary(history.dated({finding("a")}, at(1))), Lines{"a 00:01"});
-  EXPECT_EQ(summary(history.dated({finding("a")}, at(61))), Lines{"a 00:01"});
+  EXPECT_EQ(summary(history.withFirstSeen({finding("a")}, at(1))), Lines{"a 00:01"});
+  EXPECT_EQ(summary(history.withFirstSeen({finding("a")}, at(61))), Lines{"a 00:01"});
 }
 
 TEST(AlertHistory, TreatsAFindingThatReturnsAsNew) {
   AlertHistory history;
-  EXPECT_EQ(history.dated({finding("a")}, at(1)).size(), 1U);
-  EXPECT_TRUE(history.dated({}, at(2)).empty());
-  EXPECT_EQ(summary(history.dated({finding("a")}, at(3))), Lines{"a 00:03"});
+  EXPECT_EQ(history.withFirstSeen({finding("a")}, at(1)).size(), 1U);
+  EXPECT_TRUE(history.withFirstSeen({}, at(2)).empty());
+  EXPECT_EQ(summary(history.withFirstSeen({finding("a")}, at(3))), Lines{"a 00:03"});
 }
 
 TEST(AlertHistory, ListsTheNewestFirstAndThenTheMostSevere) {
   AlertHistory history;
-  EXPECT_EQ(summary(history.dated(
+  EXPECT_EQ(summary(history.withFirstSeen(
                 {finding("low", "low"), finding("odd", "unheard of"),
                  finding("critical", "critical"), finding("high"), finding("medium", "medium")},
                 at(1))),
             (Lines{"critical 00:01", "high 00:01", "medium 00:01", "low 00:01", "odd 00:01"}));
-  EXPECT_EQ(summary(history.dated({finding("critical", "critical"), finding("new", "low")}, at(2))),
+  EXPECT_EQ(summary(history.withFirstSeen({finding("critical", "critical"), finding("new", "low")},
+                                          at(2))),
             (Lines{"new 00:02", "critical 00:01"}));
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view rightToken = "0123456789abcdef";
 
-const Snapshot served{"the status", "the alerts", "the network", "the inventory"};
+const AnswerBodies served{"the status", "the alerts", "the network", "the inventory"};
 
 Request good() {
   Request request;
@@ -105,13 +105,13 @@ TEST(AnswerTo, ServesGetOnly) {
 
 TEST(AnswerTo, RefusesABody) {
   auto request = good();
-  request.body = Request::Body::present;
+  request.hasBody = true;
   EXPECT_EQ(statusOf(request), 413U);
 }
 
 TEST(AnswerTo, ChecksHostTokenPathMethodAndBodyInThisOrder) {
   auto request = good();
-  request.body = Request::Body::present;
+  request.hasBody = true;
   EXPECT_EQ(statusOf(request), 413U);
   request.method = "POST";
   EXPECT_EQ(statusOf(request), 405U);
@@ -126,7 +126,7 @@ TEST(AnswerTo, ChecksHostTokenPathMethodAndBodyInThisOrder) {
 TEST(AnswerTo, ExplainsAnErrorInJsonThatIsNotARecord) {
   auto request = good();
   std::vector<Answer> errors = {malformedAnswer(), headerTooLargeAnswer()};
-  request.body = Request::Body::present;
+  request.hasBody = true;
   errors.push_back(answerTo(request, rightToken, served));
   request.method = "POST";
   errors.push_back(answerTo(request, rightToken, served));

@@ -22,9 +22,10 @@ namespace quillmark::sample::test {
 
 inline const std::string agentToken = "0123456789abcdef0123456789abcdef";
 
-/// A snapshot in which only the status matters: `goodRequest` asks for that.
-[[nodiscard]] inline std::shared_ptr<const Snapshot> snapshotWith(std::string status) {
-  return std::make_shared<const Snapshot>(Snapshot{std::move(status), "alerts", "network", "apps"});
+/// Bodies of which only the status matters: `goodRequest` asks for that.
+[[nodiscard]] inline std::shared_ptr<const AnswerBodies> bodiesWith(std::string status) {
+  return std::make_shared<const AnswerBodies>(
+      AnswerBodies{std::move(status), "alerts", "network", "apps"});
 }
 
 [[nodiscard]] inline std::string filler(std::size_t size) { return std::string(size, 'x'); }
@@ -38,7 +39,7 @@ class RunningServer {
         port_(acceptor_.local_endpoint().port()),
         server_(std::move(acceptor_), agentToken, limits) {
     if (isReady) {
-      server_.publish(snapshotWith("first"));
+      server_.publish(bodiesWith("first"));
     }
     thread_ = std::jthread([this] { context_.run(); });
   }
@@ -47,8 +48,8 @@ class RunningServer {
     thread_.join();
   }
 
-  void publish(const std::shared_ptr<const Snapshot>& snapshot) {
-    boost::asio::post(context_, [this, snapshot] { server_.publish(snapshot); });
+  void publish(const std::shared_ptr<const AnswerBodies>& bodies) {
+    boost::asio::post(context_, [this, bodies] { server_.publish(bodies); });
   }
   [[nodiscard]] std::uint16_t port() const { return port_; }
 

@@ -23,13 +23,13 @@ namespace {
 
 using ScanLoopTest = test::WithScannedMachine;
 
-/// Waits for a number of snapshots.
+/// Waits for a number of scans.
 class Counter {
  public:
   [[nodiscard]] ScanLoop::Publish publish() {
-    return [this](std::shared_ptr<const Snapshot> snapshot) {
+    return [this](std::shared_ptr<const AnswerBodies> bodies) {
       const std::lock_guard lock(mutex_);
-      last_ = std::move(snapshot);
+      last_ = std::move(bodies);
       ++count_;
       changed_.notify_all();
     };
@@ -38,7 +38,7 @@ class Counter {
     std::unique_lock lock(mutex_);
     return changed_.wait_for(lock, quillmark::test::patience(), [&] { return count_ >= count; });
   }
-  [[nodiscard]] std::shared_ptr<const Snapshot> last() {
+  [[nodiscard]] std::shared_ptr<const AnswerBodies> last() {
     const std::lock_guard lock(mutex_);
     return last_;
   }
@@ -46,7 +46,7 @@ class Counter {
  private:
   std::mutex mutex_;
   std::condition_variable changed_;
-  std::shared_ptr<const Snapshot> last_;
+  std::shared_ptr<const AnswerBodies> last_;
   int count_ = 0;
 };
 
@@ -83,11 +83,11 @@ TEST_F(ScanLoopTest, ContinuesAfterAFailedScan) {
     const auto publish = counter.publish();
     const ScanLoop loop(
         scanner, std::chrono::milliseconds(1),
-        [&](std::shared_ptr<const Snapshot> snapshot) {
+        [&](std::shared_ptr<const AnswerBodies> bodies) {
           if (++calls == 1) {
             throw std::runtime_error("out of something");
           }
-          publish(std::move(snapshot));
+          publish(std::move(bodies));
         },
         log);
     ASSERT_TRUE(counter.reached(1));

@@ -48,7 +48,7 @@ TEST(ServerLimits, CloseAConnectionAtItsDeadline) {
   ASSERT_TRUE(slow.send("GET /api/status HTTP/1.1\r\n"));
   EXPECT_EQ(slow.receiveAll(), "");
 
-  server.publish(snapshotWith(filler(50'000'000)));
+  server.publish(bodiesWith(filler(50'000'000)));
   const RawClient sluggish(server.port());
   ASSERT_TRUE(sluggish.send(goodRequest()));
   EXPECT_LT(sluggish.receiveAll(milliseconds(10)).value_or("").size(), 50'000'000U);

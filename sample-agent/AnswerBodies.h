@@ -9,7 +9,7 @@ namespace quillmark::sample {
 
 /// The JSON bodies of the four endpoints from one scan. Immutable, shared between
 /// threads.
-struct Snapshot {
+struct AnswerBodies {
   std::string status;
   std::string alerts;
   std::string network;
