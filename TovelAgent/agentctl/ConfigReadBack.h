@@ -18,10 +18,9 @@ struct ConfigEntries {
   friend bool operator==(const ConfigEntries&, const ConfigEntries&) = default;
 };
 
-/// Finds the two values in the lines of `text`, in any section. If one of them occurs
-/// several times, the last value that is neither empty nor a placeholder is taken. Not a TOML
-/// parser: every line that begins with "api_key" or "server_url" counts, `api_keys = …` too; a
-/// second
+/// Finds the two values in the lines of `text`, in any section. If one of them occurs several
+/// times, the last value that is neither empty nor a placeholder is taken. Not a TOML parser:
+/// every line that begins with "api_key" or "server_url" counts, `api_keys = …` too; a second
 /// "=" in the line ends the value; a carriage return is part of the value. Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);
 
