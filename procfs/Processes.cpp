@@ -83,9 +83,9 @@ std::string readUnit(const std::string& folder) {
 std::vector<std::uint64_t> socketInodes(const std::string& folder) {
   constexpr std::string_view prefix = "socket:[";
   std::vector<std::uint64_t> inodes;
-  const std::string descriptors = folder + "/fd";
+  const std::string descriptors = folder + "/fd/";
   for (const auto& name : namesIn(descriptors)) {
-    const auto target = readLink(descriptors + '/' + name);
+    const auto target = readLink(descriptors + name);
     if (!target || !target->starts_with(prefix) || !target->ends_with(']')) {
       continue;
     }
@@ -107,7 +107,7 @@ std::vector<Process> readProcesses(const std::string& procRoot) {
     if (!pid) {
       continue;
     }
-    const std::string folder = procRoot + '/' + name;
+    const std::string folder = procRoot + '/' + std::to_string(*pid);
     Process process;
     process.pid = *pid;
     if (!readStat(folder, process)) {

@@ -118,11 +118,12 @@ void ApplicationReader::addPackage(const Package& package) {
 }
 
 void ApplicationReader::addUnpackaged(const std::string& folder, Found& found) {
+  const std::string prefix = folder + '/';
   for (const auto& name : namesIn(folder)) {
     if (!name.ends_with(".desktop") || !found.entryNames.insert(name).second) {
       continue;
     }
-    if (const auto entry = readEntry(folder + '/' + name)) {
+    if (const auto entry = readEntry(prefix + name)) {
       found.menu.push_back({entry->name, std::nullopt, std::nullopt, pathOf(*entry, {})});
     }
   }
