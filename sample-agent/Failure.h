@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include <stdexcept>
 #include <string>
+
+#include <boost/assert/source_location.hpp>
 
 namespace quillmark::sample {
 
@@ -11,5 +14,12 @@ namespace quillmark::sample {
 struct Failure {
   std::string text;
 };
+
+/// Newer versions of Boost call this when a result is used as if it had a value.
+// NOLINTNEXTLINE(readability-identifier-naming)
+[[noreturn]] inline void throw_exception_from_error(const Failure& /*error*/,
+                                                    const boost::source_location& /*place*/) {
+  throw std::logic_error("no value");
+}
 
 }  // namespace quillmark::sample

@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 
 #include <boost/asio/awaitable.hpp>
@@ -45,6 +46,13 @@ enum class HttpFailure {
 };
 
 using HttpResult = boost::system::result<HttpAnswer, HttpFailure>;
+
+/// Newer versions of Boost call this when a result is used as if it had a value.
+// NOLINTNEXTLINE(readability-identifier-naming)
+[[noreturn]] inline void throw_exception_from_error(const HttpFailure& /*error*/,
+                                                    const boost::source_location& /*place*/) {
+  throw std::logic_error("no HTTP answer");
+}
 
 /// The bytes that are sent for `request`. Any thread.
 [[nodiscard]] std::string requestText(const HttpRequest& request);

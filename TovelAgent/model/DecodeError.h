@@ -3,8 +3,11 @@
 
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include <boost/assert/source_location.hpp>
 
 namespace quillmark {
 
@@ -39,5 +42,12 @@ struct DecodeError {
 
   friend bool operator==(const DecodeError&, const DecodeError&) = default;
 };
+
+/// Newer versions of Boost call this when a result is used as if it had a value.
+// NOLINTNEXTLINE(readability-identifier-naming)
+[[noreturn]] inline void throw_exception_from_error(const DecodeError& /*error*/,
+                                                    const boost::source_location& /*place*/) {
+  throw std::logic_error("no decoded record");
+}
 
 }  // namespace quillmark
