@@ -16,10 +16,9 @@ namespace {
 // No real text is this long, and longer text would block the window: the time to break
 // one word into lines grows with the square of its length, 11 ms for this many characters.
 constexpr std::size_t maxCharacters = 16'000;
-// No real text changes this often between scripts, or between kinds of symbols; Japanese
-// does about 7,000 times in the most characters. Each change may need another font, which
-// takes as long to lay out as several characters.
-constexpr int maxChanges = 8'000;
+// No real text changes this often between scripts, or between kinds of symbols. Each change
+// may need another font, which takes as long to lay out as several characters.
+constexpr int maxChanges = 3'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
@@ -34,8 +33,16 @@ std::uint32_t kindOf(char32_t character) {
       (script == QChar::Script_Common && character < blockSize)) {
     return neutralKind;
   }
-  return script == QChar::Script_Common ? QChar::ScriptCount + character / blockSize
-                                        : std::uint32_t{script};
+  switch (script) {
+    case QChar::Script_Common:
+      return QChar::ScriptCount + character / blockSize;
+    // With Han, the scripts of Japanese: it changes between them with almost every word.
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+      return QChar::Script_Han;
+    default:
+      return script;
+  }
 }
 
 /// The position at which the text has changed too often.

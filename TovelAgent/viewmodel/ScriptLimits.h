@@ -18,13 +18,12 @@ namespace quillmark {
 /// below the limit. Any thread, but each object only one at a time.
 class ScriptLimits {
  public:
-  /// Puts U+FFFD in place of each character of a script that is not in widespread use
-  /// today, except for the first four of these scripts that this object meets.
+  /// Puts U+FFFD in place of all characters except Latin, Greek, Cyrillic and symbols if the
+  /// text contains more than eight further scripts. Of the scripts that are not in widespread
+  /// use today, only the first four that this object meets are left in texts.
   void apply(std::u32string& text);
 
  private:
-  [[nodiscard]] bool allows(char32_t character);
-
   std::bitset<QChar::ScriptCount> rareScripts_;
 };
 

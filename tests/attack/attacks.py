@@ -148,6 +148,10 @@ def four_scripts(chance):
     return "".join(chance.sample(SCRIPTS, 4))
 
 
+def japanese(_chance):
+    return SCRIPTS[20] + SCRIPTS[21] + SCRIPTS[23]
+
+
 def symbols(_chance):
     return SYMBOLS
 
@@ -185,6 +189,7 @@ def every():
         "texts in all scripts": random_texts(10, 15_000, all_scripts),
         "long texts in four scripts each": random_texts(10, 15_000, four_scripts),
         "short texts in four scripts each": random_texts(100, 60, four_scripts),
+        "long texts in Japanese scripts": random_texts(10, 15_000, japanese),
         "texts of all symbols": random_texts(10, 15_000, symbols),
         "twenty million empty services": empty_services,
         "nesting 100,000 deep": deep_nesting,

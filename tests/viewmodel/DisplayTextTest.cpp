@@ -45,17 +45,21 @@ TEST(DisplayText, IsInAFewRareScriptsOnly) {
 }
 
 TEST(DisplayText, IsCompleteIfItChangesBetweenScriptsLikeARealText) {
-  for (const std::string sentence :
-       {"これは日本語のテキストです。", "Η λέξη «text» → 😀. ", "هذا نص بالعربية، ١٢٣. "}) {
-    const auto text = repeated(700, sentence);
+  for (const std::string sentence : {"Η λέξη «text» → 😀. ", "هذا نص بالعربية، ١٢٣. "}) {
+    const auto text = repeated(250, sentence);
     EXPECT_EQ(displayText(text).toStdString(), text);
   }
 }
 
+TEST(DisplayText, IsCompleteInJapanese) {
+  const auto text = repeated(1'100, "これは日本語のテキストです。");
+  EXPECT_EQ(displayText(text).toStdString(), text);
+}
+
 // Each change may need another font, and too many of them would block the window.
-TEST(DisplayText, EndsAfterEightThousandChangesBetweenScriptsOrSymbols) {
+TEST(DisplayText, EndsAfterThreeThousandChangesBetweenScriptsOrSymbols) {
   for (const std::string pair : {"中가", "☃😀", "a中"}) {
-    const auto beginning = repeated(4'000, pair);
+    const auto beginning = repeated(1'500, pair);
     EXPECT_EQ(displayText(beginning).toStdString(), beginning);
     EXPECT_EQ(displayText(beginning + pair).toStdString(), beginning + "…");
   }

@@ -43,7 +43,25 @@ TEST(ScriptLimits, LeavesTheFirstFourRareScripts) {
 }
 
 TEST(ScriptLimits, LeavesFourOfTheRareScriptsOfOneText) {
-  EXPECT_EQ(limited("Ꭰ ᚠ 𐍈 𐐨 𒀀 Ꭱ ա ב ت क ক ก 中 가 ა"), "Ꭰ ᚠ 𐍈 𐐨 \uFFFD Ꭱ ա ב ت क ক ก 中 가 ა");
+  const auto text = limited("Ꭰ ᚠ 𐍈 𐐨 𒀀");
+  EXPECT_EQ(QString::fromStdString(text).count(QChar(0xFFFD)), 1) << text;
+}
+
+// A hostile text must not use up what later texts may need.
+TEST(ScriptLimits, CountsNoScriptOfATextThatHasTooMany) {
+  ScriptLimits limits;
+  limited(limits, "Ꭰ ᚠ 𐍈 𐐨 𒀀 𓀀 ա ב ت");
+  EXPECT_EQ(limited(limits, "𐤀 𐎠"), "𐤀 𐎠");
+}
+
+TEST(ScriptLimits, LeavesEightScriptsInOneText) {
+  const std::string eight = "ա ב ت क ক ก 中 가, and Latin β б 😀";
+  EXPECT_EQ(limited(eight), eight);
+}
+
+TEST(ScriptLimits, ReplacesThemAllIfATextHasMore) {
+  EXPECT_EQ(limited("ա ב ت क ক ก 中 가 ა, and Latin β б 😀"),
+            "\uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD \uFFFD, and Latin β б 😀");
 }
 
 TEST(ScriptLimits, KnowsAScriptForEachCharacter) {
