@@ -78,9 +78,12 @@ function(quillmark_gtest target)
   if(QUILLMARK_TEST_PREFIX)
     set(prefix TEST_PREFIX "${QUILLMARK_TEST_PREFIX}")
   endif()
+  # CMake 4 lets the program write its list of cases here; the rest of the build folder is
+  # read-only in the sandbox.
   gtest_discover_tests(
     ${target}
     ${prefix}
+    WORKING_DIRECTORY "${QUILLMARK_TEST_RESULTS}"
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 600
     PROPERTIES PROCESSORS ${arg_PLACES} LABELS case)

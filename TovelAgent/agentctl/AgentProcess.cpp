@@ -31,8 +31,8 @@ Command startCommand(const std::string& bundle, const std::string& home) {
 
 Command stopCommand() { return {"/usr/bin/pkill", {"-f", std::string(agentFileName)}}; }
 
-// Bash replaces itself with a single command. Otherwise pgrep would always find this shell,
-// whose command line contains the name.
+// Keep it a single command: bash then replaces itself with pgrep. Otherwise pgrep would
+// always find the shell, whose command line contains the name.
 Command probeCommand() { return {shell, {"-c", "pgrep -f " + std::string(agentFileName)}}; }
 
 boost::system::error_code startAgentProcess() {

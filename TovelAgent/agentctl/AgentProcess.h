@@ -21,8 +21,9 @@ inline constexpr std::string_view agentLogInHome = "/.quillmark/logs/backend.log
 /// Whether `path` can be put in a shell's single quotes: it contains no such quote.
 [[nodiscard]] bool isQuotable(std::string_view path);
 
-/// Whether `path` contains a character that can make a shell that reads it without quotes
-/// run a command or redirect to another file.
+/// Whether `path` contains a character with which a shell that reads it without quotes could
+/// run a command or redirect once more. Others, such as a space, only make the redirection
+/// fail or go to another file.
 [[nodiscard]] bool hasShellOperator(std::string_view path);
 
 /// The command that starts the agent of the bundle at `bundle` in the background, with its

@@ -27,7 +27,7 @@ struct HttpRequest {
 struct HttpLimits {
   /// From connecting to the answer's last byte.
   std::chrono::steady_clock::duration time = std::chrono::seconds(60);
-  std::uint32_t headerBytes = 64 * 1024;  ///< of the header, a chunk's size line, the trailers
+  std::uint32_t headerBytes = 64 * 1024;  ///< for each: header, a chunk's size line, trailers
   std::uint64_t bodyBytes = std::uint64_t{64} * 1024 * 1024;
 };
 

@@ -36,8 +36,8 @@ Loader {
     anchors.fill: parent
     active: false
     z: 2
-    // The component is created in another file's context, so "pragma ComponentBehavior:
-    // Bound" cannot tell qmllint what `menu` is.
+    // The linter accepts `menu` in here only with "pragma ComponentBehavior: Bound". With
+    // that, Qt cannot create the component for another file.
     // qmllint disable unqualified
     sourceComponent: MouseArea {
         acceptedButtons: Qt.AllButtons

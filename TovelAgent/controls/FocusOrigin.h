@@ -25,7 +25,7 @@ class FocusOrigin : public QObject {
   void setTarget(QQuickItem* target);
 
   [[nodiscard]] bool fromPointer() const { return fromPointer_; }
-  /// Call when the focus moves without a telling reason, as when a list moves it from row to row.
+  /// Call when Qt's reason does not tell the origin, as when a list moves the focus to a row.
   void setFromPointer(bool fromPointer);
 
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;

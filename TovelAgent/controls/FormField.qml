@@ -76,8 +76,12 @@ Column {
                 selectByMouse: true
                 activeFocusOnTab: true
                 realText: field.value
-                // Pasted text may contain line breaks, which would end the value in the file.
-                onTextEdited: field.edited(realText.replace(/[\r\n]/g, ""))
+                onTextEdited: {
+                    // Pasted text may contain line breaks, which would end the value in the file.
+                    for (let at; (at = realText.search(/[\r\n]/)) >= 0; )
+                        remove(at, at + 1);
+                    field.edited(realText);
+                }
 
                 Accessible.role: Accessible.EditableText
                 Accessible.name: field.label

@@ -46,8 +46,8 @@ FocusScope {
 
         PlainList {
             focus: true
-            // Delegates of other files cannot be created in a component that uses "pragma
-            // ComponentBehavior: Bound", without which qmllint does not accept these ids.
+            // The linter accepts these ids only with "pragma ComponentBehavior: Bound". With
+            // that, Qt cannot create delegates that come from other files.
             // qmllint disable unqualified
             label: page.listName
             model: page.model

@@ -10,7 +10,7 @@ namespace quillmark {
 /// Scrolls a ListView and moves its reading position: the current row, which has the
 /// keyboard focus when the list has it, so that a screen reader reads it. Arrows move it
 /// by a row, Page Up and Page Down by a page, Home and End to the ends; a click moves it
-/// to a row. It is no selection. Polls and scrolling by pointer leave it where it is.
+/// to a row. It is not a selection. Polls and scrolling by pointer leave it where it is.
 ///
 /// A row is an item with the property `label`, its text. UI thread only.
 // Qualified, because qmllint finds the base class only under this name.

@@ -14,9 +14,9 @@
 namespace quillmark {
 namespace {
 
-/// Later, because the window may still be being closed. Leaks Qt's own file dialog, a child
-/// of the window: destroying that crashes Qt 6.4 while assistive technology is connected.
-/// The dialog is closed and takes a few hundred kilobytes.
+/// Destroys `window` in the event loop, because Qt may still be closing it. Leaks Qt's own
+/// file dialog, a child of it: destroying that crashes Qt 6.4 while assistive technology is
+/// connected. The dialog is closed and takes a few hundred kilobytes.
 void destroyLater(QQuickWindow* window) {
   const auto children = window->children();
   for (auto* const child : children) {

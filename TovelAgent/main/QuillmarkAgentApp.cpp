@@ -47,7 +47,7 @@ int QuillmarkAgentApp::run() {
   window.open();
   appDelegate.applicationDidFinishLaunching();
   window.present();
-  // From now on, a call over the bus may change the environment, which this thread reads.
+  // It reads the environment, which from now on a call over the bus may change.
   warmUp.join();
   return QCoreApplication::exec();
 }

@@ -33,8 +33,8 @@ template <Record R>
 [[nodiscard]] Decoded<R> decode(std::string json);
 
 /// Encodes the record as a JSON object with its keys in table order; an optional
-/// without a value is left out. Strings are not checked, so they must be UTF-8
-/// for the result to be valid JSON. Any thread.
+/// without a value is left out. The panel itself sends no records. Strings are not checked, so they
+/// must be UTF-8 for the result to be valid JSON. Any thread.
 template <Record R>
 [[nodiscard]] std::string encode(const R& record);
 

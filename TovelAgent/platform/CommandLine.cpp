@@ -61,10 +61,10 @@ CommandLine readCommandLine(int argc, char* argv[], const CommandLineRules& rule
         return line;
       case 'h':
         std::cout << rules.help;
-        return exitWith(0);
+        return exitWith(std::cout.flush() ? 0 : 1);
       case 'V':
         std::cout << rules.program << ' ' << rules.version << '\n';
-        return exitWith(0);
+        return exitWith(std::cout.flush() ? 0 : 1);
       case flagOption:
         line.flags.emplace_back(table[static_cast<std::size_t>(index)].name);
         break;

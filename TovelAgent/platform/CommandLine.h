@@ -18,7 +18,7 @@ struct CommandLineRules {
   std::string help;
   /// Options without a value, by their long names.
   std::vector<std::string> flags;
-  /// Options with a value. Accepted and dropped: another component reads them from `argv`.
+  /// Options with a value. Accepted and dropped: Qt reads them from `argv`.
   /// If there are any, all long options may begin with a single dash, because a session
   /// manager writes them like that.
   std::vector<std::string> valueOptions;

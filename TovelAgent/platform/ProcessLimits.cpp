@@ -50,7 +50,7 @@ void raiseDescriptorLimit() {
 bool leavesEnoughDescriptors(int descriptor) {
   // More than enough: saving a file takes three at most, enlarging a window one.
   constexpr rlim_t reserved = 16;
-  // The system gives out the lowest free number, so the highest ones are used last.
+  // The system gives out the lowest free number, so all below `descriptor` are in use.
   return static_cast<rlim_t>(descriptor) + reserved < limitOf(RLIMIT_NOFILE).rlim_cur;
 }
 

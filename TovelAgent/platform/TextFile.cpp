@@ -42,7 +42,7 @@ boost::system::result<std::string> readRegularFile(const std::string& path, std:
   }
 
   std::string bytes;
-  // Large, because a table of /proc/net may change between two reads.
+  // Large, to read large files with few system calls.
   std::array<char, std::size_t{32} * 1024> block;
   while (const ssize_t count = read(descriptor, block.data(), block.size())) {
     if (count > 0) {

@@ -22,7 +22,8 @@ constexpr int maxChanges = 3'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
-constexpr std::uint32_t neutralKind = 0;
+/// Also of characters without a script, such as those for private use.
+constexpr std::uint32_t neutralKind = QChar::Script_Unknown;
 
 /// Characters of one kind are likely to be in one font.
 std::uint32_t kindOf(char32_t character) {

@@ -15,7 +15,7 @@ namespace quillmark {
 [[nodiscard]] QChar::Script scriptOf(char32_t character);
 
 /// Limits how many scripts the agent's texts can make Qt open fonts for. Real texts stay
-/// below the limit. Any thread, but each object only one at a time.
+/// below the limit. Any thread, but no object from two threads at the same time.
 class ScriptLimits {
  public:
   /// Puts U+FFFD in place of all characters except Latin, Greek, Cyrillic and symbols if the

@@ -9,9 +9,8 @@ namespace quillmark {
 
 QString announcementFor(const std::optional<StatusPresentation>& before,
                         const StatusPresentation& now) {
-  // Only a status that was received has a last scan.
-  const bool wasConnected = before && before->hasLastScan;
-  if (!now.hasLastScan) {
+  const bool wasConnected = before && before->isConnected;
+  if (!now.isConnected) {
     if (!before) {
       return QStringLiteral("Not connected to the agent");
     }

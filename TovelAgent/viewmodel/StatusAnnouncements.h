@@ -15,8 +15,8 @@
 
 namespace quillmark {
 
-/// Announces changes of the header to screen readers: each announcement says how the
-/// header differs from the one announced before. UI thread only.
+/// Announces to screen readers what has changed since the last announcement: the
+/// connection, the status or the number of threats. UI thread only.
 class StatusAnnouncements : public QObject {
   Q_OBJECT
   QML_ELEMENT

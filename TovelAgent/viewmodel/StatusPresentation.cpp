@@ -16,7 +16,7 @@ StatusPresentation present(const std::optional<AgentStatus>& status) {
   header.statusIsHealthy = status && status->status == "ok";
   header.threats = QString::number(threatCount);
   header.hasNoThreats = threatCount == 0;
-  header.hasLastScan = status.has_value();
+  header.isConnected = status.has_value();
   header.lastScan = status ? formatDate(displayText(status->last_scan)) : QString();
   return header;
 }

@@ -20,7 +20,7 @@ struct StatusPresentation {
   Q_PROPERTY(bool statusIsHealthy MEMBER statusIsHealthy CONSTANT)
   Q_PROPERTY(QString threats MEMBER threats CONSTANT)
   Q_PROPERTY(bool hasNoThreats MEMBER hasNoThreats CONSTANT)
-  Q_PROPERTY(bool hasLastScan MEMBER hasLastScan CONSTANT)
+  Q_PROPERTY(bool isConnected MEMBER isConnected CONSTANT)
   Q_PROPERTY(QString lastScan MEMBER lastScan CONSTANT)
 
  public:
@@ -28,7 +28,7 @@ struct StatusPresentation {
   bool statusIsHealthy = false;  ///< whether the text as received is exactly "ok"
   QString threats;               ///< a plain decimal integer
   bool hasNoThreats = false;
-  bool hasLastScan = false;  ///< true also for an empty text
+  bool isConnected = false;  ///< whether a status was received; only then is there a last scan
   QString lastScan;          ///< formatted, or the text as received
 };
 

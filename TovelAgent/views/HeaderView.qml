@@ -23,7 +23,7 @@ Item {
 
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        width: header.widthWithoutGap - (header.status.hasLastScan ? Math.max(lastScanTitle.width, lastScan.width) : 0)
+        width: header.widthWithoutGap - (header.status.isConnected ? Math.max(lastScanTitle.width, lastScan.width) : 0)
         spacing: 8
 
         Row {
@@ -87,7 +87,7 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         spacing: 8
-        visible: header.status.hasLastScan
+        visible: header.status.isConnected
 
         Label {
             id: lastScanTitle

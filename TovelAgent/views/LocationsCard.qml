@@ -5,7 +5,7 @@ import QtQuick
 import Quillmark.Controls
 
 /// Lists places where the agent may look for a configuration, on any system. The panel
-/// writes only the first one, and reads other files: `configSearchPaths()`.
+/// writes only the first one; which files it reads back says `configSearchPaths()`.
 SectionCard {
     icon: "folder"
     title: "Config File Locations"

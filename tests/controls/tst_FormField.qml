@@ -70,8 +70,10 @@ ViewTest {
         clipboard.selectAll();
         clipboard.copy();
         keyClick(Qt.Key_V, Qt.ControlModifier);
-        compare(edited.count, 1);
-        compare(edited.signalArguments[0][0], "a key");
+        compare(edited.signalArguments[edited.count - 1][0], "a key");
+        compare(input.displayText, "a key");
+        keyClick("s");
+        compare(edited.signalArguments[edited.count - 1][0], "a keys");
     }
 
     function test_maskedFieldShowsDots() {

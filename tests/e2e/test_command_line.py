@@ -47,6 +47,13 @@ def test_version(name, option):
 
 
 @every_program
+@pytest.mark.parametrize("option", ["--help", "--version"])
+def test_output_that_cannot_be_written(name, option):
+    with open("/dev/full", "w", encoding="utf-8") as full:
+        assert subprocess.run([PROGRAMS[name], option], stdout=full, check=False).returncode == 1
+
+
+@every_program
 @pytest.mark.parametrize("arguments, reason", [
     (["--wrong"], "unknown option '--wrong'"),
     (["-x"], "unknown option '-x'"),

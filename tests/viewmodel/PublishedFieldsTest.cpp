@@ -20,7 +20,7 @@ TEST_F(PublishedFieldsTest, AreEmptyBeforeTheFirstPollCompletes) {
   const auto model = makeModel();
   EXPECT_EQ(summaryOf(*model), emptySummary);
   EXPECT_FALSE(model->hasInventory());
-  EXPECT_FALSE(model->statusPresentation().hasLastScan);
+  EXPECT_FALSE(model->statusPresentation().isConnected);
 
   model->startPolling();
   ASSERT_TRUE(waitUntil([&] { return !backend.requests().empty(); }));

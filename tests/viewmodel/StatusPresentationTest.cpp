@@ -27,7 +27,7 @@ TEST(StatusPresentation, IsOfflineWithoutThreatsIfThereIsNoStatus) {
   EXPECT_FALSE(header.statusIsHealthy);
   EXPECT_EQ(header.threats, QStringLiteral("0"));
   EXPECT_TRUE(header.hasNoThreats);
-  EXPECT_FALSE(header.hasLastScan);
+  EXPECT_FALSE(header.isConnected);
   EXPECT_TRUE(header.lastScan.isEmpty());
 }
 
@@ -96,13 +96,13 @@ INSTANTIATE_TEST_SUITE_P(Counts, ThreatCountTest,
 
 TEST(StatusPresentation, HasALastScanAsSoonAsThereIsAStatus) {
   const auto header = presentText("ok");
-  EXPECT_TRUE(header.hasLastScan);
+  EXPECT_TRUE(header.isConnected);
   EXPECT_EQ(header.lastScan, QStringLiteral("yesterday"));
 }
 
 TEST(StatusPresentation, HasAnEmptyLastScanIfTheAgentSentNone) {
   const auto header = present(AgentStatus{true, 0, "none", "ok", ""});
-  EXPECT_TRUE(header.hasLastScan);
+  EXPECT_TRUE(header.isConnected);
   EXPECT_TRUE(header.lastScan.isEmpty());
 }
 
