@@ -17,8 +17,8 @@ using boost::system::error_code;
 
 constexpr int maxInterimAnswers = 16;
 
-// The shortest end of a chunked body. Never give the parser fewer bytes: after the
-// last chunk's size it asserts that the rest has arrived.
+// Beast 1.81 asserts that the end of a chunked body has arrived with its first line.
+constexpr std::size_t lastSizeLine = std::string_view("0\r\n").size();
 constexpr std::size_t shortestChunkedEnd = std::string_view("0\r\n\r\n").size();
 
 bool exceedsLimit(const error_code& error) {
@@ -104,8 +104,10 @@ void AnswerReader::endAnswer() {
 }
 
 bool AnswerReader::hasEnoughToParse() const {
+  const auto size = buffer_.size();
   const bool inChunks = parser_->is_header_done() && parser_->chunked();
-  return buffer_.size() >= (inChunks ? shortestChunkedEnd : 1);
+  const bool mayBeIncompleteEnd = size >= lastSizeLine && size < shortestChunkedEnd;
+  return size > 0 && !(inChunks && mayBeIncompleteEnd);
 }
 
 }  // namespace quillmark
