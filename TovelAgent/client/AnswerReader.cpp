@@ -55,8 +55,12 @@ void AnswerReader::parse(std::size_t count) {
       failure_ = HttpFailure::malformed;
     } else if (parser_->is_done()) {
       endAnswer();
-    } else if (inHeader && parser_->content_length()) {
-      parser_->get().body().reserve(*parser_->content_length() + decodePadding);
+    } else if (inHeader) {
+      // For the trailers; newer versions of Beast would count them as part of the header.
+      parser_->header_limit(limits_.headerBytes);
+      if (const auto length = parser_->content_length()) {
+        parser_->get().body().reserve(*length + decodePadding);
+      }
     }
   }
 }
