@@ -35,6 +35,9 @@ FocusScope {
         Accessible.role: Accessible.Section
         Accessible.name: page.pageName
         Accessible.description: page.isEmpty ? page.placeholderText : ""
+        // Not while the list inside has the focus: a screen reader would say both.
+        Accessible.focusable: page.isEmpty
+        Accessible.focused: page.isEmpty && activeFocus
     }
 
     FocusRing {
