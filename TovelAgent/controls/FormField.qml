@@ -78,8 +78,12 @@ Column {
                 realText: field.value
                 onTextEdited: {
                     // Pasted text may contain line breaks, which would end the value in the file.
-                    for (let at; (at = realText.search(/[\r\n]/)) >= 0; )
-                        remove(at, at + 1);
+                    // Removed in one step: each change lays out the whole text again.
+                    const line = realText.replace(/[\r\n]/g, "");
+                    if (line !== realText) {
+                        remove(0, length);
+                        insert(0, line);
+                    }
                     field.edited(realText);
                 }
 

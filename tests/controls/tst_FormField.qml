@@ -76,6 +76,17 @@ ViewTest {
         compare(edited.signalArguments[edited.count - 1][0], "a keys");
     }
 
+    function test_pastedLinesAreNotRemovedOneByOne() {
+        const input = inputOf(field());
+        input.forceActiveFocus();
+        clipboard.text = "x\n".repeat(5000);
+        clipboard.selectAll();
+        clipboard.copy();
+        keyClick(Qt.Key_V, Qt.ControlModifier);
+        compare(input.displayText, "x".repeat(5000));
+        verify(edited.count <= 3, edited.count);
+    }
+
     function test_maskedFieldShowsDots() {
         const view = field({ value: "secret", echoMode: TextInput.Password });
         compare(inputOf(view).displayText, "\u25CF".repeat(6));
