@@ -16,11 +16,11 @@ namespace quillmark::test {
 namespace {
 
 // A low limit, so that short texts can exceed it.
-constexpr HttpLimits limits{.headerBytes = 64};
+constexpr HttpLimits fewBytes{.headerBytes = 64};
 
 /// The body of an answer that arrives in pieces of this size.
 std::optional<std::string> bodyInPieces(std::string_view answer, std::size_t pieceSize) {
-  AnswerReader reader(limits);
+  AnswerReader reader(fewBytes);
   while (!reader.isOver() && !answer.empty()) {
     const auto space = reader.prepare();
     const auto piece = answer.substr(0, std::min(pieceSize, space.size()));
@@ -46,7 +46,7 @@ testing::AssertionResult isSameInPieces(const std::string& answer,
 }
 
 const std::string ok = "HTTP/1.1 200 OK\r\n";
-const std::string chunkedHeader = ok + "Transfer-Encoding: chunked\r\n\r\n";
+const std::string chunked = ok + "Transfer-Encoding: chunked\r\n\r\n";
 
 TEST(AnswerReaderInPieces, ReadsTheSameBody) {
   EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 4\r\n\r\nbody", "body"));
@@ -56,16 +56,16 @@ TEST(AnswerReaderInPieces, ReadsTheSameBody) {
 }
 
 TEST(AnswerReaderInPieces, ReadsTheSameChunks) {
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
+  EXPECT_TRUE(isSameInPieces(chunked + "4;x=y\r\nbody\r\n1\r\n!\r\n0\r\n\r\n", "body!"));
+  EXPECT_TRUE(isSameInPieces(chunked + "2\r\n{}\r\n000;x\r\nX: y\r\n\r\n", "{}"));
   const auto longBody = std::string(100, 'x');
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "64\r\n" + longBody + "\r\n0\r\n\r\n", longBody));
+  EXPECT_TRUE(isSameInPieces(chunked + "64\r\n" + longBody + "\r\n0\r\n\r\n", longBody));
 }
 
 TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {
   const std::string fifty(50, 'y');
   const auto answer = [](const std::string& extension, const std::string& trailer) {
-    return chunkedHeader + "1;" + extension + "\r\nx\r\n0\r\nX: " + trailer + "\r\n\r\n";
+    return chunked + "1;" + extension + "\r\nx\r\n0\r\nX: " + trailer + "\r\n\r\n";
   };
   EXPECT_TRUE(isSameInPieces(answer(fifty, fifty), "x"));
   EXPECT_TRUE(isSameInPieces(answer(fifty + fifty, ""), std::nullopt));
@@ -74,15 +74,15 @@ TEST(AnswerReaderInPieces, RefusesTheSameLongLines) {
 
 // The body then begins with the size of the last chunk.
 TEST(AnswerReaderInPieces, ReadsTheSameEmptyBody) {
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n\r\n", ""));
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\nX: y\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n\r\n", ""));
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\nX: y\r\n\r\n", ""));
 }
 
 TEST(AnswerReaderInPieces, RefusesTheSameMalformedAnswers) {
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));
-  EXPECT_TRUE(isSameInPieces(chunkedHeader + "4\r\nbody\r\n0\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "0\r\n{\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "x\r\nbody\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "1\r\nxx\r\n0\r\n\r\n", std::nullopt));
+  EXPECT_TRUE(isSameInPieces(chunked + "4\r\nbody\r\n0\r\n", std::nullopt));
   EXPECT_TRUE(isSameInPieces(ok + "Content-Length: 5\r\n\r\nbody", std::nullopt));
   EXPECT_TRUE(isSameInPieces("HTTP/1.1 ", std::nullopt));
 }

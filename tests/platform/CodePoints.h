@@ -13,6 +13,9 @@ constexpr char32_t lastCodePoint = 0x10FFFF;
 /// A character of one, two, three and four bytes.
 constexpr std::array<char32_t, 4> oneOfEachLength{0x41, 0xE9, 0x20AC, 0x1F600};
 
+/// For loops over all characters that could be white space, and some of each range beyond.
+constexpr char32_t nextToTry(char32_t c) { return c + (c < 0x10000 ? 1 : 63); }
+
 constexpr bool isSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
 
 /// How many bytes UTF-8 takes for `c`.

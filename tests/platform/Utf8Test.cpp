@@ -16,7 +16,6 @@ TEST(Utf8, AcceptsEveryCharacter) {
   std::string all;
   for (char32_t c = 0; c <= lastCodePoint; ++c) {
     if (!isSurrogate(c)) {
-      ASSERT_TRUE(isUtf8(utf8(c))) << std::hex << std::uint32_t{c};
       all += utf8(c);
     }
   }
@@ -41,7 +40,7 @@ TEST(Utf8, RefusesLongerFormsThanNeeded) {
 }
 
 TEST(Utf8, RefusesWhatIsBeyondTheLastCodePoint) {
-  for (char32_t c = lastCodePoint + 1; c < 0x200000; ++c) {
+  for (char32_t c = lastCodePoint + 1; c < 0x200000; c = nextToTry(c)) {
     ASSERT_FALSE(isUtf8(utf8(c))) << std::hex << std::uint32_t{c};
   }
 }

@@ -86,14 +86,16 @@ ViewTest {
     }
 
     function test_everyWidth(data) {
+        // The longest text takes much longer than all others together.
+        const step = data.tag === "longest" ? 133.3 : 33.3;
         for (const row of rows(data.text)) {
-            for (row.width = 960; row.width > 400; row.width -= 33.3) {
+            for (row.width = 960; row.width > 400; row.width -= step) {
                 settle(row);
                 verifyPaintedCompletely(labelsIn(row), row);
             }
         }
         const view = make(header, { width: 900, status: Sample.status(data.text, 3, data.text) });
-        for (view.width = 1500; view.width > 900; view.width -= 33.3) {
+        for (view.width = 1500; view.width > 900; view.width -= step) {
             settle(view);
             verify(labelsIn(view).every(label => boxIn(label, view).right <= view.width));
         }
