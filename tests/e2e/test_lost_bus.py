@@ -44,7 +44,13 @@ def start(display, bus):
 
 
 def is_drawn(panel):
-    return panel.windows() and colours.BLUE in Picture().colours(panel.window.box)
+    """Whether the line below the selected tab is."""
+    def has_line(box):
+        picture = Picture()
+        rows = (box._replace(y=y, height=1) for y in range(box.y, box.bottom))
+        return any(picture.find(colours.BLUE, row, length=50) for row in rows)
+
+    return any(has_line(window.box) for window in panel.windows())
 
 
 def test_undisturbed(start, bus):

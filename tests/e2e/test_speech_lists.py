@@ -9,7 +9,7 @@ from harness.lists import listed
 from harness.waiting import until
 
 LIST = "Network connections"
-COUNT = 100
+COUNT = 40
 
 
 def connections(state="LISTEN", count=COUNT):
@@ -69,7 +69,7 @@ def test_polls_leave_the_position_and_say_nothing(panel, screen_reader, backend)
     screen_reader.press("Down", "Down")
     screen_reader.hear(*words(2))
     screen_reader.forget()
-    for count in (COUNT, COUNT + 20, COUNT - 20):
+    for count in (COUNT, COUNT + 10, COUNT - 10):
         backend.reply(network=connections("CLOSED", count))
         until(lambda: panel.focus().name == row(2, "CLOSED")
               and panel.tree.find("row", row(0, "CLOSED")), "the new rows")
@@ -78,7 +78,7 @@ def test_polls_leave_the_position_and_say_nothing(panel, screen_reader, backend)
         until(lambda: panel.focus().name == row(2), "the old state")
     screen_reader.press("Down")
     # A newer version also says that the row at the reading position has changed.
-    screen_reader.hear_only(*words(3, count=COUNT - 20), newer_also=":2,")
+    screen_reader.hear_only(*words(3, count=COUNT - 10), newer_also=":2,")
 
 
 def test_copy_by_key(panel, screen_reader):

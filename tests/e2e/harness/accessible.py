@@ -104,27 +104,38 @@ class Tree:
         return seen
 
     def _look(self):
-        return _item(self._ask(self._bus.tree))
+        (root,) = self._items(self._bus.tree)
+        return root
 
     def focus(self):
         """The focused items, innermost last, without their children."""
-        return [_item(node) for node in self._ask(self._bus.focus)]
+        return self._items(self._bus.focus)
+
+    def has_active_window(self):
+        return self._ask(self._bus.has_active_window)
+
+    def find(self, role, *names):
+        """The first item with the role and one of the names."""
+        numbers = [number for number, word in ROLES.items() if word == role]
+        found = self._items(lambda root: self._bus.find(root, numbers, names))
+        return found[0] if found else None
+
+    def _items(self, question):
+        return [_item(node) for node in self._ask(question)]
 
     def _ask(self, question):
+        """What the question returns about the root, once that is not None."""
         def attempt():
             assert not self._ended(), "the panel has ended"
             try:
                 self._root = self._root or self._bus.application(self._pid)
+                answer = self._root and question(self._root)
             except GLib.Error:
                 return None  # Some program ended meanwhile; try again.
-            answer = self._root and question(self._root)
             return None if answer is None else (answer,)
 
         (answer,) = until(attempt, "the panel in the accessibility tree")
         return answer
-
-    def find(self, role, name):
-        return self._look().find(role, name)
 
     def wait_for(self, role, name):
         return until(lambda: self.find(role, name), f"{role} {name!r}")

@@ -21,6 +21,7 @@ PROPERTIES = "org.freedesktop.DBus.Properties"
 ACTION = "org.a11y.atspi.Action"
 TEXT = "org.a11y.atspi.Text"
 VALUE = "org.a11y.atspi.Value"
+ACTIVE = 1  # a state's number
 WHOLE = GLib.Variant("(ii)", (0, -1))
 
 
@@ -58,18 +59,31 @@ class Bus:
         ])
         return next((app for app, (owner,) in zip(known, owners) if owner == pid), None)
 
+    def has_active_window(self, application):
+        (windows,) = self._ask([(application, (ACCESSIBLE, "GetChildren", None))])[0]
+        answers = self._ask([(window, (ACCESSIBLE, "GetState", None)) for window in windows])
+        return any(low >> ACTIVE & 1 for ((low, _),) in answers)
+
+    # What these read is a list, or None if the tree changed meanwhile.
+
     def tree(self, node):
-        """The node and everything visible below it; None if it changed meanwhile."""
+        """The node with everything visible below it."""
         return self._read("tree", node)
 
+    def find(self, node, roles, names):
+        """The first item below the node with one of the roles, which are numbers, and one
+        of the names, with everything below it."""
+        return self._read("find", node, roles=roles, names=names)
+
     def focus(self, node):
-        """The focused items below the node, innermost last; None if the tree changed
-        meanwhile."""
+        """The focused items below the node, innermost last."""
         return self._read("focus", node)
 
-    def _read(self, what, node):
+    def _read(self, what, node, **wanted):
         """Also handles the events that have arrived until then."""
-        self._reader.stdin.write(" ".join((what, *node)) + "\n")
+        bus, path = node
+        line = json.dumps({"read": what, "bus": bus, "path": path} | wanted)
+        self._reader.stdin.write(line + "\n")
         line = self._reader.stdout.readline()
         assert line, "the reader of accessible trees has ended"
         while GLib.MainContext.default().pending():

@@ -29,6 +29,13 @@ def click(box, times=1, button=1):
     time.sleep(REACTION)
 
 
+def click_in_turn(boxes, times):
+    """Clicks each box in turn, `times` times, as fast as a user cannot."""
+    clicks = [word for box in boxes
+              for word in ("mousemove", *map(str, box.centre), "click", "1", "sleep", "0.03")]
+    tool("xdotool", *clicks * times)
+
+
 def hold(box, seconds, by=(0, 0)):
     """Presses in the middle of the box, waits, moves by `by` and releases."""
     x, y = box.centre

@@ -20,11 +20,9 @@ from pathlib import Path
 from . import hands
 from .waiting import until
 
-# Qt 6.4 reports each key that a busy screen reader did not answer in time, and its late
-# answer; Qt 6.8 an event that it does not know, and requests for items that a poll has
+# Of Qt 6.8, for an event that it does not know, and for requests for items that a poll has
 # removed.
-PANEL_OUTPUT = (r"(QSpiApplication::(keyEventError|notifyKeyboardListenerCallback) .*\n"
-                r"|qt\.accessibility\.atspi: (Subscription string not handled"
+PANEL_OUTPUT = (r"(qt\.accessibility\.atspi: (Subscription string not handled"
                 r"|Could not find accessible on path): .*\n)*")
 
 # The text, then the voice; after the name of a pressed key there is a space between them,

@@ -34,8 +34,7 @@ NOT_RUNNING = "Agent is not running"
 
 def status(panel):
     """The tab's text about whether the agent runs."""
-    (found,) = {RUNNING, NOT_RUNNING} & set(panel.tree.read().texts())
-    return found
+    return panel.tree.find("text", RUNNING, NOT_RUNNING).name
 
 
 def clean_home():
@@ -106,8 +105,9 @@ def message(panel):
 
 
 def wait_for_message(panel, text):
-    until(lambda: message(panel) == text, f"{text!r}")
-    return panel.tree.find("text", text)
+    found = panel.tree.wait_for("text", text)
+    assert message(panel) == text
+    return found
 
 
 def ground(panel, button):

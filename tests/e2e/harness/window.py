@@ -45,6 +45,12 @@ def visible(pid):
     return [Window(int(line)) for line in found.split()]
 
 
+def active_process():
+    """The process of the active window; None if no window is active."""
+    found = tool("xdotool", "getactivewindow", "getwindowpid").strip()
+    return int(found) if found else None
+
+
 def on_the_display():
     """All of them, mapped or not, with the state of those that have the panel's name."""
     tree = tool("xwininfo", "-root", "-tree")
