@@ -8,8 +8,8 @@ include_guard(GLOBAL)
 # program per case costs a minute; they write their results to
 # test-results/<name>.xml, for the final count. ctest with a preset runs the cases.
 #
-# `test` runs ctest with 12 places (parallel slots) per core. A test that computes
-# takes 6, not 12, because at times it waits; one that drives a panel takes 2, one
+# `test` runs ctest with 16 places (parallel slots) per core. A test that computes
+# takes 6, not 16, because at times it waits; one that drives a panel takes 2, one
 # that mostly waits takes 1. All tests have the same time limit, which is set in
 # `test` and ends a test that hangs.
 

@@ -54,14 +54,12 @@ def settings_tab(panel):
 def chain(panel):
     """All items that the Tab key reaches, until the first one again."""
     walked = []
-    panel.press_until_focused(*BADGES[0])
+    focus = panel.press_until_focused(*BADGES[0])
     while len(walked) < 30:
-        focus = panel.focus()
         if (focus.role, focus.name) == BADGES[0] and walked:
             return walked
         walked.append((focus.role, focus.name))
-        hands.key("Tab")
-        until(lambda: panel.focus() != focus, "the focus to move")
+        focus = panel.press_to_move("Tab", focus)
     raise AssertionError(f"the focus does not return to the first item: {walked}")
 
 

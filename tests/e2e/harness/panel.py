@@ -124,9 +124,20 @@ class Panel:
         for _ in range(most):
             if self._has_focus(focus, role, name):
                 break
-            hands.key(key)
-            (focus,) = until(lambda: self._moved_from(focus), "the focus to move")
+            focus = self.press_to_move(key, focus)
         assert self._has_focus(focus, role, name), f"{key} does not reach {role} {name!r}"
+        return focus
+
+    def press_to_move(self, key, last):
+        """Presses a key that moves the focus away from the item `last`; returns the next."""
+        def moved():
+            focus = self.focus()
+            # By address: while the page scrolls to it, the same item gets other boxes.
+            is_same = focus.address == last.address if focus and last else focus == last
+            return not is_same and (focus,)
+
+        hands.key(key)
+        (focus,) = until(moved, "the focus to move")
         return focus
 
     def _has_focus(self, focus, role, name):
@@ -134,10 +145,6 @@ class Panel:
             # A list gives the focus to one of its rows.
             return self.tree.find(role, name) and focus
         return focus and (focus.role, focus.name) == (role, name) and focus
-
-    def _moved_from(self, last):
-        focus = self.focus()
-        return focus != last and (focus,)
 
     def focus(self):
         """The innermost focused item; None if that is the window itself."""
