@@ -4,7 +4,7 @@
 
 import pytest
 
-from harness import bodies, hands, large, settings
+from harness import bodies, hands, large, settings, xdotool
 from harness.contrast import inked
 from harness.large import drawn
 from harness.panel import TABS
@@ -126,7 +126,7 @@ def test_messages(launch_large):
 def test_glyph_under_the_pointer(launch_large, name):
     panel = launch_large()
     box = drawn(panel.tree.find("button", name).box)
-    hands.tool("xdotool", "mousemove", *map(str, box.centre))
+    xdotool.do("mousemove", *map(str, box.centre))
     hover = (0xE9, 0xEB, 0xEF)
     until(lambda: hover in large.picture().colours(box), "the glyph to be highlighted")
     assert inked(large.picture().pixels(box)) >= ICON

@@ -6,7 +6,7 @@ import contextlib
 
 import pytest
 
-from harness import bodies, colours, hands, large, settings
+from harness import bodies, colours, hands, large, settings, xdotool
 from harness.contrast import inked
 from harness.large import drawn
 from harness.panel import Panel
@@ -52,17 +52,17 @@ def test_disabled(form):
 @contextlib.contextmanager
 def held(box):
     """Keeps the mouse button pressed on the box, and releases it elsewhere."""
-    hands.tool("xdotool", "mousemove", *map(str, box.centre), "mousedown", "1")
+    xdotool.do("mousemove", *map(str, box.centre), "mousedown", "1")
     try:
         yield
     finally:
-        hands.tool("xdotool", "mousemove", "0", "0", "mouseup", "1")
+        xdotool.do("mousemove", "0", "0", "mouseup", "1")
 
 
 @pytest.mark.parametrize("which", [("tab", "Settings"), ("tab", "Alerts"), START, STOP, BROWSE])
 def test_hovered_and_pressed(form, which):
     box = drawn(form.tree.find(*which).box)
-    hands.tool("xdotool", "mousemove", *map(str, box.centre))
+    xdotool.do("mousemove", *map(str, box.centre))
     assert ratio(form, which) >= TEXT
     with held(box):
         assert ratio(form, which) >= TEXT

@@ -5,7 +5,7 @@
 import os
 import subprocess
 
-from . import pixels
+from . import pixels, xdotool
 from .waiting import until
 
 
@@ -29,6 +29,7 @@ class Display:
 
     def stop(self):
         pixels.close()
+        xdotool.close()
         for process in filter(None, (self._manager, self._server)):
             process.terminate()
             process.wait()

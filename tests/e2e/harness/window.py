@@ -6,6 +6,7 @@ import re
 import subprocess
 from typing import NamedTuple
 
+from . import xdotool
 from .waiting import until
 
 
@@ -47,7 +48,7 @@ def visible(pid):
 
 def active_process():
     """The process of the active window; None if no window is active."""
-    found = tool("xdotool", "getactivewindow", "getwindowpid").strip()
+    found = xdotool.do("getactivewindow", "getwindowpid").strip()
     return int(found) if found else None
 
 
@@ -106,7 +107,7 @@ class Window:
         until(self.mapped, "the window to be back")
 
     def active(self):
-        return tool("xdotool", "getactivewindow").strip() == str(self.identifier)
+        return xdotool.do("getactivewindow").strip() == str(self.identifier)
 
     def topmost(self):
         order = tool("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split(" ")
