@@ -131,14 +131,14 @@ class Panel:
     def press_to_move(self, key, last):
         """Presses a key that moves the focus away from the item `last`; returns the next."""
         def moved():
-            focus = self.focus()
-            # By address: while the page scrolls to it, the same item gets other boxes.
-            is_same = focus.address == last.address if focus and last else focus == last
-            return not is_same and (focus,)
+            # Twice, because a reading amid the change has no focus, or only that of a group.
+            # By address, because the page scrolls to the item, which gets other boxes.
+            first, second = self.focus(), self.focus()
+            return (first and second and first.address == second.address
+                    and not (last and last.address == second.address) and second)
 
         hands.key(key)
-        (focus,) = until(moved, "the focus to move")
-        return focus
+        return until(moved, "the focus to move")
 
     def _has_focus(self, focus, role, name):
         if role == "list" and focus and focus.role == "row":
