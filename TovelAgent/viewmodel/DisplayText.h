@@ -10,8 +10,8 @@
 namespace quillmark {
 
 /// Converts UTF-8 text of the agent for display and screen readers, within `ScriptLimits`.
-/// Text is cut after 16,000 code points, or after 3,000 changes between scripts and kinds of
-/// symbols, and then gets an ellipsis. UI thread.
+/// Characters that no font has become U+FFFD. Text that takes longer to lay out than 16,000
+/// Latin characters is cut there, and gets an ellipsis. UI thread.
 [[nodiscard]] QString displayText(std::string_view text);
 
 }  // namespace quillmark

@@ -3,28 +3,26 @@
 
 #pragma once
 
-#include <bitset>
+#include <set>
 #include <string>
 
-#include <QChar>
+#include "viewmodel/CharacterKind.h"
 
 namespace quillmark {
 
-/// As `QChar::script`, but `Script_Unknown` for scripts that only a newer Qt knows than the
-/// one that the program was built with. Any thread.
-[[nodiscard]] QChar::Script scriptOf(char32_t character);
-
-/// Limits how many scripts the agent's texts can make Qt open fonts for. Real texts stay
-/// below the limit. Any thread, but no object from two threads at the same time.
+/// Limits how many fonts the agent's texts can make Qt open. Real texts stay below the
+/// limits. Any thread, but no object from two threads at the same time.
 class ScriptLimits {
  public:
-  /// Puts U+FFFD in place of all characters except Latin, Greek, Cyrillic and symbols if the
-  /// text contains more than eight further scripts. Of the scripts that are not in widespread
-  /// use today, only the first four that this object meets are left in texts.
+  /// Puts U+FFFD in place of all characters that are not basic if the text contains more than
+  /// eight kinds of them. Of the rare kinds, only the first two that this object meets are
+  /// left in texts.
   void apply(std::u32string& text);
 
  private:
-  std::bitset<QChar::ScriptCount> rareScripts_;
+  [[nodiscard]] bool leaves(CharacterKind rareKind);
+
+  std::set<CharacterKind> rareKinds_;
 };
 
 }  // namespace quillmark

@@ -18,7 +18,7 @@ HOSTILE = [
     "<html><body style='background:url(http://127.0.0.1:7823/leak)'>x</body></html>",
     "one\ntwo\r\nthree\tfour",
     "\u05e9\u05dc\u05d5\u05dd \u202edcba\u202c \u0645\u0631\u062d\u0628\u0627",
-    "\U0001f600 \U0001d518 \U0002000b e\u0301\u0301\u0301\u0301",
+    "\U0001f600 \U0001d518 \U00010428 e\u0301\u0301\u0301\u0301",
     "%1 %L2 %n {0} $HOME `id` \\n \"quoted\" &File",
     "http://127.0.0.1:7823/leak qrc:/x file:///etc/passwd",
     "x\u2028y\u2029z \u00ad\u200b\ufeff",

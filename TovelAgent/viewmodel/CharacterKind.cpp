@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/CharacterKind.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QChar>
+
+#include <unicode/uchar.h>
+
+namespace quillmark {
+namespace {
+
+constexpr std::array basicScripts = {QChar::Script_Unknown, QChar::Script_Common,
+                                     QChar::Script_Latin, QChar::Script_Greek,
+                                     QChar::Script_Cyrillic};
+
+/// With the basic ones, and those of Japanese, these are the scripts that Unicode lists as in
+/// widespread customary use today (Unicode Standard Annex 31, "Recommended Scripts").
+constexpr std::array everydayScripts = {
+    QChar::Script_Arabic,    QChar::Script_Armenian,   QChar::Script_Bengali,
+    QChar::Script_Bopomofo,  QChar::Script_Devanagari, QChar::Script_Ethiopic,
+    QChar::Script_Georgian,  QChar::Script_Gujarati,   QChar::Script_Gurmukhi,
+    QChar::Script_Han,       QChar::Script_Hangul,     QChar::Script_Hebrew,
+    QChar::Script_Kannada,   QChar::Script_Khmer,      QChar::Script_Lao,
+    QChar::Script_Malayalam, QChar::Script_Myanmar,    QChar::Script_Oriya,
+    QChar::Script_Sinhala,   QChar::Script_Tamil,      QChar::Script_Telugu,
+    QChar::Script_Thaana,    QChar::Script_Thai,       QChar::Script_Tibetan};
+
+// The numbers of the kinds: scripts as in Qt, then emoji, then blocks of symbols.
+constexpr CharacterKind emoji = QChar::ScriptCount;
+constexpr CharacterKind firstSymbols = emoji + 1;
+constexpr char32_t blockSize = 128;
+
+constexpr char32_t lastOfLatin1 = 0xFF;
+constexpr char32_t firstBeyondPlane0 = 0x10000;
+
+bool isEmoji(UChar32 character) {
+  return u_hasBinaryProperty(character, UCHAR_EMOJI_PRESENTATION) != 0 ||
+         (character >= UChar32{firstBeyondPlane0} &&
+          u_hasBinaryProperty(character, UCHAR_EXTENDED_PICTOGRAPHIC) != 0);
+}
+
+bool isSymbol(UChar32 character) {
+  constexpr auto symbols = U_GC_SM_MASK | U_GC_SK_MASK | U_GC_SO_MASK | U_GC_NO_MASK;
+  return character > UChar32{lastOfLatin1} && (U_GET_GC_MASK(character) & symbols) != 0;
+}
+
+bool contains(const auto& scripts, CharacterKind kind) {
+  return std::find(scripts.begin(), scripts.end(), kind) != scripts.end();
+}
+
+}  // namespace
+
+CharacterKind kindOf(char32_t character) {
+  const auto code = static_cast<UChar32>(character);
+  if (isEmoji(code)) {
+    return emoji;
+  }
+  if (isSymbol(code)) {
+    return firstSymbols + character / blockSize;
+  }
+  switch (const auto script = QChar::script(character)) {
+    case QChar::Script_Inherited:
+      return QChar::Script_Common;
+    // Japanese changes between them with almost every word.
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+      return QChar::Script_Han;
+    default:
+      // A newer Qt than the one of the build may know more scripts.
+      return std::min<CharacterKind>(script, QChar::ScriptCount - 1);
+  }
+}
+
+bool isBasic(CharacterKind kind) { return contains(basicScripts, kind); }
+
+bool isRare(CharacterKind kind) {
+  return kind < emoji ? !isBasic(kind) && !contains(everydayScripts, kind)
+                      : kind >= firstSymbols + firstBeyondPlane0 / blockSize;
+}
+
+std::size_t layoutWeight(CharacterKind kind) {
+  // Qt decodes the picture of an emoji in each layout, and again to paint it.
+  constexpr std::size_t emojiWeight = 800;
+  constexpr std::size_t rareWeight = 30;
+  constexpr std::size_t symbolWeight = 5;
+  if (kind == emoji) {
+    return emojiWeight;
+  }
+  if (isRare(kind)) {
+    return rareWeight;
+  }
+  return kind >= firstSymbols ? symbolWeight : 1;
+}
+
+}  // namespace quillmark

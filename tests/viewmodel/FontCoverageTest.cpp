@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/FontCoverage.h"
+
+#include <cstdint>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace quillmark::test {
+namespace {
+
+TEST(FontCoverage, KnowsTheCharactersOfEveryFont) {
+  for (const auto character : std::u32string(U"a→бשע😀𒀀")) {
+    EXPECT_FALSE(isInNoFont(character)) << std::uint32_t{character};
+  }
+}
+
+TEST(FontCoverage, KnowsCharactersThatNoFontHas) {
+  constexpr char32_t noncharacter = 0x10FFFE;
+  constexpr char32_t lastForPrivateUse = 0x10FFFD;
+  EXPECT_TRUE(isInNoFont(noncharacter));
+  EXPECT_TRUE(isInNoFont(lastForPrivateUse));
+}
+
+// A line break, a joiner or a selector of variants must not become visible.
+TEST(FontCoverage, NeedsNoFontForCharactersWithoutAShape) {
+  for (const auto character :
+       std::u32string(U"\n\t\u0001\u0085\u00AD\u200B\u200D\u202E\u2028\u3000\uFE0F\U000E0067")) {
+    EXPECT_FALSE(isInNoFont(character)) << std::uint32_t{character};
+  }
+}
+
+}  // namespace
+}  // namespace quillmark::test
