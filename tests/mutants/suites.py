@@ -31,7 +31,8 @@ def script(folder, name, *before, targets=("quillmark_installed",)):
 
 def panel(*names):
     return [script("e2e", name, *(["tests/support/own-etc"] if name == "time_zone" else []),
-                   "dbus-run-session", "--") for name in names]
+                   "dbus-run-session", "--", targets=("quillmark_installed", "accessible_tree"))
+            for name in names]
 
 
 def doctor(*names):
