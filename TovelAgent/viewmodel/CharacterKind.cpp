@@ -34,7 +34,6 @@ constexpr CharacterKind emoji = QChar::ScriptCount;
 constexpr CharacterKind firstSymbols = emoji + 1;
 constexpr char32_t blockSize = 128;
 
-constexpr char32_t lastOfLatin1 = 0xFF;
 constexpr char32_t firstBeyondPlane0 = 0x10000;
 
 bool isEmoji(UChar32 character) {
@@ -43,13 +42,21 @@ bool isEmoji(UChar32 character) {
           u_hasBinaryProperty(character, UCHAR_EXTENDED_PICTOGRAPHIC) != 0);
 }
 
-bool isSymbol(UChar32 character) {
-  constexpr auto symbols = U_GC_SM_MASK | U_GC_SK_MASK | U_GC_SO_MASK | U_GC_NO_MASK;
-  return character > UChar32{lastOfLatin1} && (U_GET_GC_MASK(character) & symbols) != 0;
+bool isEastAsianPunctuation(UChar32 character) {
+  const auto block = ublock_getCode(character);
+  return block == UBLOCK_CJK_SYMBOLS_AND_PUNCTUATION || block == UBLOCK_KATAKANA ||
+         block == UBLOCK_HALFWIDTH_AND_FULLWIDTH_FORMS;
 }
 
 bool contains(const auto& scripts, CharacterKind kind) {
   return std::find(scripts.begin(), scripts.end(), kind) != scripts.end();
+}
+
+/// Also the letters that these scripts have in later blocks, where few fonts have them.
+bool isSymbol(UChar32 character) {
+  constexpr UChar32 lastOfGeneralPunctuation = 0x206F;
+  return character > lastOfGeneralPunctuation &&
+         contains(basicScripts, QChar::script(static_cast<char32_t>(character)));
 }
 
 }  // namespace
@@ -58,6 +65,9 @@ CharacterKind kindOf(char32_t character) {
   const auto code = static_cast<UChar32>(character);
   if (isEmoji(code)) {
     return emoji;
+  }
+  if (isEastAsianPunctuation(code)) {
+    return QChar::Script_Han;
   }
   if (isSymbol(code)) {
     return firstSymbols + character / blockSize;

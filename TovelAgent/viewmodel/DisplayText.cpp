@@ -23,14 +23,17 @@ bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 /// Shortens the text so that its layout takes no longer than that of `maxCharacters` Latin
 /// characters. Returns whether something was cut off.
 bool shortenToLimit(std::u32string& text) {
-  // Qt lays out each piece in one script by itself.
-  constexpr std::size_t changeWeight = 5;
+  // Qt lays out each piece in one script or font by itself.
+  constexpr std::size_t changeWeight = 40;
   std::size_t weight = 0;
   auto last = CharacterKind{};
   const auto end = std::find_if(text.begin(), text.end(), [&](char32_t character) {
     const auto kind = kindOf(character);
-    weight += layoutWeight(kind) + (isBasic(kind) || kind == last ? 0 : changeWeight);
-    last = kind;
+    weight += layoutWeight(kind);
+    if (!isBasic(kind)) {
+      weight += kind == last ? 0 : changeWeight;
+      last = kind;
+    }
     return weight > maxCharacters;
   });
   const auto isCut = end != text.end();

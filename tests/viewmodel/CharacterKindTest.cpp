@@ -12,7 +12,7 @@ namespace quillmark::test {
 namespace {
 
 TEST(CharacterKind, IsBasicInLatinGreekCyrillicAndPunctuation) {
-  for (const auto character : std::u32string(U"aé1+©β б\n\u0301\u200D–、「")) {
+  for (const auto character : std::u32string(U"aé1+©β б\n\u0301\u200D–")) {
     EXPECT_TRUE(isBasic(kindOf(character))) << std::uint32_t{character};
     EXPECT_EQ(layoutWeight(kindOf(character)), 1) << std::uint32_t{character};
   }
@@ -21,8 +21,9 @@ TEST(CharacterKind, IsBasicInLatinGreekCyrillicAndPunctuation) {
 TEST(CharacterKind, IsTheScriptOfOtherLetters) {
   EXPECT_EQ(kindOf(U'ب'), kindOf(U'ت'));
   EXPECT_NE(kindOf(U'ب'), kindOf(U'ב'));
-  EXPECT_EQ(kindOf(U'日'), kindOf(U'の'));
-  EXPECT_EQ(kindOf(U'日'), kindOf(U'テ'));
+  for (const auto character : std::u32string(U"のテ、「・ー（")) {
+    EXPECT_EQ(kindOf(U'日'), kindOf(character)) << std::uint32_t{character};
+  }
   EXPECT_FALSE(isBasic(kindOf(U'日')));
   EXPECT_FALSE(isRare(kindOf(U'日')));
   EXPECT_TRUE(isRare(kindOf(U'𒀀')));
@@ -42,6 +43,10 @@ TEST(CharacterKind, IsABlockForSymbols) {
   EXPECT_FALSE(isBasic(kindOf(U'☃')));
   EXPECT_FALSE(isRare(kindOf(U'☃')));
   EXPECT_TRUE(isRare(kindOf(U'𝄞')));
+  EXPECT_TRUE(isRare(kindOf(U'𝔞')));
+  EXPECT_EQ(kindOf(U'⸙'), kindOf(U'⸎'));
+  EXPECT_FALSE(isBasic(kindOf(U'⸙')));
+  EXPECT_FALSE(isBasic(kindOf(U'ꭕ')));
 }
 
 TEST(CharacterKind, HasMoreWeightTheLongerItsLayoutTakes) {
