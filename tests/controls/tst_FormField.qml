@@ -50,7 +50,9 @@ ViewTest {
 
     function test_placeholderIsShownInAnEmptyField() {
         const view = field();
-        compareLabel(labelOf(view, "Type it"), 12, Font.Normal, Theme.gray);
+        const placeholder = labelOf(view, "Type it");
+        compareLabel(placeholder, 12, Font.Normal, Theme.gray);
+        compare(boxIn(placeholder, itemOfType(view, "Box")).x, 8);
         view.value = "x";
         compare(textsIn(view).includes("Type it"), false);
     }

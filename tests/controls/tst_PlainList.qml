@@ -17,6 +17,7 @@ PlainListTest {
         compare(row.height, rowHeight + 2 * inset);
         const line = itemsOfType(row, "Box")[0];
         // Except for a fraction of a pixel, which decides how it is rounded.
+        compare(line.height, 1);
         fuzzyCompare(boxIn(line, row).bottom, row.height, 0.25);
         compareColor(line.color, Theme.separator);
         const content = itemsOfType(row, "Rectangle").filter(item => item.height === rowHeight)[0];
