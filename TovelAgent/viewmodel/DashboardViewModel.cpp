@@ -4,6 +4,7 @@
 #include "viewmodel/DashboardViewModel.h"
 
 #include <chrono>
+#include <initializer_list>
 #include <new>
 #include <utility>
 
@@ -14,6 +15,7 @@
 #include <boost/asio/post.hpp>
 
 #include "client/TaskExecutor.h"
+#include "viewmodel/ScriptLimits.h"
 
 namespace quillmark {
 namespace {
@@ -44,6 +46,8 @@ DashboardViewModel::DashboardViewModel()
       appRows_("app", maxAppRows),
       cardRows_("card") {
   showLists();
+  connect(&ScriptLimits::ofProcess(), &ScriptLimits::eased, this,
+          &DashboardViewModel::presentAgain);
 }
 
 void DashboardViewModel::startPolling() {
@@ -112,6 +116,14 @@ void DashboardViewModel::showLists() {
                      : emptyList<InstalledApp>());
   cardRows_.show(std::make_shared<const std::vector<StatsCard>>(
       statsCards(inventory(), networkConnections(), alerts())));
+}
+
+void DashboardViewModel::presentAgain() {
+  Q_EMIT statusChanged();
+  for (ListModel* const list :
+       std::initializer_list<ListModel*>{&alertRows_, &connectionRows_, &appRows_}) {
+    list->presentAgain();
+  }
 }
 
 }  // namespace quillmark

@@ -96,6 +96,7 @@ class DashboardViewModel final : public QObject,
   [[nodiscard]] static boost::asio::awaitable<void> poll(std::shared_ptr<DashboardViewModel> self);
   void assign(PollResult result);
   void showLists();
+  void presentAgain();
 
   template <class Value>
   void publish(Value& field, Value& value, void (DashboardViewModel::*changed)());

@@ -44,8 +44,6 @@ bool shortenToLimit(std::u32string& text) {
 }  // namespace
 
 QString displayText(std::string_view text) {
-  // Shared by all texts, because Qt keeps the fonts for the whole process.
-  static ScriptLimits limits;
   // Cut before the conversion: a text may be as long as a whole answer.
   std::size_t characters = 0;
   const auto* const end = std::find_if(text.begin(), text.end(), [&](char byte) {
@@ -54,7 +52,7 @@ QString displayText(std::string_view text) {
   auto shown = QString::fromUtf8(text.data(), end - text.begin()).toStdU32String();
   // For each of these, Qt would look at all fonts, which takes 10 ms for each script and size.
   std::replace_if(shown.begin(), shown.end(), isInNoFont, U'\uFFFD');
-  limits.apply(shown);
+  ScriptLimits::ofProcess().apply(shown);
   if (shortenToLimit(shown) || end != text.end()) {
     shown += U'…';
   }

@@ -9,4 +9,10 @@ int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid
 
 QHash<int, QByteArray> ListModel::roleNames() const { return {{presentationRole, roleName_}}; }
 
+void ListModel::presentAgain() {
+  if (count_ > 0) {
+    Q_EMIT dataChanged(index(0), index(count_ - 1));
+  }
+}
+
 }  // namespace quillmark

@@ -24,6 +24,9 @@ class ListModel : public QAbstractListModel {
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
+  /// Makes views read all rows again.
+  void presentAgain();
+
  Q_SIGNALS:
   void countChanged();
 

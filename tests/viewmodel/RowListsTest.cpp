@@ -116,6 +116,22 @@ TEST_F(RowListsTest, TakeAllValuesOfAPollBeforeAnySignal) {
   EXPECT_EQ(announced, (QStringList{none, none}));
 }
 
+// Fonts of many scripts are not opened all at once.
+TEST_F(RowListsTest, GetTheRestOfManyScriptsSoonAfterThePoll) {
+  const std::string text = "ա ב ت ☃ ა ລ";
+  const Backend backend(goodAnswersBut("/api/alerts", okAnswer(R"({"alerts":[{"alert_type":")" +
+                                                               text + R"(","severity":"low"}]})")));
+  const auto model = makeModel();
+  poll(*model);
+  auto* const alerts = model->alertRows();
+  const auto shown = [&] { return row<AlertPresentation>(*alerts, 0).alertType.toStdString(); };
+  EXPECT_EQ(shown(), "ա ב ت \uFFFD \uFFFD \uFFFD");
+  // Like a view, which reads a row again only when the model says so.
+  std::string lastShown;
+  QObject::connect(alerts, &ListModel::dataChanged, alerts, [&] { lastShown = shown(); });
+  EXPECT_TRUE(waitUntil([&] { return lastShown == text; })) << lastShown;
+}
+
 TEST_F(RowListsTest, DistinguishAnEmptyInventoryFromNone) {
   const Backend backend(goodAnswersBut(
       "/api/inventory",

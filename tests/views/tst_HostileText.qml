@@ -31,6 +31,13 @@ PolledViewTest {
         return Object.keys(texts).map(tag => ({ tag: tag, text: texts[tag] }));
     }
 
+    /// Of several new scripts, some are shown only a moment later.
+    function initTestCase() {
+        for (const text of Object.values(texts)) {
+            tryVerify(() => Sample.status(text, 0, text).lastScan === text, patience);
+        }
+    }
+
     /// The labels of `view` show exactly these texts, as plain text.
     function compareShown(view, expected) {
         compare(textsIn(view), expected);
