@@ -5,8 +5,8 @@
 
 namespace quillmark {
 
-/// Whether the character has a shape, but not in any font of the machine. Fonts that are
-/// installed while the program runs do not count. Any thread.
+/// Whether the character has a shape, but not in any font of the machine that Qt can use for
+/// it. Fonts that are installed while the program runs do not count. UI thread.
 [[nodiscard]] bool isInNoFont(char32_t character);
 
 }  // namespace quillmark
