@@ -20,6 +20,8 @@ constexpr std::size_t maxCharacters = 16'000;
 
 bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
+bool isBeyondAscii(char byte) { return (static_cast<unsigned char>(byte) & 0x80U) != 0; }
+
 /// Shortens the text so that its layout takes no longer than that of `maxCharacters` Latin
 /// characters. Returns whether something was cut off.
 bool shortenToLimit(std::u32string& text) {
@@ -41,6 +43,16 @@ bool shortenToLimit(std::u32string& text) {
   return isCut;
 }
 
+/// Converts text within the limits of scripts and layout. Sets `isCut` if something was cut off.
+QString withinLimits(const QString& text, bool& isCut) {
+  auto shown = text.toStdU32String();
+  // For each of these, Qt would look at all fonts, which takes 10 ms for each script and size.
+  std::replace_if(shown.begin(), shown.end(), isInNoFont, U'\uFFFD');
+  ScriptLimits::ofProcess().apply(shown);
+  isCut = shortenToLimit(shown) || isCut;
+  return QString::fromStdU32String(shown);
+}
+
 }  // namespace
 
 QString displayText(std::string_view text) {
@@ -49,16 +61,17 @@ QString displayText(std::string_view text) {
   const auto* const end = std::find_if(text.begin(), text.end(), [&](char byte) {
     return beginsCharacter(byte) && ++characters > maxCharacters;
   });
-  auto shown = QString::fromUtf8(text.data(), end - text.begin()).toStdU32String();
-  // For each of these, Qt would look at all fonts, which takes 10 ms for each script and size.
-  std::replace_if(shown.begin(), shown.end(), isInNoFont, U'\uFFFD');
-  ScriptLimits::ofProcess().apply(shown);
-  if (shortenToLimit(shown) || end != text.end()) {
-    shown += U'…';
+  auto isCut = end != text.end();
+  auto shown = QString::fromUtf8(text.data(), end - text.begin());
+  // The other limits are no matter for ASCII, but would take a millisecond.
+  if (std::any_of(text.begin(), end, isBeyondAscii)) {
+    shown = withinLimits(shown, isCut);
   }
-  auto result = QString::fromStdU32String(shown);
-  result.squeeze();
-  return result;
+  if (isCut) {
+    shown += u'…';
+  }
+  shown.squeeze();
+  return shown;
 }
 
 }  // namespace quillmark

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -27,13 +26,15 @@ class SnapshotListModel final : public ListModel {
   explicit SnapshotListModel(QByteArray roleName, std::size_t maxRows = unlimited)
       : ListModel(std::move(roleName)), maxRows_(maxRows) {}
 
-  /// Replaces the old rows with `rows` and notifies views of the differences.
+  /// Replaces the old rows with `rows`. Views read all rows again: a hostile list can take
+  /// longer to compare with the old one than the visible rows take to update.
   void show(Rows rows) {
     const int before = count();
     const int after = static_cast<int>(std::min(rows->size(), maxRows_));
-    replaceRows(after, [&] { std::swap(rows_, rows); });
-    // `rows` now holds the old rows.
-    signalChanges(*rows, std::min(before, after));
+    replaceRows(after, [&] { rows_ = std::move(rows); });
+    if (const int common = std::min(before, after); common > 0) {
+      Q_EMIT dataChanged(index(0), index(common - 1));
+    }
     if (after != before) {
       Q_EMIT countChanged();
     }
@@ -49,30 +50,6 @@ class SnapshotListModel final : public ListModel {
  private:
   // Qt models count rows with `int`.
   static constexpr std::size_t unlimited{std::numeric_limits<int>::max()};
-
-  // Comparing more rows than this takes longer than updating all visible rows.
-  static constexpr int maxComparedRows = 2'000;
-
-  /// Signals the range of changed rows among the first `common`, or all of these if there
-  /// are too many to compare. When all rows differ, both searches stop at their first
-  /// comparison.
-  void signalChanges(const std::vector<Row>& old, int common) {
-    if (common > maxComparedRows) {
-      Q_EMIT dataChanged(index(0), index(common - 1));
-      return;
-    }
-    const auto oldEnd = old.begin() + common;
-    const auto first = std::mismatch(old.begin(), oldEnd, rows_->begin()).first;
-    if (first == oldEnd) {
-      return;
-    }
-    const auto reversed = [](auto position) { return std::make_reverse_iterator(position); };
-    const auto lastChanged =
-        std::mismatch(reversed(oldEnd), reversed(first), reversed(rows_->begin() + common)).first;
-    const auto last = lastChanged.base() - 1;
-    Q_EMIT dataChanged(index(static_cast<int>(first - old.begin())),
-                       index(static_cast<int>(last - old.begin())));
-  }
 
   Rows rows_ = emptyList<Row>();
   const std::size_t maxRows_;

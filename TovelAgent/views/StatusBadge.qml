@@ -57,7 +57,7 @@ Item {
                     id: valueLabel
 
                     width: Math.min(naturalWidth, badge.maximumWidth - dot.width - line.spacing)
-                    text: badge.value
+                    value: badge.value
                     size: 14
                 }
             }
