@@ -104,7 +104,7 @@ Item {
             anchors.right: parent.right
             // When both blocks do not fit, each may use at least half of the width.
             width: Math.min(naturalWidth, Math.max(header.widthWithoutGap / 2, header.widthWithoutGap - left.naturalWidth))
-            value: header.status.lastScan
+            text: header.status.lastScan
             size: 13
             horizontalAlignment: Text.AlignRight
         }

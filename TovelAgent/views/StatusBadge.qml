@@ -57,7 +57,7 @@ Item {
                     id: valueLabel
 
                     width: Math.min(naturalWidth, badge.maximumWidth - dot.width - line.spacing)
-                    value: badge.value
+                    text: badge.value
                     size: 14
                 }
             }

@@ -55,15 +55,15 @@ TEST_F(CappedListModelTest, ShowsTheFirstRowsOnly) {
   EXPECT_EQ(model_.count(), 3);
 }
 
-TEST_F(CappedListModelTest, SignalsNothingForRowsBeyondTheCap) {
-  EXPECT_EQ(signalsBetween("abcde", "abcxyz"), Signals{});
-  EXPECT_EQ(signalsBetween("abc", "abcd"), Signals{});
-  EXPECT_EQ(signalsBetween("abcd", "abc"), Signals{});
+TEST_F(CappedListModelTest, SignalsOnlyRowsUpToTheCap) {
+  EXPECT_EQ(signalsBetween("abcde", "abcxyz"), (Signals{"change 0-2"}));
+  EXPECT_EQ(signalsBetween("abc", "abcd"), (Signals{"change 0-2"}));
+  EXPECT_EQ(signalsBetween("abcd", "abc"), (Signals{"change 0-2"}));
 }
 
 TEST_F(CappedListModelTest, GrowsAndShrinksAtTheCap) {
-  EXPECT_EQ(signalsBetween("ab", "abcde"), (Signals{"insert 2-2", "count 3"}));
-  EXPECT_EQ(signalsBetween("abcde", "ab"), (Signals{"remove 2-2", "count 2"}));
+  EXPECT_EQ(signalsBetween("ab", "abcde"), (Signals{"insert 2-2", "change 0-1", "count 3"}));
+  EXPECT_EQ(signalsBetween("abcde", "ab"), (Signals{"remove 2-2", "change 0-1", "count 2"}));
 }
 
 }  // namespace
