@@ -35,10 +35,13 @@ function(quillmark_qml_library name)
     SOURCES ${arg_SOURCES}
     QML_FILES ${arg_QML_FILES})
   quillmark_configure(${name})
-  # Code that Qt generates causes warnings.
-  get_target_property(generated ${name} SOURCES)
-  list(FILTER generated INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations\\.cpp$")
-  set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "-w")
+  if(Qt6_VERSION VERSION_GREATER_EQUAL 6.8)
+    # Code that Qt generates from QML causes warnings. A file with options of its own is no
+    # part of a unity build, which byte code alone makes much shorter.
+    get_target_property(generated ${name} SOURCES)
+    list(FILTER generated INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations\\.cpp$")
+    set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "-w")
+  endif()
   target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
   target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                              QT_NO_KEYWORDS)
