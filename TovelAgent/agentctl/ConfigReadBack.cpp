@@ -13,6 +13,9 @@
 namespace quillmark {
 namespace {
 
+/// Servers refuse longer ones, and a field would need seconds to show one of a megabyte.
+constexpr std::size_t maxUrlBytes = 8000;
+
 /// The text between the first "=" and the second one, or the end of the line. White space at
 /// both ends is removed first, then quotes at both ends. Empty when there is no "=".
 std::string valueOf(std::string_view line) {
@@ -52,7 +55,7 @@ ConfigEntries readEntries(std::string_view text) {
       continue;
     }
     auto value = valueOf(line);
-    if (value.empty() || (isApiKey && isPlaceholderKey(value))) {
+    if (value.empty() || (isApiKey ? isPlaceholderKey(value) : value.size() > maxUrlBytes)) {
       continue;
     }
     (isApiKey ? entries.apiKey : entries.serverUrl) = std::move(value);

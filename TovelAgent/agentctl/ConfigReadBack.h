@@ -13,13 +13,13 @@ namespace quillmark {
 /// The two values of a configuration that users enter.
 struct ConfigEntries {
   std::optional<std::string> apiKey;     ///< also absent when empty or a placeholder
-  std::optional<std::string> serverUrl;  ///< also absent when empty
+  std::optional<std::string> serverUrl;  ///< also absent when empty or above 8,000 bytes
 
   friend bool operator==(const ConfigEntries&, const ConfigEntries&) = default;
 };
 
 /// Finds the two values in the lines of `text`, in any section. If one of them occurs several
-/// times, the last value that is neither empty nor a placeholder is taken. Not a TOML parser:
+/// times, the last value that would not be absent is taken. Not a TOML parser:
 /// every line that begins with "api_key" or "server_url" counts, `api_keys = …` too; a second
 /// "=" in the line ends the value; a carriage return is part of the value. Any thread.
 [[nodiscard]] ConfigEntries readEntries(std::string_view text);

@@ -85,6 +85,14 @@ TEST(ReadBack, IgnoresEmptyValues) {
   }
 }
 
+// A field needs seconds to show a URL of a megabyte.
+TEST(ReadBack, IgnoresAUrlThatNoServerTakes) {
+  const std::string longest(8000, 'u');
+  EXPECT_EQ(readEntries("server_url = \"" + longest + "\""), url(longest));
+  EXPECT_EQ(readEntries("server_url = u\nserver_url = \"" + longest + "u\""), url("u"));
+  EXPECT_EQ(readEntries("api_key = \"" + longest + "u\""), key(longest + "u"));
+}
+
 TEST(ReadBack, IgnoresLinesWithoutAnEqualsSign) {
   EXPECT_EQ(readEntries("api_key\napi_key \"k\"\nserver_url: u"), none);
 }
