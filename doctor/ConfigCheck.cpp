@@ -3,9 +3,7 @@
 
 #include "ConfigCheck.h"
 
-#include <algorithm>
 #include <array>
-#include <string_view>
 #include <vector>
 
 #include <boost/system/result.hpp>
@@ -13,6 +11,7 @@
 #include "ConfigContentCheck.h"
 #include "ConfigToml.h"
 #include "FileAccess.h"
+#include "Secrets.h"
 #include "agentctl/ConfigFile.h"
 #include "agentctl/ConfigReadBack.h"
 #include "platform/SystemError.h"
@@ -64,24 +63,6 @@ Finding judge(const ConfigCandidate& candidate, const char* check, bool isShadow
   return finding;
 }
 
-/// Hides the key as the TOML parser finds it, and, because the file may not be valid TOML, for
-/// every line with "api_key" both the whole value and the part that the Settings tab reads.
-void hideKeys(std::string_view text, const ConfigToml& toml, TextSanitizer& sanitize) {
-  sanitize.hide(toml.apiKey.value_or(""));
-  while (!text.empty()) {
-    const auto line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(text.size(), line.size() + 1));
-    if (line.find("api_key") == std::string_view::npos) {
-      continue;
-    }
-    sanitize.hide(readEntries(line).apiKey.value_or(""));
-    const auto start = line.find_first_not_of(" \t='\"", line.find('='));
-    if (start != std::string_view::npos) {
-      sanitize.hide(line.substr(start, line.find_last_not_of(" \t\r'\"") + 1 - start));
-    }
-  }
-}
-
 }  // namespace
 
 void checkConfig(Findings& findings, TextSanitizer& sanitize) {
@@ -90,9 +71,10 @@ void checkConfig(Findings& findings, TextSanitizer& sanitize) {
   for (const auto& path : configSearchPaths()) {
     auto& candidate = candidates.emplace_back(
         ConfigCandidate{path, readTextFile(path, maxConfigBytes), ConfigToml{}});
+    hideKeys(path, sanitize);
     if (candidate.text) {
       candidate.toml = readToml(*candidate.text);
-      hideKeys(*candidate.text, candidate.toml, sanitize);
+      sanitize.hide(candidate.toml.apiKey.value_or(""));
     }
   }
   const ConfigCandidate* chosen = nullptr;

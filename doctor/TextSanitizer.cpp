@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdio>
 
-#include <boost/algorithm/string/replace.hpp>
 #include <boost/locale/utf.hpp>
 
 #include "platform/Utf8.h"
@@ -44,17 +44,30 @@ std::string escaped(utf::code_point c) {
 void TextSanitizer::hide(std::string_view secret) {
   if (!secret.empty()) {
     secrets_.emplace_back(secret);
-    std::stable_sort(secrets_.begin(), secrets_.end(),
-                     [](const auto& a, const auto& b) { return a.size() > b.size(); });
   }
 }
 
-std::string TextSanitizer::operator()(std::string_view untrusted, std::size_t maxCharacters) const {
-  std::string plain(untrusted);
+std::string TextSanitizer::withoutSecrets(std::string_view text) const {
+  // Marked first, because secrets may overlap.
+  std::vector<bool> isSecret(text.size());
   for (const auto& secret : secrets_) {
-    boost::algorithm::replace_all(plain, secret, hiddenMark);
+    for (auto at = text.find(secret); at != text.npos; at = text.find(secret, at + 1)) {
+      std::fill_n(isSecret.begin() + static_cast<std::ptrdiff_t>(at), secret.size(), true);
+    }
   }
-  const std::string text = asUtf8(plain);
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!isSecret[i]) {
+      plain += text[i];
+    } else if (i == 0 || !isSecret[i - 1]) {
+      plain += hiddenMark;
+    }
+  }
+  return plain;
+}
+
+std::string TextSanitizer::operator()(std::string_view untrusted, std::size_t maxCharacters) const {
+  const std::string text = asUtf8(withoutSecrets(untrusted));
 
   std::string shown;
   std::size_t characters = 0;

@@ -23,7 +23,9 @@ class TextSanitizer final {
                                        std::size_t maxCharacters = 120) const;
 
  private:
-  std::vector<std::string> secrets_;  ///< longest first, because one may contain another
+  [[nodiscard]] std::string withoutSecrets(std::string_view text) const;
+
+  std::vector<std::string> secrets_;
 };
 
 }  // namespace quillmark::doctor

@@ -9,6 +9,7 @@
 #include <boost/system/result.hpp>
 
 #include "FileAccess.h"
+#include "Secrets.h"
 #include "client/AccessToken.h"
 #include "platform/SystemError.h"
 
@@ -140,6 +141,7 @@ TokenInUse checkTokens(Findings& findings, TextSanitizer& sanitize) {
   std::vector<TokenFile> files;
   for (const auto& path : accessTokenPaths()) {
     files.push_back({path, readTokenFile(path), files.empty()});
+    hideTokens(path, sanitize);
     if (files.back().token) {
       sanitize.hide(*files.back().token);
     }

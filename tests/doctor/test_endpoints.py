@@ -159,6 +159,34 @@ def test_key_of_a_configuration_that_is_not_read_is_hidden_too(backend):
     assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
 
 
+@pytest.mark.parametrize("content", [
+    scene.config() + "# ",
+    scene.config().replace(" = ", ": "),
+    scene.config().replace(" = ", " "),
+], ids=["toml", "colon", "blank"])
+@pytest.mark.parametrize("encoding", ["latin-1", "utf-16"])
+def test_key_of_a_configuration_that_cannot_be_read_is_hidden_too(backend, content, encoding):
+    write(scene.CONFIG, (content + "é").encode(encoding))
+    backend.reply(status=bodies.status(status=scene.KEY))
+    assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
+
+
+@pytest.mark.parametrize("content", ["other-token\n".encode("utf-16"), b"other-token\n\xff",
+                                     b"one line\nother-token"])
+def test_token_that_cannot_be_used_is_hidden_too(backend, content):
+    # Only this file's lines, not its whole, may be repeated.
+    write(scene.HOME_TOKEN, content)
+    write(scene.SYSTEM_TOKEN, scene.TOKEN)
+    backend.reply(status=bodies.status(status="other-token"))
+    assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "[hidden]".'
+
+
+def test_secrets_that_overlap_are_hidden_whole(backend):
+    write(scene.CONFIG, scene.config(key=scene.TOKEN[-6:] + "-key"))
+    backend.reply(status=bodies.status(status=f"<{scene.TOKEN}-key>"))
+    assert look().conclusion == 'ONLINE: the panel shows the agent\'s status, "<[hidden]>".'
+
+
 def test_interrupted_answer(backend):
     backend.reply(inventory=Answer(raw=b"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n{"))
     found = look()
