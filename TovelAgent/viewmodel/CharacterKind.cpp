@@ -92,6 +92,10 @@ bool isRare(CharacterKind kind) {
                       : kind >= firstSymbols + firstBeyondPlane0 / blockSize;
 }
 
+bool isMark(char32_t character) {
+  return (U_GET_GC_MASK(static_cast<UChar32>(character)) & U_GC_M_MASK) != 0;
+}
+
 std::size_t layoutWeight(CharacterKind kind) {
   // Qt decodes the picture of an emoji in each layout, and again to paint it.
   constexpr std::size_t emojiWeight = 800;

@@ -22,6 +22,9 @@ using CharacterKind = std::uint32_t;
 /// characters are often in one of the last fonts that Qt looks at.
 [[nodiscard]] bool isRare(CharacterKind kind);
 
+/// Whether Qt draws the character as a part of the one before it.
+[[nodiscard]] bool isMark(char32_t character);
+
 /// How many Latin characters take Qt as long to lay out and paint as one of this kind.
 [[nodiscard]] std::size_t layoutWeight(CharacterKind kind);
 

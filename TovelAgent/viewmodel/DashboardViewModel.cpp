@@ -15,7 +15,7 @@
 #include <boost/asio/post.hpp>
 
 #include "client/TaskExecutor.h"
-#include "viewmodel/ScriptLimits.h"
+#include "viewmodel/Turns.h"
 
 namespace quillmark {
 namespace {
@@ -46,8 +46,7 @@ DashboardViewModel::DashboardViewModel()
       appRows_("app", maxAppRows),
       cardRows_("card") {
   showLists();
-  connect(&ScriptLimits::ofProcess(), &ScriptLimits::eased, this,
-          &DashboardViewModel::presentAgain);
+  connect(&Turns::ofProcess(), &Turns::eased, this, &DashboardViewModel::presentAgain);
 }
 
 void DashboardViewModel::startPolling() {

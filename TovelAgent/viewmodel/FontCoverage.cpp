@@ -103,8 +103,8 @@ bool isInNoFontForItsScript(char32_t character) {
 
 bool hasShape(char32_t character) {
   const auto code = static_cast<UChar32>(character);
-  constexpr auto shapeless = U_GC_CC_MASK | U_GC_CF_MASK | U_GC_Z_MASK;
-  return (U_GET_GC_MASK(code) & shapeless) == 0 &&
+  constexpr auto shapeless = U_GC_CF_MASK | U_GC_Z_MASK;
+  return (U_GET_GC_MASK(code) & shapeless) == 0 && u_isUWhiteSpace(code) == 0 &&
          u_hasBinaryProperty(code, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) == 0;
 }
 

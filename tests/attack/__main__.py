@@ -62,7 +62,8 @@ def main(output, *words):
     for name, attack in every().items():
         if words and not any(word in name for word in words):
             continue
-        server = Attacker().start()
+        # With rows in view that all become what the attack sends.
+        server = Attacker(**stage.full()).start()
         with Observed(stage.PANEL) as panel:
             stage.key(TAB)
             figures[name] = under(attack, server, panel)

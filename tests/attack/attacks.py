@@ -140,6 +140,15 @@ def random_texts(count, length, choices):
     return send
 
 
+def marks(_chance):
+    """Few letters, so that most are one character for Qt."""
+    return "e" + 99 * "\u0301" + 99 * "\U000E0100"
+
+
+def controls(_chance):
+    return "".join(map(chr, range(1, 0x20)))
+
+
 def all_scripts(_chance):
     return ASSIGNED
 
@@ -191,6 +200,8 @@ def every():
         "short texts in four scripts each": random_texts(100, 60, four_scripts),
         "long texts in Japanese scripts": random_texts(10, 15_000, japanese),
         "texts of all symbols": random_texts(10, 15_000, symbols),
+        "texts of marks": random_texts(10, 15_000, marks),
+        "texts of control characters": random_texts(10, 15_000, controls),
         "twenty million empty services": empty_services,
         "nesting 100,000 deep": deep_nesting,
         "resets amid the header": resets,

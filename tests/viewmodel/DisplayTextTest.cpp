@@ -9,9 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "model/Repeated.h"
-#include "viewmodel/GuiTest.h"
 #include "viewmodel/PrintQString.h"
-#include "viewmodel/ScriptLimits.h"
+#include "viewmodel/Settled.h"
 
 namespace quillmark::test {
 namespace {
@@ -21,19 +20,11 @@ constexpr int changeWeight = 40;
 
 /// What is shown of the text after some time.
 QString shownText(const std::string& text) {
-  const auto& limits = ScriptLimits::ofProcess();
-  auto result = displayText(text);
-  while (limits.waits()) {
-    if (!waitUntil([&] { return !limits.waits(); })) {
-      return QStringLiteral("waits for ever");
-    }
-    result = displayText(text);
-  }
-  return result;
+  return settled(Turns::ofProcess(), [&] { return displayText(text); });
 }
 
 TEST(DisplayText, IsTheUnchangedText) {
-  for (const std::string text : {"", " ", "text", " two\nlines\r\n", "<b>&amp;</b>", "\t\x01",
+  for (const std::string text : {"", " ", "text", " two\nlines\r\n", "<b>&amp;</b>", "\t\x0B\x0C",
                                  "\U0001F41E שלום", "x\u0301"}) {
     EXPECT_EQ(shownText(text).toStdString(), text);
   }
@@ -66,6 +57,20 @@ TEST(DisplayText, HasAReplacementForACharacterThatNoFontHas) {
   EXPECT_EQ(shownText("a\U0010FFFE\u200Db").toStdString(), "a\uFFFD\u200Db");
 }
 
+// For these, too, even in an ASCII text.
+TEST(DisplayText, HasAReplacementForAControlCharacter) {
+  EXPECT_EQ(shownText("a\x01\x1B[0m b").toStdString(), "a\uFFFD\uFFFD[0m b");
+}
+
+// Qt would need a second for a text that is one letter with thousands of marks.
+TEST(DisplayText, HasThirtyMarksOfACharacter) {
+  for (const std::string mark : {"\u0301", "\u20DD", "\uFE0F", "\U000E0100"}) {
+    const auto most = "x" + repeated(30, mark);
+    EXPECT_EQ(shownText(most + most).toStdString(), most + most);
+    EXPECT_EQ(shownText(most + mark + "y").toStdString(), most + "\uFFFDy");
+  }
+}
+
 TEST(DisplayText, IsCompleteIfItChangesBetweenScriptsLikeARealText) {
   for (const std::string sentence : {"Η λέξη «text» → ✓. ", "هذا نص بالعربية، ١٢٣. "}) {
     const auto text = repeated(140, sentence);
@@ -84,6 +89,16 @@ TEST(DisplayText, EndsEarlierTheLongerItsLayoutTakes) {
     EXPECT_TRUE(longer.ends_with("…")) << longer.size();
     EXPECT_LE(longer.size(), (beginning + piece + "…").size());
   }
+}
+
+// If all rows in view became long at once, their layout would block the window.
+TEST(DisplayText, HasOnlyItsBeginningUntilItsTurnIfLong) {
+  const auto text = repeated(1000, "é") + "b";
+  while (Turns::ofProcess().take()) {
+  }
+  EXPECT_EQ(displayText(repeated(1000, "é")).size(), 1000);
+  EXPECT_EQ(displayText(text).toStdString(), repeated(1000, "é") + "…");
+  EXPECT_EQ(shownText(text).toStdString(), text);
 }
 
 // A text may be as long as a whole answer.

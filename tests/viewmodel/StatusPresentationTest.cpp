@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "viewmodel/PrintQString.h"
+#include "viewmodel/Settled.h"
 #include "viewmodel/StatusPresentation.h"
 
 namespace quillmark {
@@ -42,7 +43,8 @@ void PrintTo(const StatusText& status, std::ostream* out) { *out << '"' << statu
 class StatusTextTest : public testing::TestWithParam<StatusText> {};
 
 TEST_P(StatusTextTest, IsShownInUpperCaseAndJudgedAsReceived) {
-  const auto header = presentText(GetParam().received);
+  const auto header =
+      test::settled(Turns::ofProcess(), [] { return presentText(GetParam().received); });
   EXPECT_EQ(header.status, GetParam().shown);
   EXPECT_EQ(header.statusIsHealthy, GetParam().isHealthy);
 }

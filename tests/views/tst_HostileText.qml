@@ -19,7 +19,7 @@ PolledViewTest {
         "entity": "&lt;&amp;&#65;",
         "Markdown": "# title\n![picture](http://127.0.0.1:7823/stolen)",
         "newlines": "one\ntwo\r\nthree\u2028four",
-        "controls": "a\u0001b\u001b[31mc\u0007d\ttab",
+        "controls": "a\vb\fc\ttab",
         "right to left": "\u202Eevil\u202C שלום عالم",
         "four bytes": "😀𝄞👩‍👩‍👧‍👦🏴󠁧󠁢󠁥󠁮󠁧󠁿",
         "combining": "a\u0300\u0301\u0302\u0303".repeat(100),

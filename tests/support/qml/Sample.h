@@ -13,6 +13,7 @@
 #include "viewmodel/AlertPresentation.h"
 #include "viewmodel/AppPresentation.h"
 #include "viewmodel/ConnectionPresentation.h"
+#include "viewmodel/Settled.h"
 #include "viewmodel/StatusPresentation.h"
 
 namespace quillmark::test {
@@ -24,38 +25,42 @@ class Sample : public QObject {
   QML_ELEMENT
   QML_SINGLETON
 
+  static auto presented(const auto& record) {
+    return settled(Turns::ofProcess(), [&] { return present(record); });
+  }
+
  public:
   using QObject::QObject;
 
   Q_INVOKABLE [[nodiscard]] static quillmark::AlertPresentation alert(const QString& severity,
                                                                       const QString& type,
                                                                       const QVariant& description) {
-    return present(ThreatAlert{type.toStdString(), severity.toStdString(), "title",
-                               text(description), "/tmp/file", "2024-01-15T10:30:00Z"});
+    return presented(ThreatAlert{type.toStdString(), severity.toStdString(), "title",
+                                 text(description), "/tmp/file", "2024-01-15T10:30:00Z"});
   }
 
   Q_INVOKABLE [[nodiscard]] static quillmark::AppPresentation app(const QString& name,
                                                                   const QVariant& version) {
-    return present(InstalledApp{name.toStdString(), text(version), "publisher", "/usr/bin/app"});
+    return presented(InstalledApp{name.toStdString(), text(version), "publisher", "/usr/bin/app"});
   }
 
   /// `address` and `port` are used for both ends.
   Q_INVOKABLE [[nodiscard]] static quillmark::ConnectionPresentation connection(
       const QString& address, const QString& port, const QString& state) {
-    return present(NetworkConnection{"tcp", address.toStdString(), port.toStdString(),
-                                     address.toStdString(), port.toStdString(), state.toStdString(),
-                                     "4711", "high"});
+    return presented(NetworkConnection{"tcp", address.toStdString(), port.toStdString(),
+                                       address.toStdString(), port.toStdString(),
+                                       state.toStdString(), "4711", "high"});
   }
 
   Q_INVOKABLE [[nodiscard]] static quillmark::StatusPresentation status(const QString& status,
                                                                         int threats,
                                                                         const QString& lastScan) {
-    return present(
+    return presented(
         AgentStatus{true, threats, "none", status.toStdString(), lastScan.toStdString()});
   }
 
   Q_INVOKABLE [[nodiscard]] static quillmark::StatusPresentation noStatus() {
-    return present(std::optional<AgentStatus>());
+    return presented(std::optional<AgentStatus>());
   }
 
  private:

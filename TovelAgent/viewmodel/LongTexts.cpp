@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark Agent authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "viewmodel/LongTexts.h"
+
+#include <functional>
+
+#include <QTimer>
+
+namespace quillmark {
+namespace {
+
+/// Many times more than can be in view.
+constexpr std::size_t maxRemembered = 1000;
+
+}  // namespace
+
+bool LongTexts::leaves(std::string_view text) {
+  auto hash = std::hash<std::string_view>{}(text);
+  hash += placeOf(hash);
+  if (left_.contains(hash)) {
+    return true;
+  }
+  if (!turns_.take()) {
+    return false;
+  }
+  if (left_.size() == maxRemembered) {
+    left_.clear();
+  }
+  left_.insert(hash);
+  return true;
+}
+
+std::size_t LongTexts::placeOf(std::size_t hash) {
+  if (places_.empty()) {
+    QTimer::singleShot(0, &turns_, [this] { places_.clear(); });
+  }
+  return places_[hash]++;
+}
+
+}  // namespace quillmark
