@@ -12,9 +12,10 @@ namespace quillmark {
 [[nodiscard]] std::string sessionBusAddress();
 
 /// Makes this process, and the programs that it starts, work without the session bus if the
-/// bus accepts connections but does not answer, for example because a signal has stopped it.
-/// Qt and other libraries would wait for such a bus without a limit. Takes two and a half
-/// seconds if the bus does not answer, otherwise one exchange with it. Call before Qt is set
+/// bus, or the accessibility service on it, accepts messages but does not answer, for example
+/// because a signal has stopped it. Qt and other libraries would wait for such a bus without a
+/// limit, and for such a service for 50 seconds. Takes two and a half seconds if one of them
+/// does not answer, otherwise two exchanges. Call before Qt is set
 /// up and before threads start.
 void avoidSilentSessionBus();
 

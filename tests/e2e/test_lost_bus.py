@@ -18,7 +18,7 @@ pytestmark = pytest.mark.usefixtures("token", "backend")
 
 # How many pieces of data an undisturbed launch takes: one or two messages are a piece.
 FEWEST = 12
-MOST = 20
+MOST = 24
 
 
 @pytest.fixture
@@ -82,8 +82,16 @@ def test_the_bus_is_killed(start, bus, piece):
 
 
 @pytest.fixture
-def silent_bus(tmp_path):
-    bus = SilentBus(tmp_path)
+def silent_accessibility(bus):
+    service = bus.silent_service("org.a11y.Bus")
+    yield
+    service.kill()
+    service.communicate()
+
+
+@pytest.fixture(params=["at once", "after authentication"])
+def silent_bus(request, tmp_path):
+    bus = SilentBus(tmp_path, authenticates=request.param == "after authentication")
     yield bus
     bus.stop()
 
@@ -93,11 +101,22 @@ def test_a_bus_that_never_answers(display, silent_bus):
                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON=None).opened()
     until(lambda: is_drawn(panel), "a drawn window")
     panel.finish()
+    assert len(silent_bus.connections) == 1, "asked once"
+
+
+def test_accessibility_that_never_answers(display, start, silent_accessibility):
+    first = start().opened()
+    until(lambda: is_drawn(first), "a drawn window")
+    # The panels do without the bus, so each of them has a window.
+    second = start().opened()
+    second.finish()
+    first.finish()
 
 
 def test_quit_by_command_on_a_bus_that_never_answers(silent_bus):
     asked = quit_by_command(DBUS_SESSION_BUS_ADDRESS=silent_bus.address)
     assert (asked.returncode, asked.stderr) == (1, "quillmark-agent: no panel answers\n")
+    assert len(silent_bus.connections) == 1, "asked once"
 
 
 def test_the_first_panel_hangs(start):

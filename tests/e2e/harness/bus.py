@@ -7,22 +7,55 @@ import contextlib
 import signal
 import socket
 import subprocess
+import sys
 import threading
+import time
 from pathlib import Path
+
+SERVICE = """
+import sys
+from gi.repository import Gio, GLib
+bus = Gio.DBusConnection.new_for_address_sync(
+    sys.argv[1], Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+    | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+              "RequestName", GLib.Variant("(su)", (sys.argv[2], 0)), None, 0, -1)
+print("ready", flush=True)
+sys.stdin.read()
+"""
 
 
 class SilentBus:
-    """Accepts connections, as a stopped daemon does."""
+    """Accepts connections, as a stopped daemon does. `authenticates`: one that is stopped
+    only after it has authenticated the other side."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, *, authenticates=False):
         path = Path(folder) / "silent"
         self.address = f"unix:path={path}"
+        self.connections = []
+        self._authenticates = authenticates
         self._listener = socket.socket(socket.AF_UNIX)
         self._listener.bind(str(path))
         self._listener.listen()
+        threading.Thread(target=self._accept, daemon=True).start()
 
     def stop(self):
         self._listener.close()
+
+    def _accept(self):
+        while True:
+            connection, _ = self._listener.accept()
+            self.connections.append(connection)
+            if self._authenticates:
+                threading.Thread(target=self._authenticate, args=(connection,), daemon=True).start()
+
+    @staticmethod
+    def _authenticate(connection):
+        with connection.makefile("rwb", buffering=0) as stream:
+            while b"BEGIN" not in (line := stream.readline()):
+                stream.write(b"AGREE_UNIX_FD\r\n" if b"NEGOTIATE" in line
+                             else b"OK 0123456789abcdef0123456789abcdef\r\n")
+            time.sleep(600)
 
 
 class Bus:
@@ -61,6 +94,14 @@ class Bus:
     def hang(self, stopped):
         """Stops the daemon, or lets it continue."""
         self._daemon.send_signal(signal.SIGSTOP if stopped else signal.SIGCONT)
+
+    def silent_service(self, name):
+        """A stopped process that has this name on the bus."""
+        service = subprocess.Popen([sys.executable, "-c", SERVICE, self.address, name],
+                                   stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        assert service.stdout.readline(), "the service did not start"
+        service.send_signal(signal.SIGSTOP)
+        return service
 
     def alive(self):
         return self._daemon.poll() is None
