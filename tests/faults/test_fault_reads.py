@@ -14,6 +14,8 @@ import traced
 # Long enough for several reads: a part of a text must not be taken for the whole.
 FIRST = "a" * 70000
 SECOND = "b" * 70000
+# The longest that is read back.
+URL = 8000
 # The calls without which a file is unreadable; the others are repeated or not needed.
 DECIDING = ("openat", "newfstatat", "fstat", "read")
 
@@ -61,8 +63,8 @@ READINGS = {
         "read-back",
         pathlib.Path("/tmp/reading/.config/quillmark/config.toml"),
         ".quillmark/config.toml",
-        text=lambda word: f'[agent]\nserver_url = "{word}"\napi_key = "{word}"\n',
-        message=lambda word: f"{word} at {word}",
+        text=lambda word: f'[agent]\nserver_url = "{word[:URL]}"\napi_key = "{word}"\n',
+        message=lambda word: f"{word} at {word[:URL]}",
     ),
 }
 
