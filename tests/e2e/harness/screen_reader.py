@@ -20,11 +20,6 @@ from pathlib import Path
 from . import hands
 from .waiting import until
 
-# Of Qt 6.8, for an event that it does not know, and for requests for items that a poll has
-# removed.
-PANEL_OUTPUT = (r"(qt\.accessibility\.atspi: (Subscription string not handled"
-                r"|Could not find accessible on path): .*\n)*")
-
 # The text, then the voice; after the name of a pressed key there is a space between them,
 # and it does not count. In a text of several lines, the log indents all but the first.
 SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)'(?: voice=\w+)?\{", re.DOTALL)
