@@ -93,7 +93,7 @@ QString displayText(std::string_view text) {
   text = beginning(text, maxCharacters, isCut);
   auto isLong = false;
   const auto shortened = beginning(text, LongTexts::longest, isLong);
-  if (isLong && !longTexts.leaves(text)) {
+  if (isLong && !longTexts.mayShow(text)) {
     text = shortened;
     isCut = true;
   }

@@ -15,19 +15,19 @@ constexpr std::size_t maxRemembered = 1000;
 
 }  // namespace
 
-bool LongTexts::leaves(std::string_view text) {
+bool LongTexts::mayShow(std::string_view text) {
   auto hash = std::hash<std::string_view>{}(text);
   hash += placeOf(hash);
-  if (left_.contains(hash)) {
+  if (shown_.contains(hash)) {
     return true;
   }
   if (!turns_.take()) {
     return false;
   }
-  if (left_.size() == maxRemembered) {
-    left_.clear();
+  if (shown_.size() == maxRemembered) {
+    shown_.clear();
   }
-  left_.insert(hash);
+  shown_.insert(hash);
   return true;
 }
 

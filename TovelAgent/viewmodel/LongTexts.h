@@ -24,7 +24,7 @@ class LongTexts {
 
   /// Whether the long text may be shown now, or only its beginning until `Turns::eased`. A
   /// text that several rows show takes a turn for each of them.
-  [[nodiscard]] bool leaves(std::string_view text);
+  [[nodiscard]] bool mayShow(std::string_view text);
 
  private:
   /// Which of the places that show the same text, counted until the event loop goes on.
@@ -33,7 +33,7 @@ class LongTexts {
   Turns& turns_;
   std::unordered_map<std::size_t, std::size_t> places_;
   // Texts and places, as hashes.
-  std::unordered_set<std::size_t> left_;
+  std::unordered_set<std::size_t> shown_;
 };
 
 }  // namespace quillmark

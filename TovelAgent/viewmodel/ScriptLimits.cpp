@@ -29,13 +29,13 @@ void ScriptLimits::apply(std::u32string& text) {
       text.begin(), text.end(),
       [&](char32_t character) {
         const auto kind = kindOf(character);
-        return (hasTooMany && !isBasic(kind)) || !leaves(kind);
+        return (hasTooMany && !isBasic(kind)) || !mayShow(kind);
       },
       U'\uFFFD');
 }
 
-bool ScriptLimits::leaves(CharacterKind kind) {
-  if (left_.contains(kind)) {
+bool ScriptLimits::mayShow(CharacterKind kind) {
+  if (shown_.contains(kind)) {
     return true;
   }
   if (isRare(kind) && rareKinds_ == maxRareKinds) {
@@ -47,7 +47,7 @@ bool ScriptLimits::leaves(CharacterKind kind) {
   if (isRare(kind)) {
     ++rareKinds_;
   }
-  left_.insert(kind);
+  shown_.insert(kind);
   return true;
 }
 

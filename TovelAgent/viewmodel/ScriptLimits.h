@@ -22,15 +22,15 @@ class ScriptLimits {
 
   /// Puts U+FFFD in place of all characters that are not basic if the text contains more than
   /// eight kinds of them. Of the rare kinds, only the first two that this object meets are
-  /// left in texts. Each kind takes a turn: its characters are U+FFFD until then.
+  /// shown. Each kind takes a turn: its characters are U+FFFD until then.
   void apply(std::u32string& text);
 
  private:
-  [[nodiscard]] bool leaves(CharacterKind kind);
+  [[nodiscard]] bool mayShow(CharacterKind kind);
 
   Turns& turns_;
   // The panel's own texts have opened the fonts of these.
-  std::set<CharacterKind> left_ = {QChar::Script_Unknown, QChar::Script_Common,
+  std::set<CharacterKind> shown_ = {QChar::Script_Unknown, QChar::Script_Common,
                                    QChar::Script_Latin};
   std::size_t rareKinds_ = 0;
 };

@@ -17,27 +17,27 @@ namespace {
 TEST(LongTexts, AreLeftInTurns) {
   Turns turns;
   LongTexts texts(turns);
-  EXPECT_TRUE(texts.leaves("one"));
-  EXPECT_TRUE(texts.leaves("two"));
-  EXPECT_FALSE(texts.leaves("three"));
+  EXPECT_TRUE(texts.mayShow("one"));
+  EXPECT_TRUE(texts.mayShow("two"));
+  EXPECT_FALSE(texts.mayShow("three"));
   EXPECT_TRUE(waitUntil([&] { return !turns.waits(); }));
-  EXPECT_TRUE(texts.leaves("three"));
+  EXPECT_TRUE(texts.mayShow("three"));
 }
 
 TEST(LongTexts, TakeATurnForEachRow) {
   Turns turns;
   LongTexts texts(turns);
-  EXPECT_TRUE(texts.leaves("text"));
-  EXPECT_TRUE(texts.leaves("text"));
-  EXPECT_FALSE(texts.leaves("text"));
+  EXPECT_TRUE(texts.mayShow("text"));
+  EXPECT_TRUE(texts.mayShow("text"));
+  EXPECT_FALSE(texts.mayShow("text"));
 }
 
 TEST(LongTexts, NeedNoTurnTwice) {
   Turns turns;
   LongTexts texts(turns);
   for (int poll = 0; poll < 3; ++poll) {
-    EXPECT_TRUE(texts.leaves("text"));
-    EXPECT_TRUE(texts.leaves("text"));
+    EXPECT_TRUE(texts.mayShow("text"));
+    EXPECT_TRUE(texts.mayShow("text"));
     QCoreApplication::processEvents();
   }
   EXPECT_FALSE(turns.waits());
