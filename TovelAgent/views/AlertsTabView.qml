@@ -12,7 +12,7 @@ ListPage {
     required property DashboardViewModel viewModel
 
     pageName: "Alerts"
-    listName: "Alerts"
+    listName: "Security alerts"
     model: viewModel.alerts
     placeholderText: "No threats detected"
     placeholder: EmptyState {

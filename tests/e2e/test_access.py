@@ -32,7 +32,7 @@ MORE = {
                 ("row", "127.0.0.1:22, → 10.0.0.5:443, LISTEN"),
                 ("row", "127.0.0.1:80, → 10.0.0.5:443, ESTABLISHED")],
     "Inventory": [("list", "Installed applications"), ("row", "Terminal")],
-    "Alerts": [("list", "Alerts"), ("row", "low: policy")],
+    "Alerts": [("list", "Security alerts"), ("row", "low: policy")],
 }
 
 

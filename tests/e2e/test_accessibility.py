@@ -39,7 +39,7 @@ LISTS = {
         "127.0.0.1:80, → 10.0.0.5:443, ESTABLISHED",
     ]),
     "Inventory": ("Installed applications", ["Files, v43.2", "Terminal"]),
-    "Alerts": ("Alerts", ["high: malware, A bad file", "low: policy"]),
+    "Alerts": ("Security alerts", ["high: malware, A bad file", "low: policy"]),
 }
 
 

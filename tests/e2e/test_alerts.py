@@ -35,8 +35,8 @@ def icon_of(row):
 
 def test_icon_by_severity(launch):
     panel = show(launch, *[bodies.alert("type", severity) for severity, _ in SEVERITIES])
-    panel.tree.wait_for("list", "Alerts")
-    rows = listed(panel, "Alerts")[1]
+    panel.tree.wait_for("list", "Security alerts")
+    rows = listed(panel, "Security alerts")[1]
     picture = Picture()
     shapes = []
     for row, (severity, colour) in zip(rows, SEVERITIES, strict=True):
@@ -62,8 +62,8 @@ def test_texts_of_a_row(launch):
         bodies.alert("Alone", "low", description=None, **unseen),
         bodies.alert("Empty", "low", description=""),
     )
-    panel.tree.wait_for("list", "Alerts")
-    rows = listed(panel, "Alerts")[1]
+    panel.tree.wait_for("list", "Security alerts")
+    rows = listed(panel, "Security alerts")[1]
     assert rows[0].name == "high: Malware found, the description"
     assert rows[1].name == "low: Alone"
     assert [t.name for t in rows[0].every("text")] == ["Malware found", "the description"]
@@ -84,9 +84,9 @@ def test_texts_of_a_row(launch):
 def test_first_hundred_in_the_order_received(launch):
     alerts = [bodies.alert(f"Alert {(i * 37) % 150}") for i in range(150)]
     panel = show(launch, *alerts)
-    panel.tree.wait_for("list", "Alerts")
+    panel.tree.wait_for("list", "Security alerts")
     expected = [f"high: {a['alert_type']}" for a in alerts[:100]]
-    assert read_through(panel, "Alerts") == expected
+    assert read_through(panel, "Security alerts") == expected
 
 
 def test_no_alerts_and_then_one(launch, backend):

@@ -29,6 +29,6 @@ def test_usable_without_warnings(display, token, backend):
     hands.click(panel.tree.find("tab", "Network").box)
     panel.selected("Network")
     panel.show("Alerts")
-    panel.tree.wait_for("list", "Alerts")
+    panel.tree.wait_for("list", "Security alerts")
     assert panel.window.box[2:] == (1000, 700)
     panel.finish()

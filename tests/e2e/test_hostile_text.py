@@ -58,7 +58,7 @@ def expected(text):
     return {
         "Network": ("Network connections", f"{text}:{text}, → {text}:{text}, {text}"),
         "Inventory": ("Installed applications", f"{text}, v{text}"),
-        "Alerts": ("Alerts", f"{text}: {text}, {text}"),
+        "Alerts": ("Security alerts", f"{text}: {text}, {text}"),
     }
 
 

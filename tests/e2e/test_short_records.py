@@ -38,10 +38,10 @@ def test_many_short_records_are_counted_and_shown(panel):
     wait_for_cards(panel, **{"Recent Alerts": "400000", "Installed Applications": "500000",
                              "Active Services": "2000000"})
     panel.show("Alerts")
-    panel.tree.wait_for("list", "Alerts")
+    panel.tree.wait_for("list", "Security alerts")
     assert "No threats detected" not in panel.tree.read().texts()
-    top = names(panel, "Alerts")[0]
-    assert scroll(panel, "Alerts", "End")[-1].name == top
+    top = names(panel, "Security alerts")[0]
+    assert scroll(panel, "Security alerts", "End")[-1].name == top
     panel.show("Dashboard")
 
 

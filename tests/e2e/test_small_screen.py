@@ -36,5 +36,5 @@ def test_the_rest_can_be_dragged_into_view(panel):
 
 def test_works_without_what_is_off_the_screen(panel):
     panel.show("Alerts")
-    panel.tree.wait_for("list", "Alerts")
+    panel.tree.wait_for("list", "Security alerts")
     panel.close()

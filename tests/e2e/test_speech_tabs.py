@@ -77,7 +77,7 @@ def test_in_the_tab_bar_the_focus_follows_the_selection(panel, screen_reader):
 def test_the_focus_stays_in_the_content_when_its_list_becomes_empty(panel, screen_reader,
                                                                     backend):
     panel.show("Alerts")
-    panel.focus_on("list", "Alerts")
+    panel.focus_on("list", "Security alerts")
     screen_reader.hear("high: malware, A bad file.")
     backend.reply(alerts={"alerts": []})
     screen_reader.hear("Alerts section.", "No threats detected.")

@@ -18,7 +18,7 @@ SIGNS = {
     "Dashboard": ("text", "Recent Alerts"),
     "Network": ("list", "Network connections"),
     "Inventory": ("list", "Installed applications"),
-    "Alerts": ("list", "Alerts"),
+    "Alerts": ("list", "Security alerts"),
     "Settings": ("group", "Quick Setup"),
 }
 
