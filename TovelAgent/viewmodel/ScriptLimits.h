@@ -31,7 +31,7 @@ class ScriptLimits {
   Turns& turns_;
   // The panel's own texts have opened the fonts of these.
   std::set<CharacterKind> shown_ = {QChar::Script_Unknown, QChar::Script_Common,
-                                   QChar::Script_Latin};
+                                    QChar::Script_Latin};
   std::size_t rareKinds_ = 0;
 };
 
