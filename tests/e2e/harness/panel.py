@@ -76,8 +76,9 @@ class Panel:
         return self
 
     def _is_active(self):
+        # Active is not yet shown: the window manager may have the window unmapped to frame it.
         # The panel itself must know it: Qt drops shortcuts that come earlier.
-        return window.active_process() == self.pid and (
+        return window.active_process() == self.pid and self.windows() and (
             not self._is_accessible or self.tree.has_active_window())
 
     def windows(self):
@@ -85,7 +86,7 @@ class Panel:
 
     @property
     def window(self):
-        return self.windows()[0]
+        return until(self.windows, "the panel's window to be shown")[0]
 
     def resize(self, width, height):
         """In unscaled units. Returns once the panel has laid itself out in that size."""
