@@ -17,6 +17,7 @@ from harness.display import Display  # noqa: E402
 from harness.panel import Panel  # noqa: E402
 from harness.screen import BUILD, save  # noqa: E402
 from harness.screen_reader import ScreenReader  # noqa: E402
+from harness.spoken_panel import SpokenPanel  # noqa: E402
 
 TOKEN = "0123456789abcdef"
 
@@ -104,7 +105,7 @@ def screen_reader(display):
 @pytest.fixture(scope="module")
 def spoken_panel(screen_reader, token, backend):
     """One panel for all tests of a file, with a screen reader that runs since before."""
-    panel = Panel().opened()
+    panel = SpokenPanel(screen_reader).opened()
     yield panel
     panel.finish()
 

@@ -14,6 +14,7 @@ import os
 import re
 import subprocess
 import threading
+import time
 import tty
 from pathlib import Path
 
@@ -25,6 +26,9 @@ from .waiting import until
 SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)'(?: voice=\w+)?\{", re.DOTALL)
 NEWER_SPEECH = re.compile(r"SPEECH OUTPUT: '(.*?)' \{", re.DOTALL)
 INDENTED = re.compile(r"\n {18}")
+
+# It logs each key and event; without any for that long, in seconds, it has handled all.
+QUIET = 0.6
 
 # Without the names of pressed keys, which version 48 says like all other words.
 SETTINGS = """{"general": {"enableKeyEcho": false},
@@ -79,6 +83,7 @@ class ScreenReader:
             file.write_text(SETTINGS)
         self._said = []
         self._mark = 0
+        self._busy_at = time.monotonic()
         # Python writes each line of a log at once only if the log is a terminal.
         self._log, terminal = os.openpty()
         tty.setraw(terminal)
@@ -112,6 +117,10 @@ class ScreenReader:
     def forget(self):
         """From here on, only what is said later can be heard."""
         self._mark = len(self._said)
+
+    def settle(self):
+        """Waits until it has handled all keys and events."""
+        self._until(lambda: time.monotonic() - self._busy_at > QUIET, "a quiet log")
 
     def hear(self, *words):
         """Waits until all these have been said, in this order, and returns all that
@@ -185,6 +194,7 @@ class ScreenReader:
         text = ""
         with contextlib.suppress(OSError):  # closed
             while piece := os.read(self._log, 65536):
+                self._busy_at = time.monotonic()
                 text += decode(piece)
                 while found := speech.search(text):
                     self._said += _as_said(INDENTED.sub("\n", found[1]))
