@@ -32,7 +32,8 @@ bool Turns::take() {
     return false;
   }
   if (taken_ == 0) {
-    QTimer::singleShot(pause, this, &Turns::begin);
+    // The pause follows what the turns take; else it may be over before the window goes on.
+    QTimer::singleShot(0, this, [this] { QTimer::singleShot(pause, this, &Turns::begin); });
   }
   ++taken_;
   return true;

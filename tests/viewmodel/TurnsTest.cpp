@@ -4,6 +4,7 @@
 #include "viewmodel/Turns.h"
 
 #include <chrono>
+#include <thread>
 
 #include <QSignalSpy>
 #include <QTimer>
@@ -28,6 +29,16 @@ TEST(Turns, AreTwoAtOnce) {
   EXPECT_TRUE(turns.take());
   EXPECT_TRUE(turns.take());
   EXPECT_FALSE(turns.take());
+}
+
+TEST(Turns, PauseAfterWhatTheyTake) {
+  Turns turns;
+  EXPECT_TRUE(turns.take() && turns.take());
+  EXPECT_FALSE(turns.take());
+  std::this_thread::sleep_for(100ms);  // as the window would be blocked
+  const auto end = std::chrono::steady_clock::now();
+  EXPECT_TRUE(waitUntil([&] { return !turns.waits(); }));
+  EXPECT_GT(std::chrono::steady_clock::now() - end, 20ms);
 }
 
 TEST(Turns, EaseOnlyWhatWaits) {
