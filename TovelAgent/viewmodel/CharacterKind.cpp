@@ -42,21 +42,45 @@ bool isEmoji(UChar32 character) {
           u_hasBinaryProperty(character, UCHAR_EXTENDED_PICTOGRAPHIC) != 0);
 }
 
-bool isEastAsianPunctuation(UChar32 character) {
+/// Whether it is East Asian punctuation, or a mark or variation selector on such letters.
+bool isAmongHan(UChar32 character) {
   const auto block = ublock_getCode(character);
-  return block == UBLOCK_CJK_SYMBOLS_AND_PUNCTUATION || block == UBLOCK_KATAKANA ||
-         block == UBLOCK_HALFWIDTH_AND_FULLWIDTH_FORMS;
+  return block == UBLOCK_CJK_SYMBOLS_AND_PUNCTUATION || block == UBLOCK_HIRAGANA ||
+         block == UBLOCK_KATAKANA || block == UBLOCK_HALFWIDTH_AND_FULLWIDTH_FORMS ||
+         block == UBLOCK_VARIATION_SELECTORS_SUPPLEMENT;
 }
 
 bool contains(const auto& scripts, CharacterKind kind) {
   return std::find(scripts.begin(), scripts.end(), kind) != scripts.end();
 }
 
-/// Also the letters that these scripts have in later blocks, where few fonts have them.
+bool isShared(QChar::Script script) {
+  return script == QChar::Script_Common || script == QChar::Script_Inherited ||
+         script == QChar::Script_Unknown;
+}
+
+/// What several scripts share, such as the Arabic comma, is in the fonts of the script to
+/// whose block it belongs.
+QChar::Script scriptOf(char32_t character) {
+  constexpr char32_t firstAfterCyrillic = 0x530;
+  constexpr char32_t firstOfGeneralPunctuation = 0x2000;
+  auto script = QChar::script(character);
+  if (character >= firstAfterCyrillic && character < firstOfGeneralPunctuation) {
+    while (isShared(script)) {
+      script = QChar::script(--character);
+    }
+  }
+  return script;
+}
+
+/// Also the letters and marks that these scripts have in later blocks, where few fonts have
+/// them, but not the marks that belong to emoji.
 bool isSymbol(UChar32 character) {
   constexpr UChar32 lastOfGeneralPunctuation = 0x206F;
+  const auto script = QChar::script(static_cast<char32_t>(character));
   return character > lastOfGeneralPunctuation &&
-         contains(basicScripts, QChar::script(static_cast<char32_t>(character)));
+         (script == QChar::Script_Inherited || contains(basicScripts, script)) &&
+         ublock_getCode(character) != UBLOCK_VARIATION_SELECTORS;
 }
 
 }  // namespace
@@ -66,13 +90,13 @@ CharacterKind kindOf(char32_t character) {
   if (isEmoji(code)) {
     return emoji;
   }
-  if (isEastAsianPunctuation(code)) {
+  if (isAmongHan(code)) {
     return QChar::Script_Han;
   }
   if (isSymbol(code)) {
     return firstSymbols + character / blockSize;
   }
-  switch (const auto script = QChar::script(character)) {
+  switch (const auto script = scriptOf(character)) {
     case QChar::Script_Inherited:
       return QChar::Script_Common;
     // Japanese changes between them with almost every word.
