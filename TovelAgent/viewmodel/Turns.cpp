@@ -13,9 +13,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Qt needs up to 13 ms to open the fonts of a script for each size of text, and as long to
-/// break a word of 16,000 letters into lines.
-constexpr std::size_t atOnce = 2;
 /// Long enough for a frame and for input.
 constexpr auto pause = 30ms;
 
@@ -27,20 +24,18 @@ Turns& Turns::ofProcess() {
 }
 
 bool Turns::take() {
-  if (taken_ == atOnce) {
+  if (taken_) {
     waits_ = true;
     return false;
   }
-  if (taken_ == 0) {
-    // The pause follows what the turns take; else it may be over before the window goes on.
-    QTimer::singleShot(0, this, [this] { QTimer::singleShot(pause, this, &Turns::begin); });
-  }
-  ++taken_;
+  taken_ = true;
+  // The pause follows what the turn takes; else it may be over before the window goes on.
+  QTimer::singleShot(0, this, [this] { QTimer::singleShot(pause, this, &Turns::end); });
   return true;
 }
 
-void Turns::begin() {
-  taken_ = 0;
+void Turns::end() {
+  taken_ = false;
   if (std::exchange(waits_, false)) {
     Q_EMIT eased();
   }

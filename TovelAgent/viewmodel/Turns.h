@@ -3,15 +3,14 @@
 
 #pragma once
 
-#include <cstddef>
-
 #include <QObject>
 
 namespace quillmark {
 
 /// Shows what takes the window long to show for the first time, such as a long text, in
-/// turns: two such things now, the next two after a pause for a frame and for input. UI
-/// thread only.
+/// turns: one such thing now, the next after a pause for a frame and for input. Qt needs up
+/// to 13 ms to open the fonts of a script for each size of text, and as long to break a word
+/// of 16,000 letters into lines. UI thread only.
 class Turns : public QObject {
   Q_OBJECT
 
@@ -30,9 +29,9 @@ class Turns : public QObject {
   void eased();
 
  private:
-  void begin();
+  void end();
 
-  std::size_t taken_ = 0;
+  bool taken_ = false;
   bool waits_ = false;
 };
 
